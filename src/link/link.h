@@ -55,6 +55,8 @@ class Link {
 
     ReplyDispatch& Handlers() { return handlers_; }
 
+    bool IsOpen() const { return port_.IsOpen(); }
+
     /// Every command handler begins with this. @return whether the port is open; when it is not,
     /// the user is told `kSelectPortText`, unless the device vanished during this very handler,
     /// which the user knows from the exchange that failed.

@@ -27,6 +27,15 @@ class HandlerGate {
         HandlerGate& gate_;
     };
 
+    /// Wraps what a control's signal calls, so that it counts as a handler while it runs.
+    template <typename Function>
+    auto Handler(Function function) {
+        return [this, function](auto&&... arguments) {
+            const Scope scope(*this);
+            function(std::forward<decltype(arguments)>(arguments)...);
+        };
+    }
+
     bool IsBusy() const { return depth_ > 0; }
 
     /// @param onBegin runs whenever an outermost handler begins

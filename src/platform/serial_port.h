@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace zelvar {
 
@@ -46,6 +48,13 @@ class SerialPort {
     /// Sleeps until a byte waits, the time is over or the device is gone.
     /// @param seconds at least 0
     virtual void WaitForByte(double seconds) = 0;
+
+    /// @param onLost runs on the interface thread, soon after an open device has vanished
+    virtual void SetLostHandler(std::function<void()> onLost) = 0;
 };
+
+/// Tries every port number. @return in ascending order those that can be opened now; the port
+/// ends closed.
+std::vector<int> FindUsablePorts(SerialPort& port);
 
 }  // namespace zelvar

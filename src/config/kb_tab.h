@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+
+#include "status/central_unit.h"
+
+namespace zelvar {
+
+/// The "KB-x" tab: the central unit.
+class KBTab : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit KBTab(QWidget* parent = nullptr);
+
+    /// Names the unit that was found and shows what it supports.
+    void ShowUnit(const CentralUnit& unit);
+
+  private:
+    void ShowKBConfigView(const KBConfigView& view);
+    QFrame* BuildConfigFrame();
+
+    QLabel* lblKBtype_;
+    QFrame* frmConfig_;
+    std::array<QCheckBox*, 8> chkKBEconfig_{};
+    std::array<QPushButton*, 2> cmdConfig_{};
+    std::array<QPushButton*, 3> cmdTM_{};
+};
+
+}  // namespace zelvar

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/drop_down_list.h"
+#include "status/selection_list.h"
+
+namespace zelvar {
+
+/// Fills a module selection list anew and selects what the list says, which reports a choice.
+void FillSelection(DropDownList& control, const SelectionList& list);
+
+}  // namespace zelvar

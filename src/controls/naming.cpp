@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "controls/naming.h"
+
+namespace zelvar {
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString IndexedName(std::string_view name, int index) {
+    return QStringLiteral("%1(%2)").arg(Text(name)).arg(index);
+}
+
+}  // namespace zelvar

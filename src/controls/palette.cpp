@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "controls/palette.h"
+
+#include <QApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelvar {
+
+namespace {
+
+/// Relative luminance of a colour as WCAG 2 defines it, 0..1.
+double Luminance(const QColor& colour) {
+    const auto channel = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) +
+           0.0722 * channel(colour.blueF());
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+    const double lighter = std::max(Luminance(a), Luminance(b));
+    const double darker = std::min(Luminance(a), Luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// What WCAG 2 asks of large or bold text.
+constexpr double kReadableContrast = 3.0;
+
+}  // namespace
+
+QColor ColourOf(std::uint32_t bgr) {
+    constexpr std::uint32_t kChannel = 0xFF;
+    return QColor(static_cast<int>(bgr & kChannel), static_cast<int>((bgr >> 8) & kChannel),
+                  static_cast<int>((bgr >> 16) & kChannel));
+}
+
+void SetTextColour(QWidget* control, std::uint32_t bgr) {
+    const QColor colour = ColourOf(bgr);
+    const QColor ground = QApplication::palette(control).color(QPalette::Window);
+    const bool readable = Contrast(colour, ground) >= kReadableContrast;
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, colour);
+    palette.setColor(QPalette::Text, colour);
+    if (!readable) {
+        palette.setColor(QPalette::Window, QColor(Qt::white));
+    }
+    control->setPalette(palette);
+    control->setAutoFillBackground(!readable);
+}
+
+}  // namespace zelvar

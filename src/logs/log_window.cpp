@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "logs/log_window.h"
+
+#include <QFontDatabase>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextCursor>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "controls/naming.h"
+
+namespace zelvar {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+constexpr int kLogFontPoints = 9;
+
+}  // namespace
+
+LogWindowKind MessageLogKind() {
+    return {QStringLiteral("dlgMsgLog"),
+            QStringLiteral("Message Log"),
+            QStringLiteral("txtMsgLog"),
+            QSize(7095 / kTwipsPerPixel, 6855 / kTwipsPerPixel),
+            QStringLiteral(">> 4F 81 82 83 84 85 86 87 D8  << 4F 81 82 83 84 85 86 87 D8"),
+            true};
+}
+
+LogWindowKind AlarmLogKind() {
+    return {QStringLiteral("dlgAlarmLog"),
+            QStringLiteral("ZelvarConfig Alarm Log"),
+            QStringLiteral("txtAlarmLog"),
+            QSize(3375 / kTwipsPerPixel, 6855 / kTwipsPerPixel),
+            QStringLiteral("Overcurrent block 255 detected ............."),
+            false};
+}
+
+LogWindow::LogWindow(const LogWindowKind& kind)
+    : SecondaryWindow(kind.name, kind.caption), text_(new QPlainTextEdit(this)) {
+    Named(text_, kind.textName, kind.caption);
+    if (kind.fixedPitch) {
+        QFont font(QStringLiteral("Lucida Console"), kLogFontPoints);
+        font.setStyleHint(QFont::Monospace);
+        font.setFixedPitch(true);
+        text_->setFont(font);
+    }
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text_->setReadOnly(true);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text_->setUndoRedoEnabled(false);
+    text_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    text_->setMaximumBlockCount(kLogLines);
+
+    auto* clear = Named(new QPushButton(QStringLiteral("Clear Log"), this), "cmdClear",
+                        "Clear the log");
+    connect(clear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(text_);
+    layout->addWidget(clear, 0, Qt::AlignHCenter);
+
+    const int frame = 2 * (text_->frameWidth() + static_cast<int>(text_->document()->documentMargin()));
+    const int lineWidth = text_->fontMetrics().horizontalAdvance(kind.widestLine) + frame +
+                          text_->verticalScrollBar()->sizeHint().width();
+    const QMargins margins = layout->contentsMargins();
+    resize(std::max(kind.textSize.width(), lineWidth) + margins.left() + margins.right(),
+           kind.textSize.height() + layout->spacing() + clear->sizeHint().height() + margins.top() +
+               margins.bottom());
+}
+
+void LogWindow::Append(const QString& text) {
+    QScrollBar* scrollBar = text_->verticalScrollBar();
+    const bool atEnd = scrollBar->value() == scrollBar->maximum();
+    // A cursor of its own leaves the user's selection alone.
+    QTextCursor end(text_->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(text);
+    if (atEnd) {
+        scrollBar->setValue(scrollBar->maximum());
+    }
+}
+
+void LogWindow::cmdClear_Click() { text_->clear(); }
+
+}  // namespace zelvar

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zelvar {
+
+/// The central unit as a status request found it.
+struct CentralUnit {
+    /// The code of its type, -1 until known.
+    int type = -1;
+    /// As `DecodeVersion` gives it, -1 until known.
+    int version = -1;
+};
+
+/// What the "KB-x" tab shows of its controls.
+struct KBConfigView {
+    bool showFrame = true;
+    bool full = true;
+    /// Told, but without effect.
+    bool spare = true;
+
+    bool operator==(const KBConfigView&) const = default;
+};
+
+/// The caption of `lblKBtype`, "?" for an unknown type.
+std::string_view CentralUnitCaption(const CentralUnit& unit);
+
+/// The text of the system-version fields: the type's prefix, then the version when known.
+std::string SystemVersionText(const CentralUnit& unit);
+
+/// Which controls of the "KB-x" tab the unit supports.
+KBConfigView KBConfigViewOf(const CentralUnit& unit);
+
+}  // namespace zelvar
