@@ -23,7 +23,9 @@ else()
     target_compile_options(
         zelvar_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                  -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-                                 -Werror)
+                                 -Werror
+                                 # GCC 12 raises a false alarm for concatenated strings (its bug 105651).
+                                 $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endif()
 if(ZELVAR_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
 #include <cstddef>
 
 #include "controls/naming.h"

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
+
 #include <array>
 
 #include "status/central_unit.h"

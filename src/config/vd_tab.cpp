@@ -24,6 +24,8 @@ VDTab::VDTab(QWidget* parent)
     layout->addStretch();
 }
 
-void VDTab::Fill(const SelectionList& list) { FillSelection(*cboVD_, list); }
+void VDTab::Fill(const SelectionList& list) {
+    FillSelection(*cboVD_, list);
+}
 
 }  // namespace zelvar

@@ -28,10 +28,10 @@ void DropDownList::Clear() {
     clear();
 }
 
-void DropDownList::Append(const QString& text, const QVariant& data) {
+void DropDownList::Append(const QString& text, const QVariant& itemData) {
     const QScopedValueRollback<bool> filling(filling_, true);
     const int selected = currentIndex();
-    addItem(text, data);
+    addItem(text, itemData);
     setCurrentIndex(selected);
 }
 

@@ -19,7 +19,7 @@ class DropDownList : public QComboBox {
     void Clear();
 
     /// Adds an entry at the end; the selection stays as it is.
-    void Append(const QString& text, const QVariant& data = QVariant());
+    void Append(const QString& text, const QVariant& itemData = QVariant());
 
     /// The item data of the selected entry. @return `none` when nothing is selected
     int SelectedData(int none) const;

@@ -25,7 +25,7 @@ Control* Named(Control* control, const QString& name, const QString& inWords) {
 }
 
 template <typename Control>
-Control* Named(Control* control, std::string_view name, std::string_view inWords) {
+Control* Named(Control* control, const char* name, const char* inWords) {
     return Named(control, Text(name), Text(inWords));
 }
 

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QVBoxLayout>
+
 #include <algorithm>
 
 #include "controls/naming.h"
@@ -55,15 +56,16 @@ LogWindow::LogWindow(const LogWindowKind& kind)
     text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     text_->setMaximumBlockCount(kLogLines);
 
-    auto* clear = Named(new QPushButton(QStringLiteral("Clear Log"), this), "cmdClear",
-                        "Clear the log");
+    auto* clear =
+        Named(new QPushButton(QStringLiteral("Clear Log"), this), "cmdClear", "Clear the log");
     connect(clear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(text_);
     layout->addWidget(clear, 0, Qt::AlignHCenter);
 
-    const int frame = 2 * (text_->frameWidth() + static_cast<int>(text_->document()->documentMargin()));
+    const int frame =
+        2 * (text_->frameWidth() + static_cast<int>(text_->document()->documentMargin()));
     const int lineWidth = text_->fontMetrics().horizontalAdvance(kind.widestLine) + frame +
                           text_->verticalScrollBar()->sizeHint().width();
     const QMargins margins = layout->contentsMargins();
@@ -84,6 +86,8 @@ void LogWindow::Append(const QString& text) {
     }
 }
 
-void LogWindow::cmdClear_Click() { text_->clear(); }
+void LogWindow::cmdClear_Click() {
+    text_->clear();
+}
 
 }  // namespace zelvar

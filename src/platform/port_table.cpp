@@ -11,14 +11,14 @@ namespace zelvar {
 
 namespace {
 
-std::vector<std::string> DefaultDevices(Platform platform) {
+std::vector<std::string> DefaultDevices(PortNaming naming) {
     std::vector<std::string> devices;
     const auto addRange = [&devices](const std::string& stem, int first, int count) {
         for (int n = first; n < first + count; ++n) {
             devices.push_back(stem + std::to_string(n));
         }
     };
-    if (platform == Platform::Windows) {
+    if (naming == PortNaming::Windows) {
         addRange("COM", 1, kLastPortNumber);
     } else {
         addRange("/dev/ttyS", 0, 4);
@@ -43,21 +43,21 @@ std::vector<std::string> SplitDevices(std::string_view list, char separator) {
 
 }  // namespace
 
-PortTable::PortTable(Platform platform, std::optional<std::string_view> override)
-    : devices_(override ? SplitDevices(*override, platform == Platform::Windows ? ';' : ':')
-                        : DefaultDevices(platform)) {}
+PortTable::PortTable(PortNaming naming, std::optional<std::string_view> override)
+    : devices_(override ? SplitDevices(*override, naming == PortNaming::Windows ? ';' : ':')
+                        : DefaultDevices(naming)) {}
 
 PortTable PortTable::FromEnvironment() {
 #ifdef _WIN32
-    constexpr Platform platform = Platform::Windows;
+    constexpr PortNaming naming = PortNaming::Windows;
 #else
-    constexpr Platform platform = Platform::Linux;
+    constexpr PortNaming naming = PortNaming::Linux;
 #endif
     const char* override = std::getenv("ZELVARCONFIG_PORTS");
     if (override == nullptr) {
-        return PortTable(platform);
+        return PortTable(naming);
     }
-    return PortTable(platform, override);
+    return PortTable(naming, override);
 }
 
 std::string PortTable::DeviceOf(int portNumber) const {

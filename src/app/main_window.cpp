@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "app/main_window.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+#include <optional>
+
+#include "controls/naming.h"
+#include "controls/number_text.h"
+#include "link/reports.h"
+
+namespace zelvar {
+
+namespace {
+
+constexpr const char* kSettings[] = {"19200,o,8,1", "38400,o,8,1"};
+
+/// Data values 1, 0: the fault reset.
+constexpr Command kResetFault{2, {1, 0}};
+
+}  // namespace
+
+MainWindow::MainWindow(const Platform& platform)
+    : platform_(platform),
+      link_(platform.port, platform.pollTimer, platform.clock, platform.messageBox, *this),
+      poller_(link_, platform.port, platform.pollTimer),
+      portBar_(new PortBar(this)),
+      tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
+      vdTab_(new VDTab(this)),
+      jsTab_(new JSTab(this)),
+      kbTab_(new KBTab(this)),
+      testTab_(new TestTab(this)),
+      statusBar_(new StatusBar(this)),
+      dlgMsgLog_(LazyWindow<LogWindow>::OnClose::Unload,
+                 [] { return new LogWindow(MessageLogKind()); }),
+      dlgAlarmLog_(LazyWindow<LogWindow>::OnClose::Unload,
+                   [] { return new LogWindow(AlarmLogKind()); }),
+      dlgZelvarStatus_(LazyWindow<DlgZelvarStatus>::OnClose::Keep,
+                       [] { return new DlgZelvarStatus; }),
+      dlgZelvarStatus44_(LazyWindow<DlgZelvarStatus44>::OnClose::Keep,
+                         [] { return new DlgZelvarStatus44; }) {
+    setObjectName(QStringLiteral("frmZelvarConfig"));
+    setWindowTitle(QStringLiteral("ZelvarConfig 1.40B"));
+    BuildTabs();
+    platform_.gate.SetBeginHandler([this] { link_.BeginHandler(); });
+    platform_.port.SetLostHandler([this] { PortLost(); });
+    ConnectControls();
+    ConnectReplies();
+    Form_Load();
+}
+
+MainWindow::~MainWindow() {
+    platform_.pollTimer.SetEnabled(false);
+    platform_.port.SetLostHandler({});
+    platform_.gate.SetBeginHandler({});
+    Form_Unload();
+}
+
+void MainWindow::BuildTabs() {
+    tabs_->addTab(vdTab_, QStringLiteral("VDxx / QLRX-s"));
+    tabs_->addTab(jsTab_, QStringLiteral("JS70"));
+    tabs_->addTab(kbTab_, QStringLiteral("KB-x"));
+    tabs_->addTab(testTab_, QStringLiteral("TEST"));
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->addWidget(portBar_);
+    layout->addWidget(tabs_, 1);
+    setCentralWidget(centre);
+    setStatusBar(statusBar_);
+}
+
+void MainWindow::ConnectControls() {
+    HandlerGate& gate = platform_.gate;
+    connect(portBar_->cboPort, &DropDownList::Chosen, this,
+            gate.Handler([this] { cboPort_Click(); }));
+    connect(portBar_->cmdRefresh, &QPushButton::clicked, this,
+            gate.Handler([this](bool) { cmdRefresh_Click(); }));
+    connect(portBar_->cmdReset, &QPushButton::clicked, this,
+            gate.Handler([this](bool) { cmdReset_Click(); }));
+    connect(portBar_->cmdStatus, &PressButton::MouseDown, this,
+            gate.Handler([this](int button, int shift) { cmdStatus_MouseDown(button, shift); }));
+    connect(portBar_->lblCom, &ServiceLabel::DblClick, this,
+            gate.Handler([this] { lblCom_DblClick(); }));
+    for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
+        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::toggled, this,
+                gate.Handler([this, index](bool chosen) {
+                    if (chosen) {
+                        optBaud_Click(index);
+                    }
+                }));
+    }
+}
+
+void MainWindow::ConnectReplies() {
+    link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
+        LogWindow& log = dlgAlarmLog_.Get();
+        log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));
+        // In view at once, but without taking the keyboard from whoever is driving.
+        log.BringIntoView(false);
+    });
+    link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const ReplyBuffer& reply) {
+        testTab_->ShowBlockSpeed(ReadBlockSpeedReport(reply));
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Form_Unload();
+}
+
+void MainWindow::Form_Load() {
+    platform_.port.SetSettings(kSettings[0]);
+    ScanPorts();
+    vdTab_->Fill({});
+    jsTab_->Fill({});
+}
+
+void MainWindow::Form_Unload() {
+    dlgMsgLog_.Unload();
+    dlgAlarmLog_.Unload();
+    dlgZelvarStatus_.Unload();
+    dlgZelvarStatus44_.Unload();
+}
+
+void MainWindow::ScanPorts() {
+    portBar_->ShowPorts(FindUsablePorts(platform_.port), platform_.describePort);
+}
+
+bool MainWindow::OpenPort() {
+    if (platform_.port.Open()) {
+        ShowOpenDevice();
+        return true;
+    }
+    statusBar_->ShowDevice(QStringLiteral("No port open"));
+    platform_.messageBox.Tell(std::string(kOpenFailedText), BoxIcon::Exclamation);
+    return false;
+}
+
+void MainWindow::ShowOpenDevice() {
+    const QString baud = portBar_->optBaud[1]->isChecked() ? portBar_->optBaud[1]->text()
+                                                           : portBar_->optBaud[0]->text();
+    statusBar_->ShowDevice(QStringLiteral("Port %1: %2, %3")
+                               .arg(portNumber_)
+                               .arg(platform_.describePort(portNumber_), baud));
+}
+
+void MainWindow::cboPort_Click() {
+    if (platform_.port.IsOpen()) {
+        platform_.port.Close();
+        platform_.pollTimer.SetEnabled(false);
+        ShowSystemState(SystemState::Disconnected);
+    }
+    const int number = ValToInt(portBar_->cboPort->currentText().toStdString(), 0, kLastPortNumber);
+    if (number > 0) {
+        portNumber_ = number;
+        platform_.port.SetPortNumber(number);
+        OpenPort();
+    }
+}
+
+void MainWindow::cmdRefresh_Click() {
+    platform_.port.Close();
+    statusBar_->ShowDevice(QStringLiteral("No port open"));
+    ScanPorts();
+    // The poll timer keeps its state: its next tick finds the port closed.
+    ShowSystemState(SystemState::Disconnected);
+}
+
+void MainWindow::cmdReset_Click() {
+    if (link_.CheckPort()) {
+        link_.Transact(kResetFault);
+    }
+}
+
+void MainWindow::optBaud_Click(int index) {
+    const bool wasOpen = platform_.port.IsOpen();
+    const bool wasPolling = platform_.pollTimer.IsEnabled();
+    platform_.port.Close();
+    platform_.pollTimer.SetEnabled(false);
+    platform_.port.SetSettings(kSettings[index == 0 ? 0 : 1]);
+    if (wasOpen && !OpenPort()) {
+        ShowSystemState(SystemState::Disconnected);
+        return;
+    }
+    platform_.pollTimer.SetEnabled(wasPolling);
+}
+
+void MainWindow::lblCom_DblClick() {
+    dlgMsgLog_.Get().BringIntoView(true);
+    portBar_->optBaud[0]->setVisible(true);
+    portBar_->optBaud[1]->setVisible(true);
+}
+
+void MainWindow::cmdStatus_MouseDown(int button, int shift) {
+    // Shift with the left button and no other key; with Ctrl or Alt it does not count.
+    const bool classic = button == kLeftButton && shift == kShiftKey;
+    if (!link_.CheckPort()) {
+        return;
+    }
+    const std::optional<SystemStatus> status =
+        StatusRequest(link_, *statusBar_, platform_.clock, registry_).Run(classic);
+    if (status) {
+        ShowStatus(*status);
+    }
+}
+
+void MainWindow::ShowStatus(const SystemStatus& status) {
+    kbTab_->ShowUnit(status.unit);
+    vdTab_->Fill(TractionModuleList(registry_, status.classic));
+    jsTab_->Fill(PointMotorModuleList(registry_, status.classic));
+    if (status.classic) {
+        dlgZelvarStatus_.Get().Show(status);
+        dlgZelvarStatus_.Get().BringIntoView(true);
+    } else {
+        dlgZelvarStatus44_.Get().Show(status);
+        dlgZelvarStatus44_.Get().BringIntoView(true);
+    }
+}
+
+void MainWindow::PortLost() {
+    platform_.pollTimer.SetEnabled(false);
+    ShowSystemState(SystemState::Disconnected);
+    statusBar_->ShowDevice(QStringLiteral("Connection to port %1 lost").arg(portNumber_));
+}
+
+bool MainWindow::IsStopTicked() const {
+    return portBar_->Check_Stop->isChecked();
+}
+
+void MainWindow::ShowSystemState(SystemState state) {
+    testTab_->ShowSystemState(state);
+    statusBar_->ShowSystemState(state);
+}
+
+void MainWindow::AppendMessageLog(const std::string& text) {
+    dlgMsgLog_.Get().Append(Text(text));
+}
+
+}  // namespace zelvar

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "controls/spin_field.h"
+
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+#include "controls/number_text.h"
+
+namespace zelvar {
+
+SpinField::SpinField(const QString& spinName, const QString& fieldName, const QString& inWords,
+                     int minimum, int maximum, QWidget* parent)
+    : QAbstractSpinBox(parent), minimum_(minimum), maximum_(maximum) {
+    setObjectName(spinName);
+    setAccessibleName(inWords);
+    lineEdit()->setObjectName(fieldName);
+    lineEdit()->setAccessibleName(inWords);
+    lineEdit()->setText(QString::number(std::clamp(0, minimum, maximum)));
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &SpinField::Change);
+}
+
+int SpinField::Value() const {
+    return ValToInt(text().toStdString(), minimum_, maximum_);
+}
+
+void SpinField::Clamp() {
+    const double number = Val(text().toStdString());
+    if (number < minimum_) {
+        lineEdit()->setText(QString::number(minimum_));
+    } else if (number > maximum_) {
+        lineEdit()->setText(QString::number(maximum_));
+    }
+}
+
+void SpinField::stepBy(int steps) {
+    const int value = std::clamp(Value() + steps, minimum_, maximum_);
+    lineEdit()->setText(QString::number(value));
+    lineEdit()->selectAll();
+    Q_EMIT Stepped();
+}
+
+QValidator::State SpinField::validate(QString& /*input*/, int& /*position*/) const {
+    return QValidator::Acceptable;
+}
+
+void SpinField::fixup(QString& /*input*/) const {}
+
+QAbstractSpinBox::StepEnabled SpinField::stepEnabled() const {
+    const double number = Val(text().toStdString());
+    StepEnabled enabled = StepNone;
+    enabled.setFlag(StepUpEnabled, number < maximum_);
+    enabled.setFlag(StepDownEnabled, number > minimum_);
+    return enabled;
+}
+
+void SpinField::wheelEvent(QWheelEvent* event) {
+    // Scrolling past a field must not change it.
+    if (hasFocus()) {
+        QAbstractSpinBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}
+
+QSize SpinField::sizeHint() const {
+    ensurePolished();
+    const int digits = static_cast<int>(
+        std::max(QString::number(maximum_).size(), QString::number(minimum_).size()));
+    const QString widest(digits + 1, QLatin1Char('0'));
+    constexpr int kCursorWidth = 2;
+    const QSize content(fontMetrics().horizontalAdvance(widest) + kCursorWidth,
+                        lineEdit()->sizeHint().height());
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
+}
+
+QSize SpinField::minimumSizeHint() const {
+    return sizeHint();
+}
+
+}  // namespace zelvar

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "status/dlg_zelvar_status.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <cstddef>
+
+#include "controls/naming.h"
+
+namespace zelvar {
+
+namespace {
+
+QFrame* NewPanel(QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    frame->setFrameShape(QFrame::StyledPanel);
+    return frame;
+}
+
+}  // namespace
+
+DlgZelvarStatus::DlgZelvarStatus()
+    : SecondaryWindow(QStringLiteral("dlgZelvarStatus"),
+                      QStringLiteral("ZelvarConfig - Zelvar Status")) {
+    auto* left = new QVBoxLayout;
+    left->addWidget(BuildSystem());
+    left->addWidget(BuildPointMotorModules());
+    left->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(left);
+    layout->addWidget(BuildTractionModules());
+}
+
+QWidget* DlgZelvarStatus::BuildSystem() {
+    QFrame* panel = NewPanel(this);
+    auto* grid = new QGridLayout(panel);
+    system_ = BuildSystemFields(panel, *grid);
+    // Here the first label goes by another name than in the new view.
+    grid->itemAtPosition(0, 0)->widget()->setObjectName(QStringLiteral("lblStatus"));
+    auto* dip = new QGridLayout;
+    for (int i = 0; i < static_cast<int>(txtDIP_.size()); ++i) {
+        const QString number = QString::number(i + 1);
+        QLabel* label = NewLabel(IndexedName("lblDIP", i), number, panel);
+        label->setAlignment(Qt::AlignHCenter);
+        dip->addWidget(label, 0, i);
+        QLineEdit* field = NewDisplayField(IndexedName("txtDIP", i),
+                                           QStringLiteral("DIP switch %1").arg(number), panel, "");
+        field->setMaximumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("Off")) * 2);
+        dip->addWidget(field, 1, i);
+        txtDIP_[static_cast<std::size_t>(i)] = field;
+    }
+    // The two trailing blanks belong to the caption.
+    grid->addWidget(NewLabel(QStringLiteral("lblDIPstat"), QStringLiteral("DIP status  "), panel),
+                    3, 0, Qt::AlignBottom);
+    grid->addLayout(dip, 3, 1);
+    return panel;
+}
+
+QWidget* DlgZelvarStatus::BuildPointMotorModules() {
+    QFrame* panel = NewPanel(this);
+    auto* grid = new QGridLayout(panel);
+    grid->addWidget(NewLabel(QStringLiteral("lblJSmodule"), QStringLiteral("Module"), panel), 0, 0);
+    grid->addWidget(NewLabel(QStringLiteral("lblJSstatus"), QStringLiteral("Status"), panel), 0, 1);
+    for (int j = 0; j < kClassicJsModules; ++j) {
+        const QString module = QStringLiteral("JS#%1").arg(j);
+        QLineEdit* field = NewDisplayField(IndexedName("txtJSstatus", j),
+                                           QStringLiteral("Status of %1").arg(module), panel);
+        grid->addWidget(NewLabel(IndexedName("lblJS", j), module, panel), j + 1, 0);
+        grid->addWidget(field, j + 1, 1);
+        txtJSstatus_[static_cast<std::size_t>(j)] = field;
+    }
+    return panel;
+}
+
+QWidget* DlgZelvarStatus::BuildTractionModules() {
+    QFrame* panel = NewPanel(this);
+    auto* grid = new QGridLayout(panel);
+    grid->setVerticalSpacing(2);
+    grid->addWidget(NewLabel(QStringLiteral("lblVDmodule"), QStringLiteral("Module"), panel), 0, 0);
+    grid->addWidget(NewLabel(QStringLiteral("lblVDtype"), QStringLiteral("Type"), panel), 0, 1);
+    grid->addWidget(NewLabel(QStringLiteral("lblVDstatus"), QStringLiteral("Status"), panel), 0, 2);
+    for (int m = 0; m < kClassicVDLines; ++m) {
+        const auto index = static_cast<std::size_t>(m);
+        const QString module = QStringLiteral("VD#%1").arg(m);
+        txtVDtype_[index] = NewDisplayField(IndexedName("txtVDtype", m),
+                                            QStringLiteral("Type of %1").arg(module), panel);
+        txtVDstatus_[index] = NewDisplayField(IndexedName("txtVDstatus", m),
+                                              QStringLiteral("Status of %1").arg(module), panel);
+        grid->addWidget(NewLabel(IndexedName("lblVD", m), module, panel), m + 1, 0);
+        grid->addWidget(txtVDtype_[index], m + 1, 1);
+        grid->addWidget(txtVDstatus_[index], m + 1, 2);
+    }
+    return panel;
+}
+
+void DlgZelvarStatus::Show(const SystemStatus& status) {
+    ShowSystemFields(system_, status);
+    for (std::size_t i = 0; i < txtDIP_.size(); ++i) {
+        const QString position = !status.dip        ? QString()
+                                 : (*status.dip)[i] ? QStringLiteral("On")
+                                                    : QStringLiteral("Off");
+        txtDIP_[i]->setText(position);
+    }
+    for (std::size_t j = 0; j < txtJSstatus_.size(); ++j) {
+        txtJSstatus_[j]->setText(Text(ModuleStateText(status.js[j].state)));
+    }
+    for (std::size_t m = 0; m < txtVDtype_.size(); ++m) {
+        txtVDtype_[m]->setText(Text(VDTypeText(status.vdTypes[m])));
+        txtVDstatus_[m]->setText(Text(ModuleStateText(status.vd[m].state)));
+    }
+}
+
+}  // namespace zelvar

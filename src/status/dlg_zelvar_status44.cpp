@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "status/dlg_zelvar_status44.h"
+
+#include <QGridLayout>
+
+#include <cmath>
+#include <cstddef>
+
+#include "controls/naming.h"
+
+namespace zelvar {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+
+int Pixels(int twips) {
+    return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+}
+
+/// Geometry in twips.
+struct FrameRow {
+    const char* caption;
+    int channel;
+    int left, top, width, height;
+};
+
+// Channel 1 stands to the left of channel 0 in each pair.
+constexpr std::array<FrameRow, 6> kFrames{{
+    {"JS-Ch0", 0, 1920, 3000, 1575, 3615},
+    {"JS-Ch1", 1, 240, 3000, 1575, 3615},
+    {"VD-Ch0", 0, 7560, 120, 3855, 6495},
+    {"VD-Ch1", 1, 3600, 120, 3855, 6495},
+    {"YR-Ch0", 0, 13200, 120, 1695, 6495},
+    {"YR-Ch1", 1, 11520, 120, 1575, 6495},
+}};
+
+constexpr int kJsFrames = 0;
+constexpr int kVDFrames = 2;
+constexpr int kYRFrames = 4;
+constexpr int kYRChannel1 = 5;
+
+constexpr int kWidthWithChannel0 = 15030;
+constexpr int kWidthWithoutChannel0 = 9400;
+constexpr int kHeight = 6795;
+/// Where "YR-Ch1" stands when "VD-Ch0" leaves its place.
+constexpr int kYRLeftWithoutChannel0 = 7560;
+
+constexpr int kJsPerChannel = 8;
+/// Small enough for 16 rows and six columns in a frame of fixed size.
+constexpr int kRowFontPixels = 11;
+
+/// The frame of a channel: the pairs list channel 0 first.
+int FrameOf(int firstOfPair, int channel) {
+    return firstOfPair + channel;
+}
+
+QString ModuleInWords(const char* family, int channel, int module) {
+    return QStringLiteral("%1 module %2 on channel %3").arg(Text(family)).arg(module).arg(channel);
+}
+
+}  // namespace
+
+DlgZelvarStatus44::DlgZelvarStatus44()
+    : SecondaryWindow(QStringLiteral("dlgZelvarStatus44"),
+                      QStringLiteral("ZelvarConfig - Zelvar Status")) {
+    BuildSystem();
+    BuildFrames();
+    for (const int channel : {0, 1}) {
+        BuildPointMotorModules(channel);
+        BuildTractionModules(channel);
+        BuildSignalControllers(channel);
+    }
+    // The box starts unticked while all frames show; the layout follows it from its first click.
+    Resize(kWidthWithChannel0);
+}
+
+void DlgZelvarStatus44::BuildSystem() {
+    constexpr int kLeft = 240;
+    constexpr int kTop = 120;
+    constexpr int kWidth = 3255;
+    auto* panel = new QWidget(this);
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(0, 0, 0, 0);
+    system_ = BuildSystemFields(panel, *grid);
+    chkShowChannel0_ = Named(new QCheckBox(QStringLiteral("Show Channel 0"), panel),
+                             "chkShowChannel0", "Show channel 0");
+    grid->addWidget(chkShowChannel0_, 3, 0, 1, 2);
+    panel->setGeometry(Pixels(kLeft), Pixels(kTop), Pixels(kWidth),
+                       Pixels(kFrames[0].top - 2 * kTop));
+    connect(chkShowChannel0_, &QCheckBox::toggled, this,
+            [this](bool checked) { chkShowChannel0_Click(checked); });
+}
+
+void DlgZelvarStatus44::BuildFrames() {
+    for (std::size_t i = 0; i < kFrames.size(); ++i) {
+        const FrameRow& row = kFrames[i];
+        const QString caption = Text(row.caption);
+        auto* frame = Named(new QGroupBox(caption, this),
+                            IndexedName("frmStatus", static_cast<int>(i)), caption);
+        frame->setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
+                           Pixels(row.height));
+        QFont font = frame->font();
+        font.setPixelSize(kRowFontPixels);
+        frame->setFont(font);
+        frmStatus_[i] = frame;
+    }
+}
+
+QGridLayout* DlgZelvarStatus44::NewRows(int frame, int columns) {
+    const auto index = static_cast<std::size_t>(frame);
+    auto* grid = new QGridLayout(frmStatus_[index]);
+    grid->setContentsMargins(3, 2, 3, 3);
+    grid->setSpacing(1);
+    grid->addWidget(
+        NewLabel(IndexedName("lblSSchannel", frame),
+                 QStringLiteral("Channel %1").arg(kFrames[index].channel), frmStatus_[index]),
+        0, 0, 1, columns);
+    return grid;
+}
+
+QLineEdit* DlgZelvarStatus44::NewField(const char* name, int index, const QString& inWords,
+                                       QGroupBox* frame) {
+    QLineEdit* field = NewDisplayField(IndexedName(name, index), inWords, frame);
+    field->setFrame(false);
+    field->setTextMargins(0, 0, 0, 0);
+    field->setMinimumWidth(1);
+    return field;
+}
+
+void DlgZelvarStatus44::BuildTractionModules(int channel) {
+    const int frameIndex = FrameOf(kVDFrames, channel);
+    QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
+    QGridLayout* grid = NewRows(frameIndex, 6);
+    grid->addWidget(NewLabel(IndexedName("lblVDmodule", channel), QStringLiteral("#"), frame), 1,
+                    0);
+    grid->addWidget(NewLabel(IndexedName("lblVDtype", channel), QStringLiteral("Type"), frame), 1,
+                    1);
+    grid->addWidget(
+        NewLabel(IndexedName("lblVDprimary", channel), QStringLiteral("Primary"), frame), 1, 2, 1,
+        2);
+    grid->addWidget(
+        NewLabel(IndexedName("lblVDsecondary", channel), QStringLiteral("Secondary"), frame), 1, 4,
+        1, 2);
+    for (int module = 0; module < kModulesPerChannel; ++module) {
+        const int row = module + 2;
+        const int line = channel * kModulesPerChannel + module;
+        const QString words = ModuleInWords("Traction", channel, module);
+        QLabel* label = NewLabel(IndexedName("lblVD", line), QString::number(module), frame);
+        label->setToolTip(QStringLiteral("Number %1 in the module list").arg(line));
+        grid->addWidget(label, row, 0);
+        QLineEdit* type = NewField("txtVDtype", line, QStringLiteral("Type of ") + words, frame);
+        grid->addWidget(type, row, 1);
+        txtVDtype_[static_cast<std::size_t>(line)] = type;
+        for (const int unit : {0, 1}) {
+            const int index = line + unit * kVDPrimaryLines;
+            const QString unitWords = (unit == 0 ? QStringLiteral("primary unit of ")
+                                                 : QStringLiteral("secondary unit of ")) +
+                                      words;
+            QLineEdit* state =
+                NewField("txtVDstatus", index, QStringLiteral("Status of ") + unitWords, frame);
+            QLineEdit* version =
+                NewField("txtVDversion", index, QStringLiteral("Version of ") + unitWords, frame);
+            grid->addWidget(state, row, 2 + 2 * unit);
+            grid->addWidget(version, row, 3 + 2 * unit);
+            txtVDstatus_[static_cast<std::size_t>(index)] = state;
+            txtVDversion_[static_cast<std::size_t>(index)] = version;
+        }
+    }
+    for (int column = 1; column < 6; ++column) {
+        grid->setColumnStretch(column, 1);
+    }
+}
+
+void DlgZelvarStatus44::BuildPointMotorModules(int channel) {
+    const int frameIndex = FrameOf(kJsFrames, channel);
+    QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
+    QGridLayout* grid = NewRows(frameIndex, 3);
+    grid->addWidget(NewLabel(IndexedName("lblJSmodule", channel), QStringLiteral("#"), frame), 1,
+                    0);
+    grid->addWidget(NewLabel(IndexedName("lblJSstatus", channel), QStringLiteral("Status"), frame),
+                    1, 1);
+    grid->addWidget(
+        NewLabel(IndexedName("lblJSversion", channel), QStringLiteral("Version"), frame), 1, 2);
+    for (int module = 0; module < kJsPerChannel; ++module) {
+        const int j = channel * kJsPerChannel + module;
+        const QString words = ModuleInWords("Point-motor", channel, module);
+        QLabel* label = NewLabel(IndexedName("lblJS", j), QString::number(module), frame);
+        label->setToolTip(QStringLiteral("Number %1 in the module list").arg(j));
+        const auto index = static_cast<std::size_t>(j);
+        txtJSstatus_[index] =
+            NewField("txtJSstatus", j, QStringLiteral("Status of ") + words, frame);
+        txtJSver_[index] = NewField("txtJSver", j, QStringLiteral("Version of ") + words, frame);
+        grid->addWidget(label, module + 2, 0);
+        grid->addWidget(txtJSstatus_[index], module + 2, 1);
+        grid->addWidget(txtJSver_[index], module + 2, 2);
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
+}
+
+void DlgZelvarStatus44::BuildSignalControllers(int channel) {
+    const int frameIndex = FrameOf(kYRFrames, channel);
+    QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
+    QGridLayout* grid = NewRows(frameIndex, 3);
+    grid->addWidget(NewLabel(IndexedName("lblYRmodule", channel), QStringLiteral("#"), frame), 1,
+                    0);
+    for (int module = 0; module < kModulesPerChannel; ++module) {
+        const int k = channel * kModulesPerChannel + module;
+        const QString words = ModuleInWords("Signal", channel, module);
+        const auto index = static_cast<std::size_t>(k);
+        txtYRstatus_[index] =
+            NewField("txtYRstatus", k, QStringLiteral("Status of ") + words, frame);
+        txtYRver_[index] = NewField("txtYRver", k, QStringLiteral("Version of ") + words, frame);
+        grid->addWidget(NewLabel(IndexedName("lblYR", k), QString::number(module), frame),
+                        module + 2, 0);
+        grid->addWidget(txtYRstatus_[index], module + 2, 1);
+        grid->addWidget(txtYRver_[index], module + 2, 2);
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
+}
+
+void DlgZelvarStatus44::Show(const SystemStatus& status) {
+    ShowSystemFields(system_, status);
+    for (std::size_t m = 0; m < txtVDtype_.size(); ++m) {
+        txtVDtype_[m]->setText(Text(VDTypeText(status.vdTypes[m])));
+    }
+    for (std::size_t i = 0; i < txtVDstatus_.size(); ++i) {
+        txtVDstatus_[i]->setText(Text(ModuleStateText(status.vd[i].state)));
+        txtVDversion_[i]->setText(Text(VersionText(status.vd[i])));
+    }
+    for (std::size_t j = 0; j < txtJSstatus_.size(); ++j) {
+        txtJSstatus_[j]->setText(Text(ModuleStateText(status.js[j].state)));
+        txtJSver_[j]->setText(Text(JsVersionText(status.js[j])));
+    }
+    for (std::size_t k = 0; k < txtYRstatus_.size(); ++k) {
+        txtYRstatus_[k]->setText(Text(ModuleStateText(status.yr[k].state)));
+        txtYRver_[k]->setText(Text(VersionText(status.yr[k])));
+    }
+}
+
+void DlgZelvarStatus44::chkShowChannel0_Click(bool checked) {
+    for (std::size_t i = 0; i < kFrames.size(); ++i) {
+        if (kFrames[i].channel == 0) {
+            frmStatus_[i]->setVisible(checked);
+        }
+    }
+    QGroupBox* signals1 = frmStatus_[kYRChannel1];
+    signals1->move(Pixels(checked ? kFrames[kYRChannel1].left : kYRLeftWithoutChannel0),
+                   signals1->y());
+    Resize(checked ? kWidthWithChannel0 : kWidthWithoutChannel0);
+}
+
+void DlgZelvarStatus44::Resize(int widthInTwips) {
+    setFixedSize(Pixels(widthInTwips), Pixels(kHeight));
+}
+
+}  // namespace zelvar

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+
+#include <array>
+
+#include "controls/secondary_window.h"
+#include "status/status_fields.h"
+#include "status/system_report.h"
+
+class QGridLayout;
+
+namespace zelvar {
+
+/// The new view of a status request: both channels with all module families.
+class DlgZelvarStatus44 : public SecondaryWindow {
+    Q_OBJECT
+
+  public:
+    DlgZelvarStatus44();
+
+    void Show(const SystemStatus& status);
+
+  private:
+    void BuildFrames();
+    void BuildSystem();
+    QGridLayout* NewRows(int frame, int columns);
+    void BuildTractionModules(int channel);
+    void BuildPointMotorModules(int channel);
+    void BuildSignalControllers(int channel);
+    QLineEdit* NewField(const char* name, int index, const QString& inWords, QGroupBox* frame);
+    void chkShowChannel0_Click(bool checked);
+    void Resize(int widthInTwips);
+
+    std::array<QGroupBox*, 6> frmStatus_{};
+    SystemFields system_{};
+    std::array<QLineEdit*, kVDPrimaryLines> txtVDtype_{};
+    std::array<QLineEdit*, kVDLines> txtVDstatus_{};
+    std::array<QLineEdit*, kVDLines> txtVDversion_{};
+    std::array<QLineEdit*, kJsModules> txtJSstatus_{};
+    std::array<QLineEdit*, kJsModules> txtJSver_{};
+    std::array<QLineEdit*, kYRModules> txtYRstatus_{};
+    std::array<QLineEdit*, kYRModules> txtYRver_{};
+    QCheckBox* chkShowChannel0_ = nullptr;
+};
+
+}  // namespace zelvar
