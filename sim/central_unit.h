@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "unit_state.h"
+#include "wire.h"
+
+namespace zelvar::sim {
+
+/// Time since any fixed moment; the caller's clock never runs backwards.
+using Time = std::chrono::nanoseconds;
+
+/// A reply before it becomes bytes.
+struct Reply {
+    Payload data;
+    std::uint8_t headerBits = 0;
+
+    bool operator==(const Reply&) const = default;
+};
+
+/// The central unit with the layout behind it: one right command frame in, at most one reply out.
+class CentralUnit {
+  public:
+    explicit CentralUnit(const Layout& layout);
+
+    /// Whether the unit has a command of this shape; the others are only acknowledged.
+    static bool IsKnown(const Payload& command);
+    /// The command's name, as `state` lists it; empty for an unknown one.
+    static std::string_view CommandName(const Payload& command);
+
+    /// Carries the command out. No reply in transparent mode.
+    std::optional<Reply> Handle(const CommandFrame& command, Time now);
+    /// A frame whose checksum was wrong or whose header was none; it gets no reply.
+    void NoteBrokenFrame() { ++brokenFrames_; }
+
+    /// Several lines "name=value", each ended by a line feed.
+    std::string Describe(Time now);
+
+    UnitState& state() { return state_; }
+
+  private:
+    void NoteHeader(const CommandFrame& command);
+
+    UnitState state_;
+    std::map<std::string_view, std::uint64_t> carriedOut_;
+    std::uint64_t frames_ = 0;
+    std::uint64_t brokenFrames_ = 0;
+    std::uint64_t unknownCommands_ = 0;
+    std::uint64_t repeatedToggles_ = 0;
+    std::optional<bool> lastToggle_;
+};
+
+}  // namespace zelvar::sim

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "console.h"
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr int kMostReplies = 1'000'000;     // far more than any test asks for
+constexpr int kLongestDelayMs = 3'600'000;  // an hour
+constexpr int kMostByte = 255;
+constexpr std::size_t kStrayDigits = 2;
+
+/// Carries out a command whose only argument is a number of replies.
+template <typename Action>
+ConsoleResult WithReplies(ConsoleArguments arguments, Action action) {
+    const std::optional<int> replies = ParseNumber(arguments[0], 0, kMostReplies);
+    if (!replies) {
+        return RangeError("N", 0, kMostReplies);
+    }
+    action(*replies);
+    return Ok();
+}
+
+ConsoleResult Silent(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<bool> silent = ParseSwitch(arguments[0]);
+    if (!silent) {
+        return Error("on or off expected");
+    }
+    context.faults.SetSilent(*silent);
+    return Ok();
+}
+
+ConsoleResult SilentAfter(ConsoleContext& context, ConsoleArguments arguments) {
+    return WithReplies(arguments, [&](int replies) { context.faults.SetSilentAfter(replies); });
+}
+
+ConsoleResult Late(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> delay = ParseNumber(arguments[0], 0, kLongestDelayMs);
+    if (!delay) {
+        return RangeError("MS", 0, kLongestDelayMs);
+    }
+    std::optional<int> replies;
+    if (arguments.size() > 1) {
+        replies = ParseNumber(arguments[1], 0, kMostReplies);
+        if (!replies) {
+            return RangeError("N", 0, kMostReplies);
+        }
+    }
+    context.faults.SetLate(std::chrono::milliseconds(*delay), replies);
+    return Ok();
+}
+
+ConsoleResult BadChecksum(ConsoleContext& context, ConsoleArguments arguments) {
+    return WithReplies(arguments, [&](int replies) { context.faults.SetBadChecksums(replies); });
+}
+
+ConsoleResult Short(ConsoleContext& context, ConsoleArguments arguments) {
+    return WithReplies(arguments, [&](int replies) { context.faults.SetShort(replies); });
+}
+
+ConsoleResult Double(ConsoleContext& context, ConsoleArguments arguments) {
+    return WithReplies(arguments, [&](int replies) { context.faults.SetDouble(replies); });
+}
+
+ConsoleResult Stray(ConsoleContext& context, ConsoleArguments arguments) {
+    std::vector<std::uint8_t> bytes;
+    for (const std::string& word : arguments) {
+        const std::optional<int> byte =
+            word.size() <= kStrayDigits ? ParseNumber("0x" + word, 0, kMostByte) : std::nullopt;
+        if (!byte) {
+            return Error("two hexadecimal digits expected: " + word);
+        }
+        bytes.push_back(static_cast<std::uint8_t>(*byte));
+    }
+    context.faults.AddStray(bytes);
+    return Ok();
+}
+
+ConsoleResult Drip(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> gap = ParseNumber(arguments[0], 0, kLongestDelayMs);
+    if (!gap) {
+        return RangeError("MS", 0, kLongestDelayMs);
+    }
+    context.faults.SetDrip(std::chrono::milliseconds(*gap));
+    return Ok();
+}
+
+constexpr ConsoleCommand kCommands[] = {
+    {"silent", "on|off", 1, 1, &Silent},
+    {"silent-after", "N", 1, 1, &SilentAfter},
+    {"late", "MS [N]", 1, 2, &Late},
+    {"bad-checksum", "N", 1, 1, &BadChecksum},
+    {"short", "N", 1, 1, &Short},
+    {"double", "N", 1, 1, &Double},
+    {"stray", "HEX...", 1, kAnyNumberOfArguments, &Stray},
+    {"drip", "MS", 1, 1, &Drip},
+};
+
+}  // namespace
+
+std::span<const ConsoleCommand> FaultConsoleCommands() {
+    return kCommands;
+}
+
+}  // namespace zelvar::sim

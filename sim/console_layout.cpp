@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "console.h"
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr int kMostBlock = kBlocks - 1;
+constexpr int kMostInput = kFeedbackInputs - 1;
+constexpr int kMostSpeed = 63;
+constexpr int kMostStatus = 127;  // seven bits on the line
+
+ConsoleResult SetOvercurrent(ConsoleContext& context, ConsoleArguments arguments, bool detected) {
+    const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
+    if (!block) {
+        return RangeError("B", 0, kMostBlock);
+    }
+    UnitState& state = context.unit.state();
+    state.overcurrent.set(static_cast<std::size_t>(*block), detected);
+    state.reports.Push(OvercurrentReport(*block, detected));
+    return Ok();
+}
+
+ConsoleResult Overcurrent(ConsoleContext& context, ConsoleArguments arguments) {
+    return SetOvercurrent(context, arguments, true);
+}
+
+ConsoleResult Release(ConsoleContext& context, ConsoleArguments arguments) {
+    return SetOvercurrent(context, arguments, false);
+}
+
+ConsoleResult Speed(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
+    const std::optional<int> speed = ParseNumber(arguments[1], 0, kMostSpeed);
+    const bool forward = arguments[2] == "forward";
+    if (!block) {
+        return RangeError("B", 0, kMostBlock);
+    }
+    if (!speed) {
+        return RangeError("S", 0, kMostSpeed);
+    }
+    if (!forward && arguments[2] != "reverse") {
+        return Error("forward or reverse expected");
+    }
+    context.unit.state().reports.Push(BlockSpeedReport(*block, *speed, forward));
+    return Ok();
+}
+
+ConsoleResult Feedback(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> input = ParseNumber(arguments[0], 0, kMostInput);
+    const std::optional<int> active = ParseNumber(arguments[1], 0, 1);
+    if (!input) {
+        return RangeError("I", 0, kMostInput);
+    }
+    if (!active) {
+        return Error("0 or 1 expected");
+    }
+    UnitState& state = context.unit.state();
+    const auto index = static_cast<std::size_t>(*input);
+    if (state.feedback.test(index) != (*active == 1)) {
+        state.feedback.flip(index);
+        state.reports.Push(FeedbackReport(*input, *active == 1));
+    }
+    return Ok();
+}
+
+ConsoleResult SetFlag(ConsoleArguments arguments, bool& flag) {
+    const std::optional<bool> value = ParseSwitch(arguments[0]);
+    if (!value) {
+        return Error("on or off expected");
+    }
+    flag = *value;
+    return Ok();
+}
+
+ConsoleResult Fault(ConsoleContext& context, ConsoleArguments arguments) {
+    return SetFlag(arguments, context.unit.state().fault);
+}
+
+ConsoleResult Hold(ConsoleContext& context, ConsoleArguments arguments) {
+    return SetFlag(arguments, context.unit.state().hold);
+}
+
+ConsoleResult Module(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> address = ParseNumber(arguments[0], 0, kModuleAddresses - 1);
+    if (!address) {
+        return RangeError("ADDRESS", 0, kModuleAddresses - 1);
+    }
+    ModuleSlot& slot = context.unit.state().layout.At(*address);
+    if (arguments[1] == "absent" && arguments.size() == 2) {
+        slot.status = kAbsentStatus;
+        return Ok();
+    }
+    if (arguments[1] != "status" || arguments.size() != 3) {
+        return Error("absent or status BYTE expected");
+    }
+    const std::optional<int> status = ParseNumber(arguments[2], 0, kMostStatus);
+    if (!status) {
+        return RangeError("BYTE", 0, kMostStatus);
+    }
+    slot.status = static_cast<std::uint8_t>(*status);
+    return Ok();
+}
+
+constexpr ConsoleCommand kCommands[] = {
+    {"overcurrent", "B", 1, 1, &Overcurrent},
+    {"release", "B", 1, 1, &Release},
+    {"speed", "B S forward|reverse", 3, 3, &Speed},
+    {"feedback", "I 0|1", 2, 2, &Feedback},
+    {"fault", "on|off", 1, 1, &Fault},
+    {"hold", "on|off", 1, 1, &Hold},
+    {"module", "ADDRESS absent|status BYTE", 2, 3, &Module},
+};
+
+}  // namespace
+
+std::span<const ConsoleCommand> LayoutConsoleCommands() {
+    return kCommands;
+}
+
+}  // namespace zelvar::sim

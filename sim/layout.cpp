@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "layout.h"
+
+#include <algorithm>
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr int kSecondType = 1;  // a VD60's second unit reports the VD60's type
+
+struct DefaultModule {
+    int address;
+    int type;
+    ModuleState state;
+    int version;
+    std::uint8_t masterSlave;  // one master in the whole layout
+};
+
+constexpr std::uint8_t kMaster = 1;
+constexpr std::uint8_t kSlave = 2;
+constexpr int kVdF = static_cast<int>(TractionType::kVdF);
+constexpr int kVd60 = static_cast<int>(TractionType::kVd60);
+constexpr int kQlrxS = static_cast<int>(TractionType::kQlrxS);
+
+constexpr DefaultModule kDefaultModules[] = {
+    // Traction, channel 0.
+    {kTractionFamily + 0, kVdF, ModuleState::kOk, 1023, kMaster},
+    {kTractionFamily + 1, kVdF, ModuleState::kIdle, 1023, kSlave},
+    {kTractionFamily + 2, kVdF, ModuleState::kFault, 1010, kSlave},
+    {kTractionFamily + 4, kVd60, ModuleState::kOk, 2014, kSlave},
+    {kSecondaryFamily + 4, kSecondType, ModuleState::kOk, 2014, kSlave},
+    {kTractionFamily + 5, kVd60, ModuleState::kFault, 2014, kSlave},
+    {kSecondaryFamily + 5, kVdF, ModuleState::kOk, 2014, kSlave},  // a wrong type: an error
+    {kTractionFamily + 6, kVd60, ModuleState::kOk, 2010, kSlave},  // its second unit is missing
+    {kTractionFamily + 8, kQlrxS, ModuleState::kOk, 1102, 0},
+    {kTractionFamily + 9, kQlrxS, ModuleState::kIdle, 0, 0},
+    // Traction, channel 1.
+    {kTractionFamily + 16, kVdF, ModuleState::kOk, 1023, kSlave},
+    {kTractionFamily + 19, kVd60, ModuleState::kOk, 2014, kSlave},
+    {kSecondaryFamily + 19, kSecondType, ModuleState::kIdle, 2014, kSlave},
+    {kTractionFamily + 24, kQlrxS, ModuleState::kFault, 1102, 0},
+    // Point motors.
+    {kPointFamily + 0, 0, ModuleState::kOk, 1201, 0},
+    {kPointFamily + 1, 0, ModuleState::kHold, 1201, 0},
+    {kPointFamily + 3, 0, ModuleState::kIdle, 0, 0},
+    {kPointFamily + 17, 0, ModuleState::kOk, 1201, 0},
+    {kPointFamily + 23, 0, ModuleState::kOk, 1200, 0},
+    // Signals.
+    {kSignalFamily + 0, 0, ModuleState::kOk, 1005, 0},
+    {kSignalFamily + 2, 0, ModuleState::kIdle, 1005, 0},
+    {kSignalFamily + 18, 0, ModuleState::kOk, 0, 0},
+};
+
+}  // namespace
+
+std::uint8_t StatusByte(int type, ModuleState state) {
+    unsigned status = kPresentBit | (static_cast<unsigned>(type) & kTypeMask);
+    if (state == ModuleState::kIdle) {
+        status |= kIdleBit;
+    } else if (state != ModuleState::kOk) {
+        status |= kFaultBit;
+    }
+    return static_cast<std::uint8_t>(status);
+}
+
+Layout EmptyLayout() {
+    return {};
+}
+
+Layout DefaultLayout() {
+    Layout layout;
+    for (const DefaultModule& module : kDefaultModules) {
+        layout.At(module.address) = {StatusByte(module.type, module.state), module.version,
+                                     module.masterSlave, 0};
+    }
+    return layout;
+}
+
+Layout KbfLayout() {
+    Layout layout = DefaultLayout();
+    layout.unitType = static_cast<int>(UnitType::kKbF);
+    layout.protocolVersion = 3100;
+    layout.dipSwitches = 0x0A;
+    return layout;
+}
+
+std::optional<Layout> LayoutByName(std::string_view name) {
+    struct Named {
+        std::string_view name;
+        Layout (*make)();
+    };
+    static constexpr Named kLayouts[] = {
+        {"default", &DefaultLayout}, {"kbf", &KbfLayout}, {"none", &EmptyLayout}};
+    for (const Named& entry : kLayouts) {
+        if (entry.name == name) {
+            return entry.make();
+        }
+    }
+    return std::nullopt;
+}
+
+int LineAddress(int line) {
+    const int primaryLines = kTractionLines / 2;
+    return line < primaryLines ? kTractionFamily + line : kSecondaryFamily + line - primaryLines;
+}
+
+std::optional<VersionBytes> EncodeVersion(int version) {
+    // The places hold 0..15, 0..7, 0..15 and 0..7, so a place can carry more than its digit.
+    const int thousands = std::clamp(version / 1000, 0, 15);
+    const int afterThousands = version - thousands * 1000;
+    const int hundreds = std::clamp(afterThousands / 100, 0, 7);
+    const int afterHundreds = afterThousands - hundreds * 100;
+    const int tens = std::clamp(afterHundreds / 10, 0, 15);
+    const int ones = afterHundreds - tens * 10;
+    if (ones < 0 || ones > 7) {
+        return std::nullopt;
+    }
+    return VersionBytes{static_cast<std::uint8_t>((thousands << 3) | hundreds),
+                        static_cast<std::uint8_t>((tens << 3) | ones)};
+}
+
+}  // namespace zelvar::sim

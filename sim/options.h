@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "layout.h"
+
+namespace zelvar::sim {
+
+/// What the command line asks for.
+struct Options {
+    std::string link;    // empty: no link
+    std::string device;  // empty: a pseudo-terminal of its own
+    bool pacing = true;
+    int baud = 19200;
+    Layout layout = DefaultLayout();
+    std::chrono::milliseconds unitDelay{1};
+    bool help = false;
+    bool version = false;
+};
+
+/// The options, or the message that says what is wrong with them.
+std::variant<Options, std::string> ParseOptions(std::span<const std::string_view> arguments);
+
+/// The text of `--help`.
+std::string_view UsageText();
+
+}  // namespace zelvar::sim

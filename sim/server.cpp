@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "server.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+#include <sys/select.h>
+#include <unistd.h>
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr std::size_t kConsoleChunk = 1024;
+constexpr std::size_t kLongestLine = 65'536;  // what is longer is no command
+
+volatile std::sig_atomic_t endRequested = 0;
+
+extern "C" void RequestEnd(int) {
+    endRequested = 1;
+}
+
+/// Signals end the wait, and nothing but the wait: they stay blocked everywhere else.
+sigset_t CatchSignals() {
+    struct sigaction action {};
+    action.sa_handler = &RequestEnd;
+    sigset_t blocked;
+    sigset_t original;
+    sigemptyset(&blocked);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+        sigaddset(&blocked, number);
+    }
+    std::signal(SIGPIPE, SIG_IGN);
+    sigprocmask(SIG_BLOCK, &blocked, &original);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        sigdelset(&original, number);
+    }
+    return original;
+}
+
+Time Now() {
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
+
+timespec ToTimespec(Time duration) {
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(duration);
+    timespec result{};
+    result.tv_sec = seconds.count();
+    result.tv_nsec = static_cast<decltype(result.tv_nsec)>((duration - seconds).count());
+    return result;
+}
+
+void PrintTrace(bool sent, std::span<const std::uint8_t> bytes) {
+    std::string text = sent ? "trace tx" : "trace rx";
+    for (const std::uint8_t byte : bytes) {
+        std::array<char, 4> hex{};
+        std::snprintf(hex.data(), hex.size(), " %02X", static_cast<unsigned>(byte));
+        text += hex.data();
+    }
+    std::cout << text << std::endl;
+}
+
+}  // namespace
+
+Server::Server(const Options& options)
+    : options_(options), unit_(options.layout), engine_(unit_, faults_, options.unitDelay) {}
+
+bool Server::OpenLine() {
+    const std::optional<std::string> error =
+        options_.device.empty() ? line_.OpenPseudoTerminal(options_.link, options_.baud)
+                                : line_.OpenDevice(options_.device, options_.baud);
+    if (error) {
+        std::cerr << "zelvarsim: " << *error << std::endl;
+        return false;
+    }
+    std::cout << "ready " << line_.path() << std::endl;
+    return true;
+}
+
+int Server::Run() {
+    if (!OpenLine()) {
+        return 1;
+    }
+    const sigset_t whileWaiting = CatchSignals();
+    while (!done_ && endRequested == 0) {
+        fd_set readable;
+        FD_ZERO(&readable);
+        int highest = -1;
+        const auto watch = [&](int fd) {
+            FD_SET(fd, &readable);
+            highest = std::max(highest, fd);
+        };
+        if (consoleOpen_) {
+            watch(STDIN_FILENO);
+        }
+        if (line_.IsOpen()) {
+            watch(line_.fd());
+        }
+        timespec timeout{};
+        const std::optional<Time> due = engine_.NextDue();
+        if (due) {
+            timeout = ToTimespec(std::max(*due - Now(), Time(0)));
+        }
+        const int ready = pselect(highest + 1, &readable, nullptr, nullptr,
+                                  due ? &timeout : nullptr, &whileWaiting);
+        if (ready < 0) {
+            continue;  // a signal; nothing else can fail here
+        }
+        // The console first: what it asks for holds from the next frame on.
+        if (consoleOpen_ && FD_ISSET(STDIN_FILENO, &readable)) {
+            ServeConsole();
+        }
+        if (line_.IsOpen() && FD_ISSET(line_.fd(), &readable)) {
+            ServeLine();
+        }
+        const std::vector<std::uint8_t> bytes = engine_.TakeDue(Now());
+        if (line_.IsOpen()) {
+            line_.Write(bytes);
+        }
+    }
+    line_.Close();
+    return exitCode_;
+}
+
+void Server::ServeLine() {
+    const std::optional<std::vector<std::uint8_t>> bytes = line_.Read();
+    if (!bytes) {
+        // Only a device can go; a pseudo-terminal is held open from here.
+        std::cerr << "zelvarsim: the device is gone" << std::endl;
+        exitCode_ = 1;
+        done_ = true;
+        return;
+    }
+    if (bytes->empty()) {
+        return;
+    }
+    // A device's own line takes its time; only a pseudo-terminal has to be slowed down.
+    const int baud = line_.Baud();
+    const bool paced = options_.pacing && line_.IsPseudoTerminal();
+    engine_.SetBaud(paced ? (baud > 0 ? baud : options_.baud) : 0);
+    engine_.Receive(*bytes, Now());
+}
+
+void Server::ServeConsole() {
+    std::array<char, kConsoleChunk> chunk{};
+    const ssize_t count = read(STDIN_FILENO, chunk.data(), chunk.size());
+    if (count < 0 && (errno == EINTR || errno == EAGAIN)) {
+        return;
+    }
+    if (count <= 0) {
+        consoleOpen_ = false;
+        done_ = isatty(STDIN_FILENO) != 0;
+        return;
+    }
+    input_.append(chunk.data(), static_cast<std::size_t>(count));
+    for (std::size_t end = input_.find('\n'); end != std::string::npos; end = input_.find('\n')) {
+        const std::string line = input_.substr(0, end);
+        input_.erase(0, end + 1);
+        RunLine(line);
+    }
+    if (input_.size() > kLongestLine) {
+        input_.clear();
+    }
+}
+
+void Server::RunLine(const std::string& line) {
+    ConsoleContext context{unit_, faults_, Now()};
+    const ConsoleResult result = RunConsoleLine(context, line);
+    if (!result.text.empty() && result.action != ConsoleAction::kReconnect) {
+        std::cout << result.text << std::endl;
+    }
+    Act(result.action);
+}
+
+void Server::Act(ConsoleAction action) {
+    switch (action) {
+        case ConsoleAction::kNone:
+            break;
+        case ConsoleAction::kTraceOn:
+            engine_.SetTrace(&PrintTrace);
+            break;
+        case ConsoleAction::kTraceOff:
+            engine_.SetTrace(nullptr);
+            break;
+        case ConsoleAction::kHangUp:
+            line_.Close();
+            engine_.Reset();
+            break;
+        case ConsoleAction::kReconnect:
+            engine_.Reset();
+            std::cout << (OpenLine() ? "ok" : "error cannot open the line") << std::endl;
+            break;
+        case ConsoleAction::kQuit:
+            done_ = true;
+            break;
+    }
+}
+
+}  // namespace zelvar::sim

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "central_unit.h"
+#include "console.h"
+#include "faults.h"
+#include "line_engine.h"
+#include "options.h"
+#include "serial_line.h"
+
+namespace zelvar::sim {
+
+/// The running program: waits for the line, the console, the next byte's time and the end.
+class Server {
+  public:
+    explicit Server(const Options& options);
+
+    /// Serves until `quit` or a signal; the exit code.
+    int Run();
+
+  private:
+    bool OpenLine();
+    void ServeLine();
+    void ServeConsole();
+    void RunLine(const std::string& line);
+    void Act(ConsoleAction action);
+
+    Options options_;
+    CentralUnit unit_;
+    Faults faults_;
+    LineEngine engine_;
+    SerialLine line_;
+    std::string input_;  // of the console, up to the next line feed
+    bool consoleOpen_ = true;
+    bool done_ = false;
+    int exitCode_ = 0;
+};
+
+}  // namespace zelvar::sim
