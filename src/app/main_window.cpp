@@ -17,6 +17,10 @@ namespace {
 
 constexpr const char* kSettings[] = {"19200,o,8,1", "38400,o,8,1"};
 
+// In pixels at 96 dpi: every tab fits without scrolling, on small screens too.
+constexpr int kStartWidth = 960;
+constexpr int kStartHeight = 640;
+
 /// Data values 1, 0: the fault reset.
 constexpr Command kResetFault{2, {1, 0}};
 
@@ -26,13 +30,14 @@ MainWindow::MainWindow(const Platform& platform)
     : platform_(platform),
       link_(platform.port, platform.pollTimer, platform.clock, platform.messageBox, *this),
       poller_(link_, platform.port, platform.pollTimer),
+      statusBar_(new StatusBar(this)),
+      services_{link_, platform.messageBox, *statusBar_, platform.clock, platform.gate},
       portBar_(new PortBar(this)),
       tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
-      vdTab_(new VDTab(this)),
-      jsTab_(new JSTab(this)),
-      kbTab_(new KBTab(this)),
-      testTab_(new TestTab(this)),
-      statusBar_(new StatusBar(this)),
+      vdTab_(new VDTab(services_, registry_, this)),
+      jsTab_(new JSTab(services_, this)),
+      kbTab_(new KBTab(services_, this)),
+      testTab_(new TestTab(services_, this)),
       dlgMsgLog_(LazyWindow<LogWindow>::OnClose::Unload,
                  [] { return new LogWindow(MessageLogKind()); }),
       dlgAlarmLog_(LazyWindow<LogWindow>::OnClose::Unload,
@@ -69,6 +74,7 @@ void MainWindow::BuildTabs() {
     layout->addWidget(tabs_, 1);
     setCentralWidget(centre);
     setStatusBar(statusBar_);
+    resize(kStartWidth, kStartHeight);
 }
 
 void MainWindow::ConnectControls() {

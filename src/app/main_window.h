@@ -13,6 +13,7 @@
 #include "controls/secondary_window.h"
 #include "link/link.h"
 #include "link/poller.h"
+#include "link/services.h"
 #include "logs/log_window.h"
 #include "platform/clock.h"
 #include "platform/handler_gate.h"
@@ -82,13 +83,14 @@ class MainWindow : public QMainWindow, private LinkView {
     /// The number last chosen in `cboPort`.
     int portNumber_ = 0;
 
+    StatusBar* statusBar_;
+    Services services_;
     PortBar* portBar_;
     QTabWidget* tabs_;
     VDTab* vdTab_;
     JSTab* jsTab_;
     KBTab* kbTab_;
     TestTab* testTab_;
-    StatusBar* statusBar_;
 
     LazyWindow<LogWindow> dlgMsgLog_;
     LazyWindow<LogWindow> dlgAlarmLog_;

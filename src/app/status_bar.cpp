@@ -13,6 +13,7 @@ namespace zelvar {
 namespace {
 
 constexpr int kProgressWidth = 160;
+constexpr int kMargin = 6;
 
 /// Keeps the place of a control that is hidden, so that nothing moves when it appears.
 void KeepPlaceWhenHidden(QWidget* widget) {
@@ -69,6 +70,9 @@ StatusBar::StatusBar(QWidget* parent)
     prgBar_->setTextVisible(false);
     addWidget(lblBarStatus_);
     addWidget(lblBarDevice_, 1);
+    // A long device path is cut, it must not widen the window.
+    lblBarDevice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblBarStatus_->setContentsMargins(kMargin, 0, kMargin, 0);
     for (QWidget* widget : {static_cast<QWidget*>(lblBarProgress_), static_cast<QWidget*>(prgBar_),
                             static_cast<QWidget*>(cmdCancel_)}) {
         addPermanentWidget(widget);

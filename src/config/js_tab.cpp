@@ -10,7 +10,7 @@
 
 namespace zelvar {
 
-JSTab::JSTab(QWidget* parent)
+JSTab::JSTab(const Services& /*services*/, QWidget* parent)
     : QWidget(parent),
       cboJS_(Named(new DropDownList(this), "cboJS", "Point-motor module")),
       cmdGetJSConfig_(Named(new QPushButton(QStringLiteral("Get Configuration"), this),

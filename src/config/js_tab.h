@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "controls/drop_down_list.h"
+#include "link/services.h"
 #include "status/selection_list.h"
 
 namespace zelvar {
@@ -16,7 +17,7 @@ class JSTab : public QWidget {
     Q_OBJECT
 
   public:
-    explicit JSTab(QWidget* parent = nullptr);
+    JSTab(const Services& services, QWidget* parent = nullptr);
 
     /// Fills `cboJS` anew and selects what the list says.
     void Fill(const SelectionList& list);

@@ -37,7 +37,7 @@ constexpr std::array<const char*, 3> kTransparentCaptions{
 
 }  // namespace
 
-KBTab::KBTab(QWidget* parent)
+KBTab::KBTab(const Services& /*services*/, QWidget* parent)
     : QWidget(parent),
       lblKBtype_(Named(new QLabel(QStringLiteral("?"), this), "lblKBtype", "Central unit type")),
       frmConfig_(BuildConfigFrame()) {

@@ -10,6 +10,7 @@
 
 #include <array>
 
+#include "link/services.h"
 #include "status/central_unit.h"
 
 namespace zelvar {
@@ -19,7 +20,7 @@ class KBTab : public QWidget {
     Q_OBJECT
 
   public:
-    explicit KBTab(QWidget* parent = nullptr);
+    KBTab(const Services& services, QWidget* parent = nullptr);
 
     /// Names the unit that was found and shows what it supports.
     void ShowUnit(const CentralUnit& unit);

@@ -10,7 +10,7 @@
 
 namespace zelvar {
 
-VDTab::VDTab(QWidget* parent)
+VDTab::VDTab(const Services& /*services*/, const ModuleRegistry& /*registry*/, QWidget* parent)
     : QWidget(parent),
       cboVD_(Named(new DropDownList(this), "cboVD", "Traction module")),
       lblVDtype_(Named(new QLabel(this), "lblVDtype", "Type of the traction module")) {

@@ -6,6 +6,8 @@
 #include <QWidget>
 
 #include "controls/drop_down_list.h"
+#include "link/services.h"
+#include "status/module_registry.h"
 #include "status/selection_list.h"
 
 namespace zelvar {
@@ -15,7 +17,7 @@ class VDTab : public QWidget {
     Q_OBJECT
 
   public:
-    explicit VDTab(QWidget* parent = nullptr);
+    VDTab(const Services& services, const ModuleRegistry& registry, QWidget* parent = nullptr);
 
     /// Fills `cboVD` anew and selects what the list says.
     void Fill(const SelectionList& list);

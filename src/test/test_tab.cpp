@@ -10,7 +10,7 @@
 
 namespace zelvar {
 
-TestTab::TestTab(QWidget* parent)
+TestTab::TestTab(const Services& /*services*/, QWidget* parent)
     : QWidget(parent),
       lblTestSystemStatus_(Named(new QLabel(this), "lblTestSystemStatus", "System status")),
       txtTestBlock_(Named(new QLineEdit(QStringLiteral("0"), this), "txtTestBlock", "Block")),

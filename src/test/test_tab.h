@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "link/reports.h"
+#include "link/services.h"
 #include "link/system_status.h"
 
 namespace zelvar {
@@ -16,7 +17,7 @@ class TestTab : public QWidget {
     Q_OBJECT
 
   public:
-    explicit TestTab(QWidget* parent = nullptr);
+    TestTab(const Services& services, QWidget* parent = nullptr);
 
     void ShowSystemState(SystemState state);
 
