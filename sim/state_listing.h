@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ostream>
+
+#include "unit_state.h"
+
+namespace zelvar::sim {
+
+/// The unit and its modules, one "name=value" a line.
+void ListUnit(std::ostream& out, const UnitState& state);
+/// Both memories of every module that is there.
+void ListMemories(std::ostream& out, const UnitState& state);
+
+}  // namespace zelvar::sim
