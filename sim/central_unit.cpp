@@ -27,8 +27,13 @@ void CentralUnit::NoteHeader(const CommandFrame& command) {
     lastToggle_ = command.Toggle();
 }
 
-std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) {
+void CentralUnit::Advance(Time now) {
     state_.now = now;
+    state_.drive.Advance(now, state_.reports);
+}
+
+std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) {
+    Advance(now);
     if (state_.transparent) {
         ++passedThrough_;
         return std::nullopt;
@@ -38,6 +43,8 @@ std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) 
     if (const CommandRow* row = FindCommand(command.data); row != nullptr) {
         ++carriedOut_[row->name];
         data = row->run(state_, command.data).value_or(Payload{});
+        // What took effect at once is reported with the next poll.
+        Advance(now);
     } else {
         ++unknownCommands_;
     }
@@ -53,6 +60,7 @@ std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) 
 void CentralUnit::Reboot(Time now) {
     state_.now = now;
     state_.memories.Restart();
+    state_.drive.Restart();
     state_.transparent = false;
     state_.fault = false;
     state_.hold = false;
@@ -63,7 +71,7 @@ void CentralUnit::Reboot(Time now) {
 }
 
 std::string CentralUnit::Describe(Time now) {
-    state_.now = now;
+    Advance(now);
     std::ostringstream out;
     ListUnit(out, state_);
     out << "frames=" << frames_ << '\n'
@@ -74,6 +82,7 @@ std::string CentralUnit::Describe(Time now) {
     for (const auto& [name, times] : carriedOut_) {
         out << "command." << name << '=' << times << '\n';
     }
+    ListDrive(out, state_);
     ListMemories(out, state_);
     return out.str();
 }

@@ -36,6 +36,8 @@ class CentralUnit {
     /// A frame whose checksum was wrong or whose header was none; it gets no reply.
     void NoteBrokenFrame() { ++brokenFrames_; }
 
+    /// Lets time pass up to `now`; `Handle` and `Describe` do so on their own.
+    void Advance(Time now);
     /// Switched off and on: permanent settings hold again, transparent mode ends, and so do fault,
     /// hold and what waited to be reported.
     void Reboot(Time now);

@@ -5,8 +5,8 @@
 namespace zelvar::sim {
 
 std::span<const std::span<const CommandRow>> CommandTables() {
-    static const std::span<const CommandRow> kTables[] = {StatusCommands(), ModuleCommands(),
-                                                          UnitCommands()};
+    static const std::span<const CommandRow> kTables[] = {
+        StatusCommands(), ModuleCommands(), UnitCommands(), DriveCommands(), AccessoryCommands()};
     return kTables;
 }
 

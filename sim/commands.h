@@ -72,6 +72,10 @@ struct CommandRow {
 std::span<const CommandRow> StatusCommands();
 /// Settings of traction and point modules.
 std::span<const CommandRow> ModuleCommands();
+/// Locomotives, blocks and their links.
+std::span<const CommandRow> DriveCommands();
+/// Points, signals and outputs.
+std::span<const CommandRow> AccessoryCommands();
 /// Configuration, options and transparent mode of the unit.
 std::span<const CommandRow> UnitCommands();
 

@@ -44,7 +44,12 @@ ConsoleResult Speed(ConsoleContext& context, ConsoleArguments arguments) {
     if (!forward && arguments[2] != "reverse") {
         return Error("forward or reverse expected");
     }
-    context.unit.state().reports.Push(BlockSpeedReport(*block, *speed, forward));
+    UnitState& state = context.unit.state();
+    context.unit.Advance(context.now);
+    state.drive.SetBlockSpeed(*block, *speed, forward, 0);
+    context.unit.Advance(context.now);
+    // Asked for, so it is reported even when nothing has changed.
+    state.reports.PushLatest(BlockSpeedReport(*block, *speed, forward));
     return Ok();
 }
 

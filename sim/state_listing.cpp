@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "state_listing.h"
 
+#include <cstdlib>
+
 namespace zelvar::sim {
 
 namespace {
@@ -55,6 +57,56 @@ void ListPoints(std::ostream& out, const UnitState& state, int position) {
     }
 }
 
+void ListBlocks(std::ostream& out, const Drive& drive) {
+    for (std::size_t number = 0; number < drive.blocks().size(); ++number) {
+        const Block& block = drive.blocks()[number];
+        const bool moves = block.speed.speed() != 0 || block.speed.target() != 0;
+        if (moves || block.light || !block.forward) {
+            out << "block." << number << "=speed:" << std::abs(block.speed.speed())
+                << ",direction:" << (block.RunsForward() ? "forward" : "reverse")
+                << ",target:" << std::abs(block.speed.target()) << ",light:" << block.light << '\n';
+        }
+    }
+    for (const auto& [ends, inverted] : drive.links()) {
+        out << "link." << ends.first << '.' << ends.second << '='
+            << (inverted ? "inverted" : "straight") << '\n';
+    }
+}
+
+void ListDcc(std::ostream& out, const DccDecoder& decoder, const DccLocomotive& locomotive) {
+    out << "dcc." << (decoder.longAddress ? "long." : "short.") << decoder.address
+        << "=steps:" << locomotive.steps << ",speed:" << locomotive.speed
+        << ",direction:" << (locomotive.forward ? "forward" : "reverse")
+        << ",block:" << locomotive.block << ",emergency-stop:" << locomotive.emergencyStop
+        << ",functions:";
+    const char* separator = "";
+    for (std::size_t number = 0; number < locomotive.functions.size(); ++number) {
+        if (locomotive.functions.test(number)) {
+            out << separator << number;
+            separator = "+";
+        }
+    }
+    out << '\n';
+}
+
+void ListAccessories(std::ostream& out, const Accessories& accessories) {
+    const auto position = [](bool thrown) { return thrown ? "thrown" : "straight"; };
+    for (const auto& [device, thrown] : accessories.points) {
+        out << "point." << device << '=' << position(thrown) << '\n';
+    }
+    for (const auto& [place, thrown] : accessories.modulePoints) {
+        out << "point-of-module." << place.first << '.' << place.second << '=' << position(thrown)
+            << '\n';
+    }
+    for (const auto& [place, aspect] : accessories.aspects) {
+        out << "aspect." << place.first << '.' << place.second << '=' << aspect << '\n';
+    }
+    for (const auto& [output, setting] : accessories.outputs) {
+        out << "output." << output << "=instruction:" << setting.instruction
+            << ",parameter:" << setting.parameter << '\n';
+    }
+}
+
 }  // namespace
 
 void ListUnit(std::ostream& out, const UnitState& state) {
@@ -76,6 +128,20 @@ void ListUnit(std::ostream& out, const UnitState& state) {
     ListSet(out, "overcurrent", state.overcurrent);
     ListSet(out, "feedback", state.feedback);
     out << "pending-reports=" << state.reports.size() << '\n';
+}
+
+void ListDrive(std::ostream& out, const UnitState& state) {
+    out << "hfi=" << state.hfiLevel << '\n';
+    ListBlocks(out, state.drive);
+    for (const auto& [decoder, locomotive] : state.drive.dcc()) {
+        ListDcc(out, decoder, locomotive);
+    }
+    for (const auto& [decoder, locomotive] : state.drive.mcc()) {
+        out << "mcc." << decoder << "=half-steps:" << locomotive.halfSteps.speed()
+            << ",target:" << locomotive.halfSteps.target() << ",functions:" << locomotive.functions
+            << ",emergency-stop:" << locomotive.emergencyStop << '\n';
+    }
+    ListAccessories(out, state.accessories);
 }
 
 void ListMemories(std::ostream& out, const UnitState& state) {

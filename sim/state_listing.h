@@ -10,6 +10,8 @@ namespace zelvar::sim {
 
 /// The unit and its modules, one "name=value" a line.
 void ListUnit(std::ostream& out, const UnitState& state);
+/// Blocks that run, are lit or head backwards, links, decoders and accessories.
+void ListDrive(std::ostream& out, const UnitState& state);
 /// Both memories of every module that is there.
 void ListMemories(std::ostream& out, const UnitState& state);
 

@@ -5,6 +5,7 @@
 #include <bitset>
 #include <chrono>
 
+#include "drive.h"
 #include "layout.h"
 #include "memories.h"
 #include "reports.h"
@@ -32,6 +33,9 @@ struct UnitState {
     ReportQueue reports;
     std::bitset<kBlocks> overcurrent;
     std::bitset<kFeedbackInputs> feedback;
+    Drive drive;
+    Accessories accessories;
+    int hfiLevel = 0;  // the system's own, 0..15
 };
 
 }  // namespace zelvar::sim
