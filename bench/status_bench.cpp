@@ -58,8 +58,8 @@ int main(int argc, char** argv) {
     zelvar::QtTimer timer(gate, zelvar::kPollInterval);
     const zelvar::SteadyClock clock;
     zelvar::QtMessageBox box;
-    zelvar::MainWindow window(
-        {port, timer, clock, box, gate, [](int number) { return QString::number(number); }});
+    const auto describe = [](int number) { return QString::number(number); };
+    zelvar::MainWindow window({port, timer, clock, box, gate, describe, describe});
     window.show();
     QApplication::processEvents();
     window.findChild<QComboBox*>(QStringLiteral("cboPort"))->setCurrentIndex(0);

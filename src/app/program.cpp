@@ -26,6 +26,7 @@ QString DescribePort(const PortTable& table, int number) {
 
 Program::Program()
     : window_({port_, pollTimer_, clock_, messageBox_, gate_,
+               [this](int number) { return Text(table_.DeviceOf(number)); },
                [this](int number) { return DescribePort(table_, number); }}) {
     pollTimer_.SetHandler([this] { window_.Timer1_Timer(); });
     messageBox_.SetParent(&window_);
