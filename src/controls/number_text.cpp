@@ -48,11 +48,30 @@ std::size_t NumberEnd(std::string_view text) {
     return end;
 }
 
+/// The decimal exponent of a number's first digit that is not 0, counted from the point.
+long Magnitude(std::string_view mantissa) {
+    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<long>(mantissa.find_first_not_of("0."));
+    return first < point ? point - first : point - first + 1;
+}
+
 /// A number that does not fit a double is either too large or too close to 0.
 double OutOfRange(std::string_view number) {
-    const std::size_t exponent = number.find_first_of("eE");
-    const bool tiny = exponent != std::string_view::npos && number[exponent + 1] == '-';
-    return tiny ? 0.0 : std::numeric_limits<double>::max();
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    long exponent = 0;
+    if (mark < number.size()) {
+        const bool negative = number[mark + 1] == '-';
+        const std::size_t digits = number.find_first_of("0123456789", mark);
+        const auto result =
+            std::from_chars(number.data() + digits, number.data() + number.size(), exponent);
+        if (result.ec == std::errc::result_out_of_range) {
+            // No text is long enough to make up for such an exponent.
+            return negative ? 0.0 : std::numeric_limits<double>::max();
+        }
+        exponent = negative ? -exponent : exponent;
+    }
+    const bool large = Magnitude(number.substr(0, mark)) > -exponent;
+    return large ? std::numeric_limits<double>::max() : 0.0;
 }
 
 }  // namespace
