@@ -57,7 +57,6 @@ TEST_F(EndlessWait, NothingButCancelReacts) {
     program->Click("cmdReset");
     program->Ask({"doubleclick", "lblCom"});
     program->Ask({"close", "frmZelvarConfig"});
-    const std::string tab = program->Text("frmZelvarConfig/lblBarProgress");
     program->Click("cmdCancel");
     ExpectEndedWithoutAView();
     EXPECT_TRUE(program->IsChecked("Check_Stop"));

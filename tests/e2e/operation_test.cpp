@@ -137,8 +137,7 @@ TEST_F(Operation, TheMessageLogIsWrittenWhileItIsClosed) {
     EXPECT_EQ(program->Window("dlgMsgLog"), "hidden");
     program->Ask({"doubleclick", "lblCom"});
     ASSERT_TRUE(program->Says({"window", "dlgMsgLog"}, "visible"));
-    EXPECT_EQ(program->Text("txtMsgLog"),
-              ">> 2A 81 80 D5" + std::string(15, ' ') + "  << 08 F8\n");
+    EXPECT_EQ(program->Text("txtMsgLog"), ">> 2A 81 80 D5" + std::string(15, ' ') + "  << 08 F8\n");
 }
 
 TEST_F(Operation, TheLogOfAStatusRequestIsWhatWentOverTheLine) {

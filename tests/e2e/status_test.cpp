@@ -27,13 +27,13 @@ struct TractionModule {
 
 // The modules of the simulated default layout, as a person reads them.
 const std::vector<TractionModule> kTractionModules{
-    {0, "VD-F"}, {1, "VD-F"},   {2, "VD-F"},   {4, "VD60"},  {5, "VD60"},   {6, "VD60"},
+    {0, "VD-F"},   {1, "VD-F"},   {2, "VD-F"},  {4, "VD60"},  {5, "VD60"},   {6, "VD60"},
     {8, "QLRX-s"}, {9, "QLRX-s"}, {16, "VD-F"}, {19, "VD60"}, {24, "QLRX-s"}};
 const std::vector<Unit> kTractionUnits{
-    {0, "OK", "1.02 C"},  {1, "Idle", "1.02 C"},   {2, "Fault", "1.01"},  {4, "OK", "2.01 D"},
-    {5, "Fault", "2.01 D"}, {6, "OK", "2.01"},     {8, "OK", "1.10 B"},   {9, "Idle", "?"},
-    {16, "OK", "1.02 C"}, {19, "OK", "2.01 D"},    {24, "Fault", "1.10 B"}, {36, "OK", "2.01 D"},
-    {37, "Error", kNone}, {51, "Idle", "2.01 D"}};
+    {0, "OK", "1.02 C"},    {1, "Idle", "1.02 C"}, {2, "Fault", "1.01"},    {4, "OK", "2.01 D"},
+    {5, "Fault", "2.01 D"}, {6, "OK", "2.01"},     {8, "OK", "1.10 B"},     {9, "Idle", "?"},
+    {16, "OK", "1.02 C"},   {19, "OK", "2.01 D"},  {24, "Fault", "1.10 B"}, {36, "OK", "2.01 D"},
+    {37, "Error", kNone},   {51, "Idle", "2.01 D"}};
 const std::vector<Unit> kPointMotorModules{{0, "OK", "1.20 A"},
                                            {1, "Hold", "1.20 A"},
                                            {3, "Idle", kNone},
@@ -53,8 +53,8 @@ class StatusViews : public Journey {
                      const std::vector<Unit>& units) {
         for (int line = 0; line < lines; ++line) {
             Unit expected{line, kNone, kNone};
-            for (const Unit& unit : units) {
-                expected = unit.line == line ? unit : expected;
+            for (const Unit& known : units) {
+                expected = known.line == line ? known : expected;
             }
             ExpectField(kNewView, Indexed(stateField, line), expected.status);
             ExpectField(kNewView, Indexed(versionField, line), expected.version);
@@ -75,8 +75,8 @@ class StatusViews : public Journey {
     }
 
     void ExpectClassicModules() {
-        const std::vector<std::string> types{"VD-F", "VD-F", "VD-F", "N.A.", "VD-F", "VD-F",
-                                             "VD-F", "N.A.", "QLRX-s", "QLRX-s"};
+        const std::vector<std::string> types{"VD-F", "VD-F", "VD-F", "N.A.",   "VD-F",
+                                             "VD-F", "VD-F", "N.A.", "QLRX-s", "QLRX-s"};
         const std::vector<std::string> states{"OK",    "OK", "Fault", "--", "OK",
                                               "Fault", "OK", "--",    "OK", "OK"};
         for (int line = 0; line < 16; ++line) {
@@ -236,15 +236,18 @@ INSTANTIATE_TEST_SUITE_P(State, SystemField,
 TEST_F(StatusViews, ShowChannel0HidesAndShowsItsFrames) {
     StartAndOpen();
     RequestStatus();
-    const auto width = [this] {
-        return program->AskOne({"geometry", kNewView}).substr(4).substr(0);
+    const auto size = [this] {
+        const std::string place = program->AskOne({"geometry", kNewView});
+        return place.substr(place.find(' ', place.find(' ') + 1) + 1);
     };
+    EXPECT_FALSE(program->IsChecked("chkShowChannel0"));
+    EXPECT_TRUE(program->IsVisible("frmStatus(2)")) << "the layout follows the first click";
     program->Click("chkShowChannel0");
     for (const char* frame : {"frmStatus(0)", "frmStatus(2)", "frmStatus(4)"}) {
         EXPECT_TRUE(program->IsVisible(frame)) << frame;
     }
     EXPECT_EQ(program->AskOne({"geometry", "frmStatus(5)"}), "768 8 105 433");
-    const std::string wide = width();
+    EXPECT_EQ(size(), "1002 453");
     program->Click("chkShowChannel0");
     for (const char* frame : {"frmStatus(0)", "frmStatus(2)", "frmStatus(4)"}) {
         EXPECT_FALSE(program->IsVisible(frame)) << frame;
@@ -253,7 +256,7 @@ TEST_F(StatusViews, ShowChannel0HidesAndShowsItsFrames) {
         EXPECT_TRUE(program->IsVisible(frame)) << frame;
     }
     EXPECT_EQ(program->AskOne({"geometry", "frmStatus(5)"}), "504 8 105 433");
-    EXPECT_NE(width(), wide);
+    EXPECT_EQ(size(), "627 453");
 }
 
 }  // namespace
