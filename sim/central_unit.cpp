@@ -5,27 +5,9 @@
 #include <sstream>
 
 #include "commands.h"
+#include "state_listing.h"
 
 namespace zelvar::sim {
-
-namespace {
-
-template <std::size_t count>
-std::string ListSet(const std::bitset<count>& bits) {
-    std::ostringstream out;
-    for (std::size_t index = 0; index < count; ++index) {
-        if (bits.test(index)) {
-            out << (out.tellp() == std::streampos(0) ? "" : ",") << index;
-        }
-    }
-    return out.str();
-}
-
-}  // namespace
-
-CentralUnit::CentralUnit(const Layout& layout) {
-    state_.layout = layout;
-}
 
 bool CentralUnit::IsKnown(const Payload& command) {
     return FindCommand(command) != nullptr;
@@ -45,37 +27,63 @@ void CentralUnit::NoteHeader(const CommandFrame& command) {
     lastToggle_ = command.Toggle();
 }
 
-std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time) {
+void CentralUnit::Advance(Time now) {
+    state_.now = now;
+    state_.drive.Advance(now, state_.reports);
+}
+
+std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) {
+    Advance(now);
+    if (state_.transparent) {
+        ++passedThrough_;
+        return std::nullopt;
+    }
     NoteHeader(command);
     Payload data;
     if (const CommandRow* row = FindCommand(command.data); row != nullptr) {
         ++carriedOut_[row->name];
         data = row->run(state_, command.data).value_or(Payload{});
+        // What took effect at once is reported with the next poll.
+        Advance(now);
     } else {
         ++unknownCommands_;
+    }
+    if (deferred_ > 0 && data.size() > 0) {
+        --deferred_;
+        state_.reports.Push(data);
+        data = {};
     }
     const int bits = (state_.fault ? kHeaderFaultBit : 0) | (state_.hold ? kHeaderHoldBit : 0);
     return Reply{data, static_cast<std::uint8_t>(bits)};
 }
 
-std::string CentralUnit::Describe(Time) {
+void CentralUnit::Reboot(Time now) {
+    state_.now = now;
+    state_.memories.Restart();
+    state_.drive.Restart();
+    state_.transparent = false;
+    state_.fault = false;
+    state_.hold = false;
+    state_.stopRequested = false;
+    state_.reports.Clear();
+    deferred_ = 0;
+    lastToggle_.reset();
+}
+
+std::string CentralUnit::Describe(Time now) {
+    Advance(now);
     std::ostringstream out;
-    out << "unit-type=" << state_.layout.unitType << '\n'
-        << "system-version=" << state_.layout.systemVersion << '\n'
-        << "protocol-version=" << state_.layout.protocolVersion << '\n'
-        << "fault=" << state_.fault << '\n'
-        << "hold=" << state_.hold << '\n'
-        << "stop=" << state_.stopRequested << '\n'
-        << "overcurrent=" << ListSet(state_.overcurrent) << '\n'
-        << "feedback=" << ListSet(state_.feedback) << '\n'
-        << "pending-reports=" << state_.reports.size() << '\n'
-        << "frames=" << frames_ << '\n'
+    ListUnit(out, state_);
+    out << "frames=" << frames_ << '\n'
         << "broken-frames=" << brokenFrames_ << '\n'
+        << "passed-through=" << passedThrough_ << '\n'
         << "unknown-commands=" << unknownCommands_ << '\n'
         << "repeated-toggles=" << repeatedToggles_ << '\n';
     for (const auto& [name, times] : carriedOut_) {
         out << "command." << name << '=' << times << '\n';
     }
+    ListDrive(out, state_);
+    ListMemories(out, state_);
     return out.str();
 }
 

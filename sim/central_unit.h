@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -13,9 +12,6 @@
 #include "wire.h"
 
 namespace zelvar::sim {
-
-/// Time since any fixed moment; the caller's clock never runs backwards.
-using Time = std::chrono::nanoseconds;
 
 /// A reply before it becomes bytes.
 struct Reply {
@@ -28,7 +24,7 @@ struct Reply {
 /// The central unit with the layout behind it: one right command frame in, at most one reply out.
 class CentralUnit {
   public:
-    explicit CentralUnit(const Layout& layout);
+    explicit CentralUnit(const Layout& layout) : state_(layout) {}
 
     /// Whether the unit has a command of this shape; the others are only acknowledged.
     static bool IsKnown(const Payload& command);
@@ -39,6 +35,14 @@ class CentralUnit {
     std::optional<Reply> Handle(const CommandFrame& command, Time now);
     /// A frame whose checksum was wrong or whose header was none; it gets no reply.
     void NoteBrokenFrame() { ++brokenFrames_; }
+
+    /// Lets time pass up to `now`; `Handle` and `Describe` do so on their own.
+    void Advance(Time now);
+    /// Switched off and on: permanent settings hold again, transparent mode ends, and so do fault,
+    /// hold and what waited to be reported.
+    void Reboot(Time now);
+    /// The next `replies` replies that carry something are empty; a later poll brings the content.
+    void DeferContent(int replies) { deferred_ = replies; }
 
     /// Several lines "name=value", each ended by a line feed.
     std::string Describe(Time now);
@@ -54,6 +58,8 @@ class CentralUnit {
     std::uint64_t brokenFrames_ = 0;
     std::uint64_t unknownCommands_ = 0;
     std::uint64_t repeatedToggles_ = 0;
+    std::uint64_t passedThrough_ = 0;
+    int deferred_ = 0;
     std::optional<bool> lastToggle_;
 };
 

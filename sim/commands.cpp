@@ -5,7 +5,8 @@
 namespace zelvar::sim {
 
 std::span<const std::span<const CommandRow>> CommandTables() {
-    static const std::span<const CommandRow> kTables[] = {StatusCommands()};
+    static const std::span<const CommandRow> kTables[] = {
+        StatusCommands(), ModuleCommands(), UnitCommands(), DriveCommands(), AccessoryCommands()};
     return kTables;
 }
 

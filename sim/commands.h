@@ -70,6 +70,14 @@ struct CommandRow {
 
 /// Polls and what the unit tells of itself and of the layout.
 std::span<const CommandRow> StatusCommands();
+/// Settings of traction and point modules.
+std::span<const CommandRow> ModuleCommands();
+/// Locomotives, blocks and their links.
+std::span<const CommandRow> DriveCommands();
+/// Points, signals and outputs.
+std::span<const CommandRow> AccessoryCommands();
+/// Configuration, options and transparent mode of the unit.
+std::span<const CommandRow> UnitCommands();
 
 /// The row that fits; the first one when there are several, null when the unit does not know it.
 const CommandRow* FindCommand(const Payload& data);

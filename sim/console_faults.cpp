@@ -77,6 +77,10 @@ ConsoleResult Stray(ConsoleContext& context, ConsoleArguments arguments) {
     return Ok();
 }
 
+ConsoleResult Defer(ConsoleContext& context, ConsoleArguments arguments) {
+    return WithReplies(arguments, [&](int replies) { context.unit.DeferContent(replies); });
+}
+
 ConsoleResult Drip(ConsoleContext& context, ConsoleArguments arguments) {
     const std::optional<int> gap = ParseNumber(arguments[0], 0, kLongestDelayMs);
     if (!gap) {
@@ -95,6 +99,7 @@ constexpr ConsoleCommand kCommands[] = {
     {"double", "N", 1, 1, &Double},
     {"stray", "HEX...", 1, kAnyNumberOfArguments, &Stray},
     {"drip", "MS", 1, 1, &Drip},
+    {"defer", "N", 1, 1, &Defer},
 };
 
 }  // namespace

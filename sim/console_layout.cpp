@@ -9,7 +9,8 @@ namespace {
 constexpr int kMostBlock = kBlocks - 1;
 constexpr int kMostInput = kFeedbackInputs - 1;
 constexpr int kMostSpeed = 63;
-constexpr int kMostStatus = 127;  // seven bits on the line
+constexpr int kMostValue = 127;     // seven bits on the line
+constexpr int kMostPolls = 10'000;  // minutes of polling
 
 ConsoleResult SetOvercurrent(ConsoleContext& context, ConsoleArguments arguments, bool detected) {
     const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
@@ -43,7 +44,12 @@ ConsoleResult Speed(ConsoleContext& context, ConsoleArguments arguments) {
     if (!forward && arguments[2] != "reverse") {
         return Error("forward or reverse expected");
     }
-    context.unit.state().reports.Push(BlockSpeedReport(*block, *speed, forward));
+    UnitState& state = context.unit.state();
+    context.unit.Advance(context.now);
+    state.drive.SetBlockSpeed(*block, *speed, forward, 0);
+    context.unit.Advance(context.now);
+    // Asked for, so it is reported even when nothing has changed.
+    state.reports.PushLatest(BlockSpeedReport(*block, *speed, forward));
     return Ok();
 }
 
@@ -95,11 +101,67 @@ ConsoleResult Module(ConsoleContext& context, ConsoleArguments arguments) {
     if (arguments[1] != "status" || arguments.size() != 3) {
         return Error("absent or status BYTE expected");
     }
-    const std::optional<int> status = ParseNumber(arguments[2], 0, kMostStatus);
+    const std::optional<int> status = ParseNumber(arguments[2], 0, kMostValue);
     if (!status) {
-        return RangeError("BYTE", 0, kMostStatus);
+        return RangeError("BYTE", 0, kMostValue);
     }
     slot.status = static_cast<std::uint8_t>(*status);
+    return Ok();
+}
+
+ConsoleResult MasterSlave(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> line = ParseNumber(arguments[0], 0, kTractionLines - 1);
+    const std::optional<int> mode = ParseNumber(arguments[1], 0, kMostValue);
+    if (!line) {
+        return RangeError("M", 0, kTractionLines - 1);
+    }
+    if (!mode) {
+        return RangeError("V", 0, kMostValue);
+    }
+    auto& memory = context.unit.state().memories.traction[static_cast<std::size_t>(*line)];
+    for (const bool permanent : {false, true}) {
+        memory.Part(permanent)[kMasterSlaveParameter] = static_cast<std::uint8_t>(*mode);
+    }
+    return Ok();
+}
+
+ConsoleResult Clock(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> line = ParseNumber(arguments[0], 0, kTractionLines - 1);
+    const std::optional<int> clock = ParseNumber(arguments[1], 0, kMostValue);
+    if (!line) {
+        return RangeError("M", 0, kTractionLines - 1);
+    }
+    if (!clock) {
+        return RangeError("V", 0, kMostValue);
+    }
+    context.unit.state().layout.At(LineAddress(*line)).clock = static_cast<std::uint8_t>(*clock);
+    return Ok();
+}
+
+ConsoleResult MuteModule(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> address = ParseNumber(arguments[0], 0, kModuleAddresses - 1);
+    const std::optional<bool> mute = ParseSwitch(arguments[1]);
+    if (!address) {
+        return RangeError("ADDRESS", 0, kModuleAddresses - 1);
+    }
+    if (!mute) {
+        return Error("on or off expected");
+    }
+    context.unit.state().muted.set(static_cast<std::size_t>(*address), *mute);
+    return Ok();
+}
+
+ConsoleResult AnswerDelay(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> polls = ParseNumber(arguments[0], 0, kMostPolls);
+    if (!polls) {
+        return RangeError("N", 0, kMostPolls);
+    }
+    context.unit.state().answerDelay = *polls;
+    return Ok();
+}
+
+ConsoleResult Reboot(ConsoleContext& context, ConsoleArguments) {
+    context.unit.Reboot(context.now);
     return Ok();
 }
 
@@ -111,6 +173,11 @@ constexpr ConsoleCommand kCommands[] = {
     {"fault", "on|off", 1, 1, &Fault},
     {"hold", "on|off", 1, 1, &Hold},
     {"module", "ADDRESS absent|status BYTE", 2, 3, &Module},
+    {"ms", "M V", 2, 2, &MasterSlave},
+    {"clock", "M V", 2, 2, &Clock},
+    {"mute-module", "ADDRESS on|off", 2, 2, &MuteModule},
+    {"answer-delay", "N", 1, 1, &AnswerDelay},
+    {"reboot", "", 0, 0, &Reboot},
 };
 
 }  // namespace

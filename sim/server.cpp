@@ -83,10 +83,11 @@ bool Server::OpenLine() {
 }
 
 int Server::Run() {
+    // Before the link is there, so that no signal can end the program and leave it behind.
+    const sigset_t whileWaiting = CatchSignals();
     if (!OpenLine()) {
         return 1;
     }
-    const sigset_t whileWaiting = CatchSignals();
     while (!done_ && endRequested == 0) {
         fd_set readable;
         FD_ZERO(&readable);

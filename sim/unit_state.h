@@ -3,21 +3,39 @@
 #pragma once
 
 #include <bitset>
+#include <chrono>
 
+#include "drive.h"
 #include "layout.h"
+#include "memories.h"
 #include "reports.h"
 
 namespace zelvar::sim {
 
+/// Time since any fixed moment; the caller's clock never runs backwards.
+using Time = std::chrono::nanoseconds;
+
 /// Everything the commands and the console work on.
 struct UnitState {
+    explicit UnitState(const Layout& described) : layout(described), memories(described) {}
+
     Layout layout;
+    Memories memories;
+    Time now{0};
     bool fault = false;
     bool hold = false;
     bool stopRequested = false;
+    /// Passes the line through to a channel or its boot loader and answers nothing itself.
+    bool transparent = false;
+    /// Polls until a module's answer can go out; 0: it is the reply itself.
+    int answerDelay = 1;
+    std::bitset<kModuleAddresses> muted;  // modules that answer no request, by address
     ReportQueue reports;
     std::bitset<kBlocks> overcurrent;
     std::bitset<kFeedbackInputs> feedback;
+    Drive drive;
+    Accessories accessories;
+    int hfiLevel = 0;  // the system's own, 0..15
 };
 
 }  // namespace zelvar::sim

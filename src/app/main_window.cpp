@@ -3,6 +3,7 @@
 #include "app/main_window.h"
 
 #include <QCloseEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <optional>
@@ -20,6 +21,9 @@ constexpr const char* kSettings[] = {"19200,o,8,1", "38400,o,8,1"};
 // In pixels at 96 dpi: every tab fits without scrolling, on small screens too.
 constexpr int kStartWidth = 960;
 constexpr int kStartHeight = 640;
+
+/// In milliseconds: the window is painted by then.
+constexpr int kDescribeDelay = 100;
 
 /// Data values 1, 0: the fault reset.
 constexpr Command kResetFault{2, {1, 0}};
@@ -131,7 +135,11 @@ void MainWindow::Form_Unload() {
 }
 
 void MainWindow::ScanPorts() {
-    portBar_->ShowPorts(FindUsablePorts(platform_.port), platform_.describePort);
+    portBar_->ShowPorts(FindUsablePorts(platform_.port));
+    portBar_->DescribePorts(platform_.devicePath);
+    // Asking the computer for its adapters takes longer than showing the window.
+    QTimer::singleShot(kDescribeDelay, this,
+                       [this] { portBar_->DescribePorts(platform_.describePort); });
 }
 
 bool MainWindow::OpenPort() {
@@ -149,7 +157,7 @@ void MainWindow::ShowOpenDevice() {
                                                            : portBar_->optBaud[0]->text();
     statusBar_->ShowDevice(QStringLiteral("Port %1: %2, %3")
                                .arg(portNumber_)
-                               .arg(platform_.describePort(portNumber_), baud));
+                               .arg(platform_.devicePath(portNumber_), baud));
 }
 
 void MainWindow::cboPort_Click() {

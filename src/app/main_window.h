@@ -35,6 +35,9 @@ struct Platform {
     const Clock& clock;
     MessageBox& messageBox;
     HandlerGate& gate;
+    /// The device path behind a port number.
+    PortBar::DescribePort devicePath;
+    /// The path and, when the computer knows one, the adapter's description. May take a while.
     PortBar::DescribePort describePort;
 };
 

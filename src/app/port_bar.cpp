@@ -62,13 +62,18 @@ PortBar::PortBar(QWidget* parent)
     }
 }
 
-void PortBar::ShowPorts(const std::vector<int>& ports, const DescribePort& describe) {
+void PortBar::ShowPorts(const std::vector<int>& ports) {
     cboPort->Clear();
     for (const int number : ports) {
         cboPort->Append(QString::number(number), number);
-        cboPort->setItemData(cboPort->count() - 1, describe(number), Qt::ToolTipRole);
     }
     cboPort->setToolTip(Text(ports.empty() ? kNoPortAdvice : kPortAdvice));
+}
+
+void PortBar::DescribePorts(const DescribePort& describe) {
+    for (int i = 0; i < cboPort->count(); ++i) {
+        cboPort->setItemData(i, describe(cboPort->itemData(i).toInt()), Qt::ToolTipRole);
+    }
 }
 
 }  // namespace zelvar

@@ -36,13 +36,16 @@ class PortBar : public QWidget {
     Q_OBJECT
 
   public:
-    /// Gives the device path and description behind a port number, for the user.
+    /// Says something about the device behind a port number, for the user.
     using DescribePort = std::function<QString(int portNumber)>;
 
     explicit PortBar(QWidget* parent = nullptr);
 
     /// Fills the list anew, without a selection.
-    void ShowPorts(const std::vector<int>& ports, const DescribePort& describe);
+    void ShowPorts(const std::vector<int>& ports);
+
+    /// Gives every entry its tooltip.
+    void DescribePorts(const DescribePort& describe);
 
     ServiceLabel* lblCom;
     DropDownList* cboPort;

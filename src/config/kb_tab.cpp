@@ -39,8 +39,8 @@ constexpr std::array<const char*, 3> kTransparentCaptions{
 
 KBTab::KBTab(const Services& /*services*/, QWidget* parent)
     : QWidget(parent),
-      lblKBtype_(Named(new QLabel(QStringLiteral("?"), this), "lblKBtype", "Central unit type")),
-      frmConfig_(BuildConfigFrame()) {
+      lblKBtype_(Named(new QLabel(QStringLiteral("?"), this), "lblKBtype", "Central unit type")) {
+    frmConfig_ = BuildConfigFrame();
     lblKBtype_->setVisible(false);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(lblKBtype_);

@@ -30,7 +30,7 @@ class KBTab : public QWidget {
     QFrame* BuildConfigFrame();
 
     QLabel* lblKBtype_;
-    QFrame* frmConfig_;
+    QFrame* frmConfig_ = nullptr;
     std::array<QCheckBox*, 8> chkKBEconfig_{};
     std::array<QPushButton*, 2> cmdConfig_{};
     std::array<QPushButton*, 3> cmdTM_{};

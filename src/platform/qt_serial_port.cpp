@@ -62,6 +62,8 @@ void QtSerialPort::Close() {
         port_.close();
     }
     lost_ = false;
+    held_.clear();
+    justSent_ = false;
 }
 
 void QtSerialPort::NoteError(QSerialPort::SerialPortError error) {
@@ -97,13 +99,16 @@ void QtSerialPort::CloseLost() {
 }
 
 void QtSerialPort::Pump(int milliseconds) {
+    justSent_ = false;
     if (IsOpen() && port_.bytesAvailable() == 0) {
         port_.waitForReadyRead(milliseconds);
     }
 }
 
 std::size_t QtSerialPort::BytesWaiting() {
-    Pump(0);
+    if (!justSent_) {
+        Pump(0);
+    }
     return IsOpen() ? static_cast<std::size_t>(port_.bytesAvailable()) : 0;
 }
 
@@ -114,18 +119,20 @@ std::uint8_t QtSerialPort::ReadByte() {
 }
 
 void QtSerialPort::WriteByte(std::uint8_t byte) {
-    if (IsOpen()) {
-        port_.putChar(static_cast<char>(byte));
-    }
+    held_.append(static_cast<char>(byte));
 }
 
 void QtSerialPort::Flush() {
-    if (IsOpen()) {
+    if (IsOpen() && !held_.isEmpty()) {
+        port_.write(held_);
         port_.flush();
+        justSent_ = true;
     }
+    held_.clear();
 }
 
 void QtSerialPort::WaitForByte(double seconds) {
+    Flush();
     Pump(static_cast<int>(std::ceil(seconds * kMillisecondsPerSecond)));
 }
 

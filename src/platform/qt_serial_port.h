@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QSerialPort>
 
 #include <functional>
@@ -38,6 +39,10 @@ class QtSerialPort : public SerialPort {
     QSerialPort port_;
     int number_ = 0;
     bool lost_ = false;
+    /// Written but not yet handed over.
+    QByteArray held_;
+    /// A frame has just gone out: nothing can have come back that `WaitForByte` would not find.
+    bool justSent_ = false;
     std::function<void()> onLost_;
 };
 

@@ -27,10 +27,12 @@ QWidget* FindWindow(const char* name) {
 }
 
 WindowFixture::WindowFixture() {
-    window =
-        std::make_unique<MainWindow>(Platform{port, timer, clock, messageBox, gate, [](int number) {
-                                                  return QStringLiteral("/dev/port%1").arg(number);
-                                              }});
+    const auto path = [](int number) { return QStringLiteral("/dev/port%1").arg(number); };
+    const auto description = [path](int number) {
+        return path(number) + QStringLiteral(" (Adapter)");
+    };
+    window = std::make_unique<MainWindow>(
+        Platform{port, timer, clock, messageBox, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
 }

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+//
+// A full status request on a line paced at 19200 baud, against the time that its bytes take on the
+// wire plus the unit's own delay.
+
+#include <QApplication>
+#include <QPushButton>
+#include <QWidget>
+
+#include <chrono>
+#include <cstdio>
+#include <utility>
+
+#include "app/main_window.h"
+#include "controls/press_button.h"
+#include "platform/port_table.h"
+#include "platform/qt_message_box.h"
+#include "platform/qt_serial_port.h"
+#include "platform/qt_timer.h"
+#include "support/simulator.h"
+
+namespace {
+
+constexpr double kBaud = 19200;
+/// Start, 8 data, parity and stop.
+constexpr double kBitsPerByte = 11;
+constexpr double kUnitDelaySeconds = 0.001;
+constexpr const char* kUnitDelayMilliseconds = "1";
+
+/// The serial port, with what passes counted.
+class CountingPort : public zelvar::QtSerialPort {
+  public:
+    using QtSerialPort::QtSerialPort;
+
+    std::uint8_t ReadByte() override {
+        ++bytes;
+        return QtSerialPort::ReadByte();
+    }
+    void WriteByte(std::uint8_t byte) override {
+        ++bytes;
+        frames += byte < zelvar::kNotHeader ? 1 : 0;
+        QtSerialPort::WriteByte(byte);
+    }
+
+    int bytes = 0;
+    int frames = 0;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const zelvar::bench::Simulator simulator(ZELVARSIM_PROGRAM,
+                                             {"--unit-delay", kUnitDelayMilliseconds});
+    QApplication application(argc, argv);
+    CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Path()));
+    zelvar::HandlerGate gate;
+    zelvar::QtTimer timer(gate, zelvar::kPollInterval);
+    const zelvar::SteadyClock clock;
+    zelvar::QtMessageBox box;
+    const auto describe = [](int number) { return QString::number(number); };
+    zelvar::MainWindow window({port, timer, clock, box, gate, describe, describe});
+    window.show();
+    QApplication::processEvents();
+    window.findChild<QComboBox*>(QStringLiteral("cboPort"))->setCurrentIndex(0);
+    auto* status = window.findChild<zelvar::PressButton*>(QStringLiteral("cmdStatus"));
+    for (int run = 1; run <= 3; ++run) {
+        port.bytes = 0;
+        port.frames = 0;
+        const auto start = std::chrono::steady_clock::now();
+        status->click();
+        const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+        const double wire = port.bytes * kBitsPerByte / kBaud;
+        const double ideal = wire + port.frames * kUnitDelaySeconds;
+        std::printf(
+            "status request %d: %d exchanges, %d bytes, %.3f s on the wire, %.3f s with the unit's "
+            "delay; took %.3f s, ratio %.3f\n",
+            run, port.frames, port.bytes, wire, ideal, took.count(), took.count() / ideal);
+        timer.SetEnabled(false);
+    }
+    return 0;
+}

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+//
+// An exchange through `Transact` against a bare write-and-poll loop on the same pseudo-terminal.
+
+#include <QCoreApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <fcntl.h>
+#include <memory>
+#include <poll.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "link/link.h"
+#include "platform/qt_serial_port.h"
+#include "support/pty.h"
+
+namespace {
+
+class NoTimer : public zelvar::Timer {
+  public:
+    void SetEnabled(bool value) override { enabled_ = value; }
+    bool IsEnabled() const override { return enabled_; }
+
+  private:
+    bool enabled_ = false;
+};
+
+class NoBox : public zelvar::MessageBox {
+  public:
+    zelvar::BoxAnswer Ask(const std::string& text, zelvar::BoxIcon /*icon*/,
+                          zelvar::BoxButtons /*buttons*/) override {
+        std::fprintf(stderr, "unexpected: %s\n", text.c_str());
+        return zelvar::BoxAnswer::Ok;
+    }
+};
+
+class NoView : public zelvar::LinkView {
+  public:
+    bool IsStopTicked() const override { return false; }
+    void ShowSystemState(zelvar::SystemState /*state*/) override {}
+    void AppendMessageLog(const std::string& text) override { logged_ += text.size(); }
+
+  private:
+    std::size_t logged_ = 0;
+};
+
+/// Speed of block 5, which is how most commands look: three data bytes.
+constexpr zelvar::Command kCommand{3, {34, 5, 76}};
+constexpr std::uint8_t kSameCommand[] = {0x0B, 0xA2, 0x85, 0xCC, 0x82};
+constexpr int kReplyBytes = 2;
+
+/// One write, then poll and read until the reply is whole: what no program can do without.
+bool BareExchange(int line) {
+    if (write(line, kSameCommand, sizeof kSameCommand) != sizeof kSameCommand) {
+        return false;
+    }
+    for (int received = 0; received < kReplyBytes;) {
+        pollfd wait{line, POLLIN, 0};
+        std::uint8_t bytes[16];
+        if (poll(&wait, 1, 2000) <= 0) {
+            return false;
+        }
+        const ssize_t count = read(line, bytes, sizeof bytes);
+        if (count <= 0) {
+            return false;
+        }
+        received += static_cast<int>(count);
+    }
+    return true;
+}
+
+/// Both ways over the same pseudo-terminal, taking turns so that the machine's moods hit both.
+void BM_TransactAgainstBareLoop(benchmark::State& state) {
+    constexpr int kTurns = 50;
+    const zelvar::bench::AnsweringPty pty;
+    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, pty.Path()));
+    port.SetPortNumber(1);
+    port.SetSettings("19200,o,8,1");
+    NoTimer timer;
+    NoBox box;
+    NoView view;
+    const zelvar::SteadyClock clock;
+    zelvar::Link link(port, timer, clock, box, view);
+    if (!port.Open()) {
+        state.SkipWithError("cannot open the line");
+        return;
+    }
+    const int bare = open(pty.Path().c_str(), O_RDWR | O_NOCTTY);
+    std::chrono::nanoseconds bareTime{0};
+    std::chrono::nanoseconds transactTime{0};
+    bool ok = bare >= 0;
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        for (int i = 0; i < kTurns; ++i) {
+            ok = BareExchange(bare) && ok;
+        }
+        const auto middle = std::chrono::steady_clock::now();
+        for (int i = 0; i < kTurns; ++i) {
+            ok = link.Transact(kCommand) && ok;
+        }
+        bareTime += middle - start;
+        transactTime += std::chrono::steady_clock::now() - middle;
+    }
+    close(bare);
+    if (!ok) {
+        state.SkipWithError("an exchange failed");
+        return;
+    }
+    const double exchanges = static_cast<double>(state.iterations()) * kTurns;
+    state.counters["bare_us"] = static_cast<double>(bareTime.count()) / 1000 / exchanges;
+    state.counters["transact_us"] = static_cast<double>(transactTime.count()) / 1000 / exchanges;
+    state.counters["ratio"] =
+        static_cast<double>(transactTime.count()) / static_cast<double>(bareTime.count());
+}
+BENCHMARK(BM_TransactAgainstBareLoop)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

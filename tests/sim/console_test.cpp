@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "console.h"
+
+#include "reports.h"
+#include "unit_fixture.h"
+
+namespace zelvar::sim {
+namespace {
+
+using std::chrono::milliseconds;
+
+class ConsoleTest : public UnitFixture {
+  protected:
+    ConsoleResult Run(std::string_view line) {
+        ConsoleContext context{unit_, faults_, now_};
+        return RunConsoleLine(context, line);
+    }
+    std::string Answer(std::string_view line) { return Run(line).text; }
+
+    Faults faults_;
+};
+
+struct LineCase {
+    const char* name;
+    const char* line;
+    const char* answer;
+};
+
+class ConsoleLine : public ConsoleTest, public testing::WithParamInterface<LineCase> {};
+
+TEST_P(ConsoleLine, IsAnsweredWith) {
+    EXPECT_EQ(Answer(GetParam().line), GetParam().answer);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Right, ConsoleLine,
+    testing::Values(
+        LineCase{"Blank", "", ""}, LineCase{"OnlyBlanks", "  \t ", ""},
+        LineCase{"Overcurrent", "overcurrent 255", "ok"},
+        LineCase{"BlanksAround", "  release   0x10 \r", "ok"},
+        LineCase{"Speed", "speed 5 63 reverse", "ok"},
+        LineCase{"Feedback", "feedback 2047 1", "ok"}, LineCase{"Fault", "fault on", "ok"},
+        LineCase{"Hold", "hold off", "ok"}, LineCase{"ModuleAbsent", "module 32 absent", "ok"},
+        LineCase{"ModuleStatus", "module 127 status 0x0F", "ok"}, LineCase{"Ms", "ms 63 127", "ok"},
+        LineCase{"Clock", "clock 0 3", "ok"}, LineCase{"Mute", "mute-module 32 on", "ok"},
+        LineCase{"AnswerDelay", "answer-delay 0", "ok"}, LineCase{"Reboot", "reboot", "ok"},
+        LineCase{"Silent", "silent on", "ok"}, LineCase{"SilentAfter", "silent-after 3", "ok"},
+        LineCase{"Late", "late 100", "ok"}, LineCase{"LateCount", "late 100 2", "ok"},
+        LineCase{"BadChecksum", "bad-checksum 1", "ok"}, LineCase{"Short", "short 1", "ok"},
+        LineCase{"Double", "double 1", "ok"}, LineCase{"Stray", "stray FF 8 0a", "ok"},
+        LineCase{"Drip", "drip 5", "ok"}, LineCase{"Defer", "defer 1", "ok"}),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Wrong, ConsoleLine,
+    testing::Values(
+        LineCase{"Unknown", "explode 5", "error unknown command explode"},
+        LineCase{"CaseCounts", "Fault on", "error unknown command Fault"},
+        LineCase{"TooFew", "speed 1 2", "error usage: speed B S forward|reverse"},
+        LineCase{"TooMany", "reboot now", "error usage: reboot"},
+        LineCase{"BlockTooHigh", "overcurrent 256", "error B must be 0..255"},
+        LineCase{"BlockNegative", "release -1", "error B must be 0..255"},
+        LineCase{"BlockText", "speed five 5 forward", "error B must be 0..255"},
+        LineCase{"SpeedTooHigh", "speed 5 64 forward", "error S must be 0..63"},
+        LineCase{"Direction", "speed 5 6 up", "error forward or reverse expected"},
+        LineCase{"InputTooHigh", "feedback 2048 1", "error I must be 0..2047"},
+        LineCase{"InputState", "feedback 5 2", "error 0 or 1 expected"},
+        LineCase{"Switch", "fault yes", "error on or off expected"},
+        LineCase{"HoldSwitch", "hold 1", "error on or off expected"},
+        LineCase{"Address", "module 128 absent", "error ADDRESS must be 0..127"},
+        LineCase{"ModuleWord", "module 5 gone", "error absent or status BYTE expected"},
+        LineCase{"ModuleAbsentMore", "module 5 absent 3", "error absent or status BYTE expected"},
+        LineCase{"ModuleNoByte", "module 5 status", "error absent or status BYTE expected"},
+        LineCase{"StatusByte", "module 5 status 0x80", "error BYTE must be 0..127"},
+        LineCase{"MsLine", "ms 64 1", "error M must be 0..63"},
+        LineCase{"MsValue", "ms 6 128", "error V must be 0..127"},
+        LineCase{"ClockLine", "clock x 1", "error M must be 0..63"},
+        LineCase{"ClockValue", "clock 1 x", "error V must be 0..127"},
+        LineCase{"MuteAddress", "mute-module x on", "error ADDRESS must be 0..127"},
+        LineCase{"MuteSwitch", "mute-module 5 1", "error on or off expected"},
+        LineCase{"AnswerDelay", "answer-delay -1", "error N must be 0..10000"},
+        LineCase{"SilentSwitch", "silent maybe", "error on or off expected"},
+        LineCase{"LateText", "late soon", "error MS must be 0..3600000"},
+        LineCase{"LateCount", "late 5 x", "error N must be 0..1000000"},
+        LineCase{"Replies", "double 1.5", "error N must be 0..1000000"},
+        LineCase{"StrayDigits", "stray 0 100", "error two hexadecimal digits expected: 100"},
+        LineCase{"StrayText", "stray G0", "error two hexadecimal digits expected: G0"},
+        LineCase{"StraySign", "stray -1", "error two hexadecimal digits expected: -1"},
+        LineCase{"Drip", "drip 3600001", "error MS must be 0..3600000"},
+        LineCase{"Trace", "trace 1", "error on or off expected"}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(ConsoleTest, AWrongStrayLineAddsNothing) {
+    Answer("stray 01 XX");
+    EXPECT_EQ(faults_.Apply({0x08, 0xF8})->bytes.size(), 2U);
+}
+
+TEST_F(ConsoleTest, OvercurrentIsReportedAndListedUntilItsRelease) {
+    Answer("overcurrent 133");
+    EXPECT_EQ(Poll(), OvercurrentReport(133, true));
+    EXPECT_EQ(Listed("overcurrent"), "133");
+    Answer("release 133");
+    EXPECT_EQ(Poll(), OvercurrentReport(133, false));
+    EXPECT_EQ(Listed("overcurrent"), "");
+}
+
+TEST_F(ConsoleTest, SpeedIsReportedOnceAlsoWhenItDoesNotChange) {
+    Answer("speed 5 12 forward");
+    EXPECT_EQ(PollAll(), (std::vector<Payload>{BlockSpeedReport(5, 12, true)}));
+    Answer("speed 5 12 forward");
+    EXPECT_EQ(PollAll(), (std::vector<Payload>{BlockSpeedReport(5, 12, true)}));
+    EXPECT_EQ(Listed("block.5"), "speed:12,direction:forward,target:12,light:0");
+}
+
+TEST_F(ConsoleTest, FeedbackReportsChangesOnly) {
+    Answer("feedback 389 0");
+    EXPECT_EQ(PollAll(), std::vector<Payload>{});
+    Answer("feedback 389 1");
+    Answer("feedback 389 1");
+    Answer("feedback 389 0");
+    EXPECT_EQ(PollAll(),
+              (std::vector<Payload>{FeedbackReport(389, true), FeedbackReport(389, false)}));
+}
+
+TEST_F(ConsoleTest, FaultAndHoldShowInTheHeader) {
+    Answer("fault on");
+    Answer("hold on");
+    EXPECT_EQ(Send({})->headerBits, 0x30);
+    Answer("fault off");
+    EXPECT_EQ(Send({})->headerBits, 0x10);
+}
+
+TEST_F(ConsoleTest, ModulesGoAndCome) {
+    Answer("module 32 absent");
+    EXPECT_EQ(Ask({1, 11, 32}), (Payload{1, 11, 32, 0, 0, 0}));
+    Answer("module 32 status 0x19");
+    EXPECT_EQ(Ask({1, 11, 32}), (Payload{1, 11, 32, 0x19, 8, 19}));
+}
+
+TEST_F(ConsoleTest, MasterSlaveHoldsOverAReboot) {
+    Answer("answer-delay 0");
+    Answer("ms 51 1");
+    EXPECT_EQ(Ask({0, 51, 24, 11})[4], 1);
+    EXPECT_EQ(Answer("reboot"), "ok");
+    EXPECT_EQ(Ask({0, 51, 24, 11})[4], 1);
+}
+
+TEST_F(ConsoleTest, ClockMuteAndAnswerDelayTakeEffect) {
+    Answer("clock 0 3");
+    Answer("answer-delay 0");
+    EXPECT_EQ(Ask({0, 32, 8, 15})[4], 3);
+    Answer("mute-module 32 on");
+    EXPECT_EQ(Ask({0, 32, 8, 15}), Payload{});
+    Answer("mute-module 32 off");
+    EXPECT_EQ(Ask({0, 32, 8, 15})[4], 3);
+}
+
+TEST_F(ConsoleTest, FaultCommandsReachTheFaults) {
+    Answer("late 40 1");
+    Answer("drip 3");
+    Answer("double 1");
+    Answer("short 1");
+    Answer("stray 81");
+    const auto outgoing = faults_.Apply({0x08, 0xF8});
+    ASSERT_TRUE(outgoing);
+    EXPECT_EQ(outgoing->bytes, (std::vector<std::uint8_t>{0x81, 0x08, 0x08}));
+    EXPECT_EQ(outgoing->delay, milliseconds(40));
+    EXPECT_EQ(outgoing->byteGap, milliseconds(3));
+    Answer("bad-checksum 1");
+    EXPECT_EQ(faults_.Apply({0x08, 0xF8})->bytes.back(), 0xF9);
+    Answer("silent-after 0");
+    EXPECT_TRUE(faults_.silent());
+    Answer("silent off");
+    EXPECT_FALSE(faults_.silent());
+    Answer("defer 1");
+    EXPECT_EQ(Ask({1, 2}), Payload{});
+}
+
+struct ActionCase {
+    const char* name;
+    const char* line;
+    ConsoleAction action;
+};
+
+class ConsoleActionOf : public ConsoleTest, public testing::WithParamInterface<ActionCase> {};
+
+TEST_P(ConsoleActionOf, IsLeftToTheProgram) {
+    EXPECT_EQ(Run(GetParam().line).action, GetParam().action);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ConsoleActionOf,
+    testing::Values(ActionCase{"HangUp", "hang-up", ConsoleAction::kHangUp},
+                    ActionCase{"Reconnect", "reconnect", ConsoleAction::kReconnect},
+                    ActionCase{"TraceOn", "trace on", ConsoleAction::kTraceOn},
+                    ActionCase{"TraceOff", "trace off", ConsoleAction::kTraceOff},
+                    ActionCase{"Quit", "quit", ConsoleAction::kQuit},
+                    ActionCase{"Other", "fault on", ConsoleAction::kNone},
+                    ActionCase{"Wrong", "quit now", ConsoleAction::kNone}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(ConsoleTest, StateEndsWithOk) {
+    const std::string text = Answer("state");
+    EXPECT_TRUE(text.starts_with("unit-type=2\n"));
+    EXPECT_TRUE(text.ends_with("silent=0\nok"));
+}
+
+TEST_F(ConsoleTest, HelpListsEveryCommandAndEndsWithOk) {
+    const std::string text = std::string("\n").append(Answer("help"));
+    for (const auto table :
+         {LayoutConsoleCommands(), FaultConsoleCommands(), ProgramConsoleCommands()}) {
+        for (const ConsoleCommand& command : table) {
+            EXPECT_NE(text.find(std::string("\n").append(CommandForm(command)).append("\n")),
+                      std::string::npos);
+        }
+    }
+    EXPECT_TRUE(text.ends_with("\nok"));
+}
+
+TEST(ParseNumberTest, TakesDecimalAndHexadecimalOnly) {
+    EXPECT_EQ(ParseNumber("12", 0, 20), 12);
+    EXPECT_EQ(ParseNumber("0x0C", 0, 20), 12);
+    EXPECT_EQ(ParseNumber("-5", -5, 20), -5);
+    for (const char* text :
+         {"", "0x", "0x-1", "1 2", "12x", "x", "99999999999", "21", "-1", "+1"}) {
+        EXPECT_EQ(ParseNumber(text, 0, 20), std::nullopt) << text;
+    }
+}
+
+}  // namespace
+}  // namespace zelvar::sim

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "options.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace zelvar::sim {
+namespace {
+
+std::variant<Options, std::string> Parse(const std::vector<std::string_view>& arguments) {
+    return ParseOptions(arguments);
+}
+
+Options Right(const std::vector<std::string_view>& arguments) {
+    const auto parsed = Parse(arguments);
+    EXPECT_TRUE(std::holds_alternative<Options>(parsed));
+    return std::holds_alternative<Options>(parsed) ? std::get<Options>(parsed) : Options{};
+}
+
+TEST(OptionsTest, WithoutAnyTheDefaultsHold) {
+    const Options options = Right({});
+    EXPECT_TRUE(options.pacing);
+    EXPECT_EQ(options.baud, 19200);
+    EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(1));
+    EXPECT_TRUE(options.link.empty());
+    EXPECT_TRUE(options.device.empty());
+    EXPECT_TRUE(options.layout.At(kTractionFamily).Present());
+}
+
+TEST(OptionsTest, TakesAllOfThem) {
+    const Options options = Right({"--link", "/x/y", "--no-pacing", "--baud", "38400", "--layout",
+                                   "none", "--unit-delay", "0", "--help", "--version"});
+    EXPECT_EQ(options.link, "/x/y");
+    EXPECT_FALSE(options.pacing);
+    EXPECT_EQ(options.baud, 38400);
+    EXPECT_FALSE(options.layout.At(kTractionFamily).Present());
+    EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(0));
+    EXPECT_TRUE(options.help);
+    EXPECT_TRUE(options.version);
+    EXPECT_EQ(Right({"--device", "/dev/x"}).device, "/dev/x");
+}
+
+struct WrongCase {
+    const char* name;
+    std::vector<std::string_view> arguments;
+    const char* message;
+};
+
+class WrongOptions : public testing::TestWithParam<WrongCase> {};
+
+TEST_P(WrongOptions, SayWhatIsWrong) {
+    const auto parsed = Parse(GetParam().arguments);
+    ASSERT_TRUE(std::holds_alternative<std::string>(parsed));
+    EXPECT_EQ(std::get<std::string>(parsed), GetParam().message);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, WrongOptions,
+    testing::Values(WrongCase{"Unknown", {"--lnk", "x"}, "unknown option --lnk"},
+                    WrongCase{"BareWord", {"x"}, "unknown option x"},
+                    WrongCase{"MissingValue", {"--no-pacing", "--link"}, "missing value of --link"},
+                    WrongCase{"EmptyLink", {"--link", ""}, "wrong value of --link: "},
+                    WrongCase{"Baud", {"--baud", "9600"}, "wrong value of --baud: 9600"},
+                    WrongCase{"Layout", {"--layout", "big"}, "wrong value of --layout: big"},
+                    WrongCase{"Delay", {"--unit-delay", "-1"}, "wrong value of --unit-delay: -1"},
+                    WrongCase{
+                        "DelayText", {"--unit-delay", "5ms"}, "wrong value of --unit-delay: 5ms"},
+                    WrongCase{"LinkAndDevice",
+                              {"--link", "a", "--device", "b"},
+                              "--link and --device exclude each other"}),
+    [](const auto& row) { return row.param.name; });
+
+}  // namespace
+}  // namespace zelvar::sim
