@@ -285,10 +285,11 @@ INSTANTIATE_TEST_SUITE_P(Keys, CancelKeys,
                          });
 
 TEST_F(VersionWait, TheKeyboardReturnsToWhereItWas) {
-    Find("cmdReset").setFocus();
+    bool offered = false;
+    onPoll = [&] { offered = offered || Find("cmdCancel").hasFocus(); };
     Click("cmdStatus");
-    EXPECT_TRUE(Find("cmdReset").hasFocus() || !window->isActiveWindow());
-    EXPECT_NE(window->focusWidget(), &Find("cmdCancel"));
+    EXPECT_TRUE(offered);
+    EXPECT_EQ(window->focusWidget(), &Find("cmdStatus"));
 }
 
 TEST_F(VersionWait, NothingElseReactsWhileItLasts) {
