@@ -97,7 +97,7 @@ void LogWindow::Append(const QString& text) {
     }
     if (atEnd) {
         scrollBar->setValue(scrollBar->maximum());
-    } else if (dropped > 0) {
+    } else {
         // What the user reads stays in place while the lines above it become fewer.
         scrollBar->setValue(std::max(0, firstInView - dropped));
     }

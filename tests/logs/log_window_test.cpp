@@ -171,6 +171,17 @@ TEST_F(LogWindowTest, ASelectionUpToTheEndDoesNotGrow) {
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "line 1\nline 2\n");
 }
 
+TEST_F(LogWindowTest, ASelectionUpToTheEndDoesNotPullTheViewDown) {
+    AppendLines(1, 500);
+    Show();
+    text.selectAll();
+    bar.setValue(100);
+    AppendLines(501, 10);
+    EXPECT_EQ(bar.value(), 100);
+    EXPECT_EQ(text.textCursor().selectionEnd() - text.textCursor().selectionStart(),
+              text.document()->findBlockByNumber(500).position());
+}
+
 TEST_F(LogWindowTest, TextCanBeSelectedWithTheMouse) {
     AppendLines(1, 2);
     Show();
