@@ -96,6 +96,8 @@ void StatusBar::ShowDevice(const QString& text) {
 }
 
 void StatusBar::Begin(const std::string& caption, int steps) {
+    // What Cancel would have ended is over.
+    WithdrawCancel();
     lblBarProgress_->setText(Text(caption));
     prgBar_->setRange(0, steps);
     prgBar_->setValue(0);
@@ -112,6 +114,10 @@ void StatusBar::Step() {
 void StatusBar::End() {
     lblBarProgress_->setVisible(false);
     prgBar_->setVisible(false);
+    WithdrawCancel();
+}
+
+void StatusBar::WithdrawCancel() {
     if (offered_) {
         cmdCancel_->setVisible(false);
         if (focusBefore_ != nullptr) {

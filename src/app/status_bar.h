@@ -36,6 +36,7 @@ class StatusBar : public QStatusBar, public Progress {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void WithdrawCancel();
     bool IsForCancel(QObject* watched, QEvent* event);
 
     QLabel* lblBarStatus_;

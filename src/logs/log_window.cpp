@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "logs/log_window.h"
 
-#include <QFontDatabase>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTextCursor>
@@ -48,7 +47,6 @@ LogWindow::LogWindow(const LogWindowKind& kind)
         font.setFixedPitch(true);
         text_->setFont(font);
     }
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text_->setReadOnly(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text_->setUndoRedoEnabled(false);
@@ -77,12 +75,31 @@ LogWindow::LogWindow(const LogWindowKind& kind)
 void LogWindow::Append(const QString& text) {
     QScrollBar* scrollBar = text_->verticalScrollBar();
     const bool atEnd = scrollBar->value() == scrollBar->maximum();
+    const int firstInView = scrollBar->value();
+    const int lines = text_->blockCount();
+    const QTextCursor selection = text_->textCursor();
+    const int anchor = selection.anchor();
+    const int position = selection.position();
     // A cursor of its own leaves the user's selection alone.
     QTextCursor end(text_->document());
     end.movePosition(QTextCursor::End);
+    const bool touchesEnd = selection.hasSelection() && selection.selectionEnd() == end.position();
     end.insertText(text);
+
+    const int dropped =
+        lines + static_cast<int>(text.count(QLatin1Char('\n'))) - text_->blockCount();
+    if (touchesEnd && dropped == 0) {
+        // It would grow with the text.
+        QTextCursor same = selection;
+        same.setPosition(anchor);
+        same.setPosition(position, QTextCursor::KeepAnchor);
+        text_->setTextCursor(same);
+    }
     if (atEnd) {
         scrollBar->setValue(scrollBar->maximum());
+    } else {
+        // What the user reads stays in place while the lines above it become fewer.
+        scrollBar->setValue(std::max(0, firstInView - dropped));
     }
 }
 

@@ -18,7 +18,7 @@ class Progress {
     virtual void Step() = 0;
     virtual void End() = 0;
 
-    /// Offers the user a way out of a wait that may never end, until `End`.
+    /// Offers the user a way out of a wait that may never end, until the next `Begin` or `End`.
     virtual void OfferCancel() = 0;
 
     /// Lets the offered way out react, and nothing else. @return true once it has been taken.

@@ -41,22 +41,25 @@ QWidget* DlgZelvarStatus::BuildSystem() {
     system_ = BuildSystemFields(panel, *grid);
     // Here the first label goes by another name than in the new view.
     grid->itemAtPosition(0, 0)->widget()->setObjectName(QStringLiteral("lblStatus"));
-    auto* dip = new QGridLayout;
+    auto* numbers = new QHBoxLayout;
+    auto* fields = new QHBoxLayout;
     for (int i = 0; i < static_cast<int>(txtDIP_.size()); ++i) {
         const QString number = QString::number(i + 1);
         QLabel* label = NewLabel(IndexedName("lblDIP", i), number, panel);
         label->setAlignment(Qt::AlignHCenter);
-        dip->addWidget(label, 0, i);
+        numbers->addWidget(label);
         QLineEdit* field = NewDisplayField(IndexedName("txtDIP", i),
                                            QStringLiteral("DIP switch %1").arg(number), panel, "");
-        field->setMaximumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("Off")) * 2);
-        dip->addWidget(field, 1, i);
+        field->setFixedWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("Off")) * 2);
+        label->setFixedWidth(field->minimumWidth());
+        fields->addWidget(field);
         txtDIP_[static_cast<std::size_t>(i)] = field;
     }
     // The two trailing blanks belong to the caption.
     grid->addWidget(NewLabel(QStringLiteral("lblDIPstat"), QStringLiteral("DIP status  "), panel),
-                    3, 0, Qt::AlignBottom);
-    grid->addLayout(dip, 3, 1);
+                    4, 0);
+    grid->addLayout(numbers, 3, 1);
+    grid->addLayout(fields, 4, 1);
     return panel;
 }
 

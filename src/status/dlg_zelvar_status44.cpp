@@ -129,27 +129,47 @@ QLineEdit* DlgZelvarStatus44::NewField(const char* name, int index, const QStrin
     return field;
 }
 
+void DlgZelvarStatus44::AddNumber(QGridLayout* grid, int row, const char* name, int index,
+                                  int module) {
+    QLabel* label =
+        NewLabel(IndexedName(name, index), QString::number(module), grid->parentWidget());
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setContentsMargins(0, 0, 2, 0);
+    if (index != module) {
+        label->setToolTip(QStringLiteral("Number %1 of the system").arg(index));
+    }
+    grid->addWidget(label, row, 0);
+}
+
+void DlgZelvarStatus44::AddHeads(QGridLayout* grid, int channel,
+                                 std::initializer_list<Head> heads) {
+    int column = 0;
+    for (const Head& head : heads) {
+        QLabel* label =
+            NewLabel(IndexedName(head.name, channel), Text(head.caption), grid->parentWidget());
+        if (column == 0) {
+            label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            label->setContentsMargins(0, 0, 2, 0);
+        }
+        grid->addWidget(label, 1, column, 1, head.columns);
+        column += head.columns;
+    }
+}
+
 void DlgZelvarStatus44::BuildTractionModules(int channel) {
     const int frameIndex = FrameOf(kVDFrames, channel);
     QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
     QGridLayout* grid = NewRows(frameIndex, 6);
-    grid->addWidget(NewLabel(IndexedName("lblVDmodule", channel), QStringLiteral("#"), frame), 1,
-                    0);
-    grid->addWidget(NewLabel(IndexedName("lblVDtype", channel), QStringLiteral("Type"), frame), 1,
-                    1);
-    grid->addWidget(
-        NewLabel(IndexedName("lblVDprimary", channel), QStringLiteral("Primary"), frame), 1, 2, 1,
-        2);
-    grid->addWidget(
-        NewLabel(IndexedName("lblVDsecondary", channel), QStringLiteral("Secondary"), frame), 1, 4,
-        1, 2);
+    AddHeads(grid, channel,
+             {{"lblVDmodule", "#", 1},
+              {"lblVDtype", "Type", 1},
+              {"lblVDprimary", "Primary", 2},
+              {"lblVDsecondary", "Secondary", 2}});
     for (int module = 0; module < kModulesPerChannel; ++module) {
         const int row = module + 2;
         const int line = channel * kModulesPerChannel + module;
         const QString words = ModuleInWords("Traction", channel, module);
-        QLabel* label = NewLabel(IndexedName("lblVD", line), QString::number(module), frame);
-        label->setToolTip(QStringLiteral("Number %1 in the module list").arg(line));
-        grid->addWidget(label, row, 0);
+        AddNumber(grid, row, "lblVD", line, module);
         QLineEdit* type = NewField("txtVDtype", line, QStringLiteral("Type of ") + words, frame);
         grid->addWidget(type, row, 1);
         txtVDtype_[static_cast<std::size_t>(line)] = type;
@@ -177,22 +197,17 @@ void DlgZelvarStatus44::BuildPointMotorModules(int channel) {
     const int frameIndex = FrameOf(kJsFrames, channel);
     QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
     QGridLayout* grid = NewRows(frameIndex, 3);
-    grid->addWidget(NewLabel(IndexedName("lblJSmodule", channel), QStringLiteral("#"), frame), 1,
-                    0);
-    grid->addWidget(NewLabel(IndexedName("lblJSstatus", channel), QStringLiteral("Status"), frame),
-                    1, 1);
-    grid->addWidget(
-        NewLabel(IndexedName("lblJSversion", channel), QStringLiteral("Version"), frame), 1, 2);
+    AddHeads(
+        grid, channel,
+        {{"lblJSmodule", "#", 1}, {"lblJSstatus", "Status", 1}, {"lblJSversion", "Version", 1}});
     for (int module = 0; module < kJsPerChannel; ++module) {
         const int j = channel * kJsPerChannel + module;
         const QString words = ModuleInWords("Point-motor", channel, module);
-        QLabel* label = NewLabel(IndexedName("lblJS", j), QString::number(module), frame);
-        label->setToolTip(QStringLiteral("Number %1 in the module list").arg(j));
         const auto index = static_cast<std::size_t>(j);
         txtJSstatus_[index] =
             NewField("txtJSstatus", j, QStringLiteral("Status of ") + words, frame);
         txtJSver_[index] = NewField("txtJSver", j, QStringLiteral("Version of ") + words, frame);
-        grid->addWidget(label, module + 2, 0);
+        AddNumber(grid, module + 2, "lblJS", j, module);
         grid->addWidget(txtJSstatus_[index], module + 2, 1);
         grid->addWidget(txtJSver_[index], module + 2, 2);
     }
@@ -204,8 +219,9 @@ void DlgZelvarStatus44::BuildSignalControllers(int channel) {
     const int frameIndex = FrameOf(kYRFrames, channel);
     QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
     QGridLayout* grid = NewRows(frameIndex, 3);
-    grid->addWidget(NewLabel(IndexedName("lblYRmodule", channel), QStringLiteral("#"), frame), 1,
-                    0);
+    AddHeads(
+        grid, channel,
+        {{"lblYRmodule", "#", 1}, {"lblYRstatus", "Status", 1}, {"lblYRversion", "Version", 1}});
     for (int module = 0; module < kModulesPerChannel; ++module) {
         const int k = channel * kModulesPerChannel + module;
         const QString words = ModuleInWords("Signal", channel, module);
@@ -213,8 +229,7 @@ void DlgZelvarStatus44::BuildSignalControllers(int channel) {
         txtYRstatus_[index] =
             NewField("txtYRstatus", k, QStringLiteral("Status of ") + words, frame);
         txtYRver_[index] = NewField("txtYRver", k, QStringLiteral("Version of ") + words, frame);
-        grid->addWidget(NewLabel(IndexedName("lblYR", k), QString::number(module), frame),
-                        module + 2, 0);
+        AddNumber(grid, module + 2, "lblYR", k, module);
         grid->addWidget(txtYRstatus_[index], module + 2, 1);
         grid->addWidget(txtYRver_[index], module + 2, 2);
     }

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 
 #include <array>
+#include <initializer_list>
 
 #include "controls/secondary_window.h"
 #include "status/status_fields.h"
@@ -29,6 +30,15 @@ class DlgZelvarStatus44 : public SecondaryWindow {
     void BuildFrames();
     void BuildSystem();
     QGridLayout* NewRows(int frame, int columns);
+    /// A column head and the number of columns below it.
+    struct Head {
+        const char* name;
+        const char* caption;
+        int columns;
+    };
+    static void AddHeads(QGridLayout* grid, int channel, std::initializer_list<Head> heads);
+    /// The number of a row's module. @param index its number in the whole system
+    static void AddNumber(QGridLayout* grid, int row, const char* name, int index, int module);
     void BuildTractionModules(int channel);
     void BuildPointMotorModules(int channel);
     void BuildSignalControllers(int channel);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/window_fixture.h"
 
+#include <QAbstractItemView>
 #include <QTabWidget>
 
 namespace zelvar::testing {
@@ -65,8 +66,11 @@ void WindowFixture::Choose(const char* list, const QString& entry) {
     auto& combo = Find<QComboBox>(list);
     const int index = combo.findText(entry);
     ASSERT_GE(index, 0) << list << " has no entry '" << entry.toStdString() << "'";
-    combo.setCurrentIndex(index);
-    Q_EMIT combo.activated(index);
+    ShowTabOf(combo);
+    ASSERT_TRUE(combo.isVisible()) << list << " is hidden";
+    combo.showPopup();
+    combo.view()->setCurrentIndex(combo.model()->index(index, combo.modelColumn()));
+    QTest::keyClick(combo.view(), Qt::Key_Return);
 }
 
 void WindowFixture::Type(const char* field, const QString& text) {
