@@ -30,6 +30,10 @@ struct Fault {
     std::string command;
 };
 
+std::ostream& operator<<(std::ostream& out, const Fault& fault) {
+    return out << fault.command;
+}
+
 std::string NameOf(const ::testing::TestParamInfo<Fault>& fault) {
     return fault.param.name;
 }

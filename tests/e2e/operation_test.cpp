@@ -159,7 +159,8 @@ TEST_F(Operation, TheLogOfAStatusRequestIsWhatWentOverTheLine) {
         } else if (sent.size() > kPollText) {
             constexpr std::size_t kFullText = 27;  // header, seven data bytes, checksum
             const std::string blanks(kFullText - sent.size(), ' ');
-            expected += ">>" + sent + blanks + "  <<" + bytes + "\n";
+            expected.append(">>").append(sent).append(blanks);
+            expected.append("  <<").append(bytes).append("\n");
         }
     }
     EXPECT_EQ(program->Text("txtMsgLog"), expected);

@@ -189,6 +189,10 @@ struct Press {
     std::vector<std::string> command;
 };
 
+std::ostream& operator<<(std::ostream& out, const Press& press) {
+    return out << press.name;
+}
+
 class NewViewPress : public Journey, public ::testing::WithParamInterface<Press> {};
 
 TEST_P(NewViewPress, OpensTheNewView) {
@@ -215,6 +219,10 @@ struct SystemState {
     std::string hold;
     std::string text;
 };
+
+std::ostream& operator<<(std::ostream& out, const SystemState& state) {
+    return out << state.text;
+}
 
 class SystemField : public Journey, public ::testing::WithParamInterface<SystemState> {};
 

@@ -22,6 +22,7 @@ constexpr int kSignalOffset = 128;  // as shells report the end by a signal
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) {
         pointers.push_back(text.data());
     }

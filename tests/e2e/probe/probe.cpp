@@ -135,7 +135,7 @@ void Probe::Serve(const std::string& line) {
     }
 }
 
-void Probe::Answer(const QStringList& words) {
+void Probe::Answer(const QStringList& words) const {
     std::vector<std::string> answer;
     for (const QString& word : words) {
         answer.push_back(word.toStdString());

@@ -33,7 +33,7 @@ class Probe : public QObject {
   private:
     void ReadSocket();
     void Serve(const std::string& line);
-    void Answer(const QStringList& words);
+    void Answer(const QStringList& words) const;
     void Schedule(std::function<void()> task, bool first = false);
     bool CanServe() const;
     void RunNext();
