@@ -109,24 +109,34 @@ void VDSettingPanel::BuildButtons() {
     }
 }
 
+void VDSettingPanel::AddTitle(QGridLayout& layout) {
+    auto* title = new QLabel(Text(setting_.title), frame_);
+    if (!fields_.empty() && labels_.front() == nullptr) {
+        title->setBuddy(fields_.front());
+    }
+    layout.addWidget(title, 0, 0, 1, layout.columnCount());
+}
+
 QLayout* VDSettingPanel::LayOutControls() {
-    constexpr int kOptionsPerRow = 3;
+    // How many options stand beside each other, so that no setting takes more than two rows.
+    constexpr int kShortRow = 2;
+    constexpr int kLongRow = 3;
     auto* layout = new QGridLayout;
-    int row = 0;
+    int row = 1;
     for (std::size_t i = 0; i < fields_.size(); ++i, ++row) {
         if (labels_[i] != nullptr) {
             layout->addWidget(labels_[i], row, 0);
         }
         layout->addWidget(fields_[i], row, labels_[i] != nullptr ? 1 : 0, Qt::AlignLeft);
     }
-    // Few options stand one below the other, many in rows.
     const QList<QAbstractButton*> options = options_->buttons();
-    const int perRow = options.size() > kOptionsPerRow ? kOptionsPerRow : 1;
+    const int perRow = options.size() > kShortRow * kShortRow ? kLongRow : kShortRow;
     for (int i = 0; i < options.size(); ++i) {
         layout->addWidget(options[i], row + i / perRow, i % perRow);
     }
     layout->setColumnStretch(std::max(perRow, 2), 1);
     layout->setVerticalSpacing(2);
+    AddTitle(*layout);
     return layout;
 }
 
@@ -135,11 +145,10 @@ void VDSettingPanel::LayOutInRow() {
     auto* inPanel = new QHBoxLayout(this);
     inPanel->setContentsMargins(0, 0, 0, 0);
     auto* controls = new QVBoxLayout;
-    controls->addStretch();
     controls->addLayout(LayOutControls());
     controls->addStretch();
     auto* buttons = new QVBoxLayout;
-    buttons->addStretch();
+    buttons->setSpacing(kGap);
     buttons->addWidget(buttons_[kSetButton]);
     buttons->addWidget(buttons_[kGetButton]);
     buttons->addStretch();
@@ -232,6 +241,20 @@ void VDSettingPanel::ShowVDGetButtons(VDGetButtons buttons) {
     get->setVisible(buttons != VDGetButtons::None);
     // Without anything in it the border would stand around nothing.
     setVisible(!frame_->isHidden() || !buttons_[kSetButton]->isHidden() || !get->isHidden());
+}
+
+int VDSettingPanel::ButtonWidth() const {
+    return setting_.inBanks ? 0
+                            : std::max(buttons_[kSetButton]->sizeHint().width(),
+                                       buttons_[kGetButton]->sizeHint().width());
+}
+
+void VDSettingPanel::SetButtonWidth(int width) {
+    if (!setting_.inBanks) {
+        for (QPushButton* button : buttons_) {
+            button->setFixedWidth(width);
+        }
+    }
 }
 
 int VDSettingPanel::ChosenOption() const {

@@ -4,6 +4,7 @@
 
 #include <QButtonGroup>
 #include <QFrame>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -24,6 +25,10 @@ class VDSettingPanel : public QFrame {
     explicit VDSettingPanel(const VDSetting& setting, QWidget* parent = nullptr);
 
     const VDSetting& Setting() const { return setting_; }
+
+    /// What the buttons want, and what they get so that all of a form are equally wide. In pixels.
+    int ButtonWidth() const;
+    void SetButtonWidth(int width);
 
     /// Shows the frame and its controls if they are for one of these kinds of modules.
     void ShowVDSettingFrames(unsigned kinds, bool showAlways);
@@ -59,6 +64,7 @@ class VDSettingPanel : public QFrame {
     void BuildButtons();
     void LayOutBanks();
     void LayOutInRow();
+    void AddTitle(QGridLayout& layout);
     QLayout* LayOutControls();
     void PlaceBankRows(bool twoRows);
     int ChosenOption() const;

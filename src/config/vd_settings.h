@@ -74,7 +74,9 @@ struct VDPlace {
 struct VDSetting {
     const char* frame = "";
     const char* inWords = "";
-    VDPlace place;
+    /// Stands above the controls; empty where their labels say it.
+    const char* title = "";
+    VDPlace place = {};
     /// The frame is hidden for all other kinds of modules.
     unsigned shownFor = kForAny;
     const char* button = "";

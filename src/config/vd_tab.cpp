@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cstddef>
 
 #include "config/erase_question.h"
@@ -53,13 +54,22 @@ QLayout* VDTab::LayOutTarget() {
 
 QLayout* VDTab::LayOutSettings() {
     auto* grid = new QGridLayout;
+    int buttonWidth = 0;
     for (const VDSetting& setting : VDSettings()) {
         auto* panel = new VDSettingPanel(setting, this);
         panels_.push_back(panel);
         grid->addWidget(panel, setting.place.row, setting.place.column, setting.place.rows, 1);
-        grid->setRowStretch(setting.place.row, 1);
+        grid->setColumnStretch(setting.place.column, 1);
+        buttonWidth = std::max(buttonWidth, panel->ButtonWidth());
     }
-    grid->setColumnStretch(grid->columnCount(), 1);
+    int rowHeight = 0;
+    for (VDSettingPanel* panel : panels_) {
+        panel->SetButtonWidth(buttonWidth);
+        rowHeight = std::max(rowHeight, panel->sizeHint().height() / panel->Setting().place.rows);
+    }
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        grid->setRowMinimumHeight(row, rowHeight);
+    }
     return grid;
 }
 
