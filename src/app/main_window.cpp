@@ -104,6 +104,12 @@ void MainWindow::ConnectControls() {
 }
 
 void MainWindow::ConnectReplies() {
+    link_.Handlers().SetHandler(ReplyKind::VDConfig, [this](const ReplyBuffer& reply) {
+        vdTab_->ShowVDConfigReply(reply);
+    });
+    link_.Handlers().SetHandler(ReplyKind::KBConfig, [this](const ReplyBuffer& reply) {
+        kbTab_->ShowKBConfigReply(reply);
+    });
     link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
         log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "controls/palette.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QPalette>
 
 #include <algorithm>
@@ -50,6 +52,26 @@ void SetTextColour(QWidget* control, std::uint32_t bgr) {
     }
     control->setPalette(palette);
     control->setAutoFillBackground(!readable);
+}
+
+void SetGroundColour(QWidget* control, std::uint32_t bgr) {
+    const QColor ground = ColourOf(bgr);
+    const bool isField = qobject_cast<QLineEdit*>(control) != nullptr;
+    QPalette palette;
+    palette.setColor(isField ? QPalette::Base : QPalette::Window, ground);
+    palette.setColor(isField ? QPalette::Text : QPalette::WindowText, QColor(Qt::black));
+    // Not for a frame: it would hand the button colour down to the push buttons on it.
+    if (qobject_cast<QAbstractButton*>(control) != nullptr) {
+        palette.setColor(QPalette::Button, ground);
+        palette.setColor(QPalette::ButtonText, QColor(Qt::black));
+    }
+    control->setPalette(palette);
+    control->setAutoFillBackground(true);
+}
+
+void RestoreSystemColour(QWidget* control) {
+    control->setPalette(QPalette());
+    control->setAutoFillBackground(false);
 }
 
 }  // namespace zelvar
