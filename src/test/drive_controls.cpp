@@ -12,8 +12,8 @@ namespace zelvar {
 
 namespace {
 
-/// Dark enough for white text, 0xRRGGBB.
-constexpr QRgb kEstopRed = 0xC00000;
+/// 0xRRGGBB; dark enough for white text, also after the style has lightened it.
+constexpr QRgb kEstopRed = 0xA00000;
 constexpr int kEstopWidth = 140;
 constexpr int kEstopHeight = 48;
 
