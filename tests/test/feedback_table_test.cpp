@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(All, FeedbackLayouts,
                                            LayoutCase{"Mod32", 1, 32, 1792},
                                            LayoutCase{"Mod64", 2, 64, 1536},
                                            LayoutCase{"Mod128", 3, 128, 1024}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
 TEST(FeedbackLayout, Mod64FromBase0ShowsTheFirst16OfEach64) {
     EXPECT_EQ(FeedbackNumber(2, 0, 0), 0);

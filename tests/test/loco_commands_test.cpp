@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                       FunctionBit{24, 4, {44, 9, 6, 8, 3}}, FunctionBit{25, 4, {44, 9, 6, 16, 3}},
                       FunctionBit{26, 4, {44, 9, 6, 32, 3}}, FunctionBit{27, 4, {44, 9, 6, 64, 3}},
                       FunctionBit{28, 4, {44, 9, 7, 0, 3}}),
-    [](const auto& info) { return "F" + std::to_string(info.param.function); });
+    [](const auto& row) { return "F" + std::to_string(row.param.function); });
 
 TEST(DccFunctionGroups, SendAllTheirFunctionsAndNoOthers) {
     DccFunctionSet all;
@@ -176,9 +176,9 @@ TEST_P(DccFunctionsOfHighBlocks, OverflowBehindTheBytesBeforeTheBlock) {
 INSTANTIATE_TEST_SUITE_P(Above127, DccFunctionsOfHighBlocks,
                          ::testing::Values(BlockCase{128, 0}, BlockCase{200, 1}, BlockCase{255, 2},
                                            BlockCase{128, 3}, BlockCase{255, 4}),
-                         [](const auto& info) {
-                             return "Block" + std::to_string(info.param.block) + "Group" +
-                                    std::to_string(info.param.group);
+                         [](const auto& row) {
+                             return "Block" + std::to_string(row.param.block) + "Group" +
+                                    std::to_string(row.param.group);
                          });
 
 using DccFunctionsOfLowBlocks = LinkFixture;
