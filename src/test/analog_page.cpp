@@ -48,8 +48,7 @@ AnalogPage::AnalogPage(DriveDesk& desk, QWidget* parent)
                            "Set the HFI of the system")),
       cmdEstopAnalog_(
           EstopButton("cmdEstopAnalog", "Emergency stop of the analog locomotive", this)),
-      lblTestAnalogSpeed_(
-          Named(new QLabel(this), "lblTestAnalogSpeed", "Speed that the block reports")) {
+      lblTestAnalogSpeed_(Named(new QLabel(this), "lblTestAnalogSpeed", "Speed of the block")) {
     desk_.analogSpeed = AnalogSpeed_;
     ShowUnknownSpeed();
     Rest();
@@ -98,6 +97,7 @@ void AnalogPage::ConnectControls() {
 
 void AnalogPage::ShowSpeed(const QString& text) {
     lblTestAnalogSpeed_->setText(text);
+    lblTestAnalogSpeed_->setAccessibleName(QStringLiteral("Speed of the block: ") + text);
 }
 
 void AnalogPage::ShowUnknownSpeed() {

@@ -22,6 +22,9 @@ constexpr std::uint32_t kActiveColour = 0x0080FF;
 constexpr const char* kLayoutCaptions[] = {"1x128", "8x16 mod 32", "8x16 mod 64", "8x16 mod 128"};
 constexpr const char* kLookCaptions[] = {"= Inactive", "= Active", "= No information"};
 
+/// What assistive technology says of a label, in the order of the looks.
+constexpr const char* kLookWords[] = {"inactive", "active", "no information"};
+
 /// What the labels show until they are laid out; also the widest number.
 constexpr int kWidestNumber = kFeedbackInputs;
 // Pixels around a number.
@@ -182,25 +185,30 @@ int DlgZelvarFeedback::Layout() const {
     return 0;
 }
 
-void DlgZelvarFeedback::Paint(Cell& cell, Look look) {
-    // Setting a palette costs far more than looking whether it is another one.
+void DlgZelvarFeedback::Paint(Cell& cell, int number, Look look) {
+    // Setting a text or a palette costs far more than looking whether it is another one.
+    if (cell.number == number && cell.look == look) {
+        return;
+    }
+    if (cell.number != number) {
+        cell.number = number;
+        cell.label->setText(QString::number(number));
+    }
     if (cell.look != look) {
         cell.look = look;
         cell.label->setPalette(palettes_[static_cast<std::size_t>(look)]);
     }
+    cell.label->setAccessibleName(QStringLiteral("Input %1, %2")
+                                      .arg(number)
+                                      .arg(Text(kLookWords[static_cast<std::size_t>(look)])));
 }
 
 void DlgZelvarFeedback::LayOutLabels() {
     const int layout = Layout();
     const int base = Base();
     for (int i = 0; i < kFeedbackLabels; ++i) {
-        Cell& cell = lblFBM_[static_cast<std::size_t>(i)];
         const int number = FeedbackNumber(layout, base, i);
-        if (cell.number != number) {
-            cell.number = number;
-            cell.label->setText(QString::number(number));
-        }
-        Paint(cell, LookOf(table_.State(number)));
+        Paint(lblFBM_[static_cast<std::size_t>(i)], number, LookOf(table_.State(number)));
     }
 }
 
@@ -209,7 +217,7 @@ bool DlgZelvarFeedback::fbUpdate(int index, std::int16_t state) {
         return false;
     }
     if (const auto label = FeedbackLabelOf(Layout(), Base(), index)) {
-        Paint(lblFBM_[static_cast<std::size_t>(*label)], LookOf(state));
+        Paint(lblFBM_[static_cast<std::size_t>(*label)], index, LookOf(state));
     }
     return true;
 }

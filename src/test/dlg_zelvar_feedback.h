@@ -56,7 +56,7 @@ class DlgZelvarFeedback : public SecondaryWindow {
     QLayout* BuildChoices();
     QLayout* BuildLegend();
     QLabel* FormLabel(int index, const char* caption);
-    void Paint(Cell& cell, Look look);
+    void Paint(Cell& cell, int number, Look look);
     void LayOutLabels();
     void opFBmod_Click(int index);
     void cmdFBMrefresh_Click();

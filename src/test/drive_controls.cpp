@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include "controls/naming.h"

@@ -21,6 +21,8 @@ namespace {
 
 constexpr int kLastBlock = 255;
 constexpr int kMccPage = 2;
+/// Pixels around the status line, which may get a ground of its own.
+constexpr int kStatusMargin = 4;
 
 }  // namespace
 
@@ -42,6 +44,7 @@ TestTab::TestTab(const Services& services, QWidget* parent)
     mccPage_ = new MccPage(services, this);
 
     auto* layout = new QGridLayout(this);
+    lblTestSystemStatus_->setMargin(kStatusMargin);
     auto* top = new QHBoxLayout;
     top->addWidget(lblTestSystemStatus_);
     top->addStretch();

@@ -60,8 +60,11 @@ TEST_F(FeedbackMonitorTest, ColoursLabelsByTheirState) {
     EXPECT_EQ(GroundOf(5), kActive);
     EXPECT_EQ(GroundOf(6), kInactive);
     EXPECT_EQ(GroundOf(7), kNoInformation);
+    EXPECT_EQ(Label(5).accessibleName(), QStringLiteral("Input 5, active"));
     Receive(Report(5, false));
     EXPECT_EQ(GroundOf(5), kInactive);
+    EXPECT_EQ(Label(5).accessibleName(), QStringLiteral("Input 5, inactive"));
+    EXPECT_EQ(Label(7).accessibleName(), QStringLiteral("Input 7, no information"));
     EXPECT_EQ(Part<QLabel>("lblFBMform(1)").palette().color(QPalette::Window), kInactive);
     EXPECT_EQ(Part<QLabel>("lblFBMform(2)").palette().color(QPalette::Window), kActive);
     EXPECT_EQ(Part<QLabel>("lblFBMform(3)").palette().color(QPalette::Window), kNoInformation);
@@ -152,7 +155,8 @@ TEST_F(FeedbackMonitorTest, NotesHowLongANewLayoutTakes) {
     Click("CommandTestFBM");
     auto& monitor = dynamic_cast<DlgZelvarFeedback&>(Monitor());
     QElapsedTimer elapsed;
-    qint64 worst = 0;
+    qint64 worstLayout = 0;
+    qint64 worstWithPainting = 0;
     for (int round = 1; round <= 20; ++round) {
         // Every label gets another text and another colour.
         for (int input = 0; input < 2048; ++input) {
@@ -160,12 +164,14 @@ TEST_F(FeedbackMonitorTest, NotesHowLongANewLayoutTakes) {
         }
         elapsed.start();
         SetBase(round * 16);
+        worstLayout = std::max(worstLayout, elapsed.nsecsElapsed() / 1000);
         monitor.grab();
-        worst = std::max(worst, elapsed.nsecsElapsed() / 1000);
+        worstWithPainting = std::max(worstWithPainting, elapsed.nsecsElapsed() / 1000);
         EXPECT_EQ(Label(127).text(), QString::number(round * 16 + 127));
     }
     // For the reader of the log: a frame is 16,000 microseconds.
-    RecordProperty("worst_microseconds", static_cast<int>(worst));
+    RecordProperty("layout_microseconds", static_cast<int>(worstLayout));
+    RecordProperty("with_painting_microseconds", static_cast<int>(worstWithPainting));
 }
 
 }  // namespace
