@@ -40,6 +40,12 @@ QColor ColourOf(std::uint32_t bgr) {
                   static_cast<int>((bgr >> 16) & kChannel));
 }
 
+QColor ReadableOn(const QColor& ground) {
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    return Contrast(black, ground) >= Contrast(white, ground) ? black : white;
+}
+
 void SetTextColour(QWidget* control, std::uint32_t bgr) {
     const QColor colour = ColourOf(bgr);
     const QColor ground = QApplication::palette(control).color(QPalette::Window);
