@@ -25,6 +25,7 @@ constexpr const char* kFollowsModule = " Default";
 // Columns of the report, in characters.
 constexpr std::size_t kDeviceWidth = 6;
 constexpr std::size_t kTimeWidth = 8;
+constexpr std::size_t kDefaultTimeWidth = 4;
 constexpr std::size_t kMillisecondsWidth = 6;
 
 Command Request(std::uint8_t count, int module, bool permanent, int device) {
@@ -45,8 +46,8 @@ int Milliseconds(int sixtieths) {
     return (sixtieths * 1000 + kPerSecond / 2) / kPerSecond;
 }
 
-std::string TimeText(int sixtieths) {
-    return RightAligned(sixtieths, kTimeWidth) +
+std::string TimeText(int sixtieths, std::size_t width) {
+    return RightAligned(sixtieths, width) +
            RightAligned(Milliseconds(sixtieths), kMillisecondsWidth) + " ms";
 }
 
@@ -58,14 +59,15 @@ std::string PowerText(int power) {
 std::string DeviceRow(int device, const JsDeviceSettings& settings, int defaultTime) {
     const bool follows = settings.time == 0;
     const std::string mark(kFollowsModule);
-    return RightAligned(device, kDeviceWidth) + TimeText(follows ? defaultTime : settings.time) +
+    return RightAligned(device, kDeviceWidth) +
+           TimeText(follows ? defaultTime : settings.time, kTimeWidth) +
            (follows ? mark : std::string(mark.size(), ' ')) + "  " + PowerText(settings.power) +
            "\n";
 }
 
 std::string MemoryText(const char* heading, const JsMemory& memory) {
     std::string text = std::string("\n") + heading + "\n";
-    text += "Default Timing =" + TimeText(memory.defaultTime) + "\n";
+    text += "Default Timing =" + TimeText(memory.defaultTime, kDefaultTimeWidth) + "\n";
     text += "Device  Timing  Power\n";
     for (int device = 0; device < kJsDevices; ++device) {
         text +=

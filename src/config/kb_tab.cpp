@@ -93,11 +93,11 @@ KBTab::KBTab(const Services& services, QWidget* parent)
     always->addWidget(BuildOptionsFrame());
     always->addWidget(Build64DMFrame());
     always->addWidget(BuildTransparentFrame());
-    always->addStretch();
+    always->addStretch(1);
     // The frame that some units do not have stands last, so that it leaves no hole.
     auto* configuration = new QVBoxLayout;
     configuration->addWidget(frmConfig_);
-    configuration->addStretch();
+    configuration->addStretch(1);
     body->addLayout(always);
     body->addLayout(configuration);
     body->addStretch();

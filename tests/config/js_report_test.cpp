@@ -118,13 +118,13 @@ TEST(JsReportText, HasBothSectionsWithAlignedRows) {
     ASSERT_EQ(lines.size(), 1U + 2 * (1 + 3 + 64));
     EXPECT_EQ(lines[0], "JS70#12");
     EXPECT_EQ(lines[2], " Permanent settings:");
-    EXPECT_EQ(lines[3], "Default Timing =      30   500 ms");
+    EXPECT_EQ(lines[3], "Default Timing =  30   500 ms");
     EXPECT_EQ(lines[4], "Device  Timing  Power");
     EXPECT_EQ(lines[5], "     0     127  2117 ms          Unlimited");
     EXPECT_EQ(lines[6], "     1      30   500 ms Default  Normal");
     EXPECT_EQ(lines[7], "     2       1    17 ms          Invalid setting");
     EXPECT_EQ(lines[70], " Active settings:");
-    EXPECT_EQ(lines[71], "Default Timing =       0     0 ms");
+    EXPECT_EQ(lines[71], "Default Timing =   0     0 ms");
     EXPECT_EQ(lines[72], "Device  Timing  Power");
     EXPECT_EQ(lines[136], "    63      60  1000 ms          Low");
 }

@@ -187,6 +187,7 @@ TEST_F(VDTabReply, TextOnGreenIsDarkInADarkTheme) {
     dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::WindowText, Qt::white);
     QApplication::setPalette(dark);
+    QApplication::processEvents();
     Report(1, 9);
     Report(10, 2);
     EXPECT_TRUE(IsGreen("txtHFI"));
