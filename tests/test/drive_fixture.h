@@ -34,7 +34,7 @@ class DriveFixture : public WindowFixture {
 
     /// What was sent since the last look.
     Sent TakeSent() {
-        const Sent sent = port.SentValues();
+        Sent sent = port.SentValues();
         port.ForgetSent();
         return sent;
     }

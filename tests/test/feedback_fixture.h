@@ -4,6 +4,7 @@
 
 #include <QRadioButton>
 
+#include <numeric>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -79,10 +80,8 @@ class FeedbackFixture : public DriveFixture {
     }
 
     static std::vector<int> From(int first, int count) {
-        std::vector<int> numbers;
-        for (int i = 0; i < count; ++i) {
-            numbers.push_back(first + i);
-        }
+        std::vector<int> numbers(static_cast<std::size_t>(count));
+        std::iota(numbers.begin(), numbers.end(), first);
         return numbers;
     }
 
