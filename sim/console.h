@@ -29,6 +29,8 @@ struct ConsoleContext {
     CentralUnit& unit;
     Faults& faults;
     Time now{0};
+    /// The rate that the other end of the line has set; 0 while there is no line.
+    int lineBaud = 0;
 };
 
 using ConsoleArguments = std::span<const std::string>;

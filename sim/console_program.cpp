@@ -20,7 +20,7 @@ ConsoleResult Trace(ConsoleContext&, ConsoleArguments arguments) {
 
 ConsoleResult State(ConsoleContext& context, ConsoleArguments) {
     return {context.unit.Describe(context.now) + "silent=" + (context.faults.silent() ? "1" : "0") +
-                "\nok",
+                "\nline-baud=" + std::to_string(context.lineBaud) + "\nok",
             ConsoleAction::kNone};
 }
 

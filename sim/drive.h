@@ -5,8 +5,8 @@
 #include <array>
 #include <bitset>
 #include <chrono>
-#include <compare>
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include "ramp.h"
@@ -33,7 +33,10 @@ inline constexpr int kDccFunctions = 29;
 struct DccDecoder {
     int address = 1;
     bool longAddress = false;
-    auto operator<=>(const DccDecoder&) const = default;
+
+    bool operator<(const DccDecoder& other) const {
+        return std::tie(address, longAddress) < std::tie(other.address, other.longAddress);
+    }
 };
 
 struct DccLocomotive {

@@ -70,9 +70,9 @@ Answer DccSpeed126(UnitState& state, const Payload& command) {
 
 /// Functions from number `first` on take the bits of `pattern`, lowest first.
 void SetFunctions(DccLocomotive& locomotive, int first, int count, int pattern) {
-    for (int index = 0; index < count; ++index) {
-        locomotive.functions.set(static_cast<std::size_t>(first + index),
-                                 (pattern >> index & 1) != 0);
+    for (int bit = 0; bit < count; ++bit) {
+        const auto function = static_cast<std::size_t>(first) + static_cast<std::size_t>(bit);
+        locomotive.functions.set(function, (pattern >> bit & 1) != 0);
     }
 }
 

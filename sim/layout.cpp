@@ -13,8 +13,8 @@ constexpr int kSecondType = 1;  // a VD60's second unit reports the VD60's type
 struct DefaultModule {
     int address;
     int type;
-    ModuleState state;
     int version;
+    ModuleState state;
     std::uint8_t masterSlave;  // one master in the whole layout
 };
 
@@ -26,31 +26,31 @@ constexpr int kQlrxS = static_cast<int>(TractionType::kQlrxS);
 
 constexpr DefaultModule kDefaultModules[] = {
     // Traction, channel 0.
-    {kTractionFamily + 0, kVdF, ModuleState::kOk, 1023, kMaster},
-    {kTractionFamily + 1, kVdF, ModuleState::kIdle, 1023, kSlave},
-    {kTractionFamily + 2, kVdF, ModuleState::kFault, 1010, kSlave},
-    {kTractionFamily + 4, kVd60, ModuleState::kOk, 2014, kSlave},
-    {kSecondaryFamily + 4, kSecondType, ModuleState::kOk, 2014, kSlave},
-    {kTractionFamily + 5, kVd60, ModuleState::kFault, 2014, kSlave},
-    {kSecondaryFamily + 5, kVdF, ModuleState::kOk, 2014, kSlave},  // a wrong type: an error
-    {kTractionFamily + 6, kVd60, ModuleState::kOk, 2010, kSlave},  // its second unit is missing
-    {kTractionFamily + 8, kQlrxS, ModuleState::kOk, 1102, 0},
-    {kTractionFamily + 9, kQlrxS, ModuleState::kIdle, 0, 0},
+    {kTractionFamily + 0, kVdF, 1023, ModuleState::kOk, kMaster},
+    {kTractionFamily + 1, kVdF, 1023, ModuleState::kIdle, kSlave},
+    {kTractionFamily + 2, kVdF, 1010, ModuleState::kFault, kSlave},
+    {kTractionFamily + 4, kVd60, 2014, ModuleState::kOk, kSlave},
+    {kSecondaryFamily + 4, kSecondType, 2014, ModuleState::kOk, kSlave},
+    {kTractionFamily + 5, kVd60, 2014, ModuleState::kFault, kSlave},
+    {kSecondaryFamily + 5, kVdF, 2014, ModuleState::kOk, kSlave},  // a wrong type: an error
+    {kTractionFamily + 6, kVd60, 2010, ModuleState::kOk, kSlave},  // its second unit is missing
+    {kTractionFamily + 8, kQlrxS, 1102, ModuleState::kOk, 0},
+    {kTractionFamily + 9, kQlrxS, 0, ModuleState::kIdle, 0},
     // Traction, channel 1.
-    {kTractionFamily + 16, kVdF, ModuleState::kOk, 1023, kSlave},
-    {kTractionFamily + 19, kVd60, ModuleState::kOk, 2014, kSlave},
-    {kSecondaryFamily + 19, kSecondType, ModuleState::kIdle, 2014, kSlave},
-    {kTractionFamily + 24, kQlrxS, ModuleState::kFault, 1102, 0},
+    {kTractionFamily + 16, kVdF, 1023, ModuleState::kOk, kSlave},
+    {kTractionFamily + 19, kVd60, 2014, ModuleState::kOk, kSlave},
+    {kSecondaryFamily + 19, kSecondType, 2014, ModuleState::kIdle, kSlave},
+    {kTractionFamily + 24, kQlrxS, 1102, ModuleState::kFault, 0},
     // Point motors.
-    {kPointFamily + 0, 0, ModuleState::kOk, 1201, 0},
-    {kPointFamily + 1, 0, ModuleState::kHold, 1201, 0},
-    {kPointFamily + 3, 0, ModuleState::kIdle, 0, 0},
-    {kPointFamily + 17, 0, ModuleState::kOk, 1201, 0},
-    {kPointFamily + 23, 0, ModuleState::kOk, 1200, 0},
+    {kPointFamily + 0, 0, 1201, ModuleState::kOk, 0},
+    {kPointFamily + 1, 0, 1201, ModuleState::kHold, 0},
+    {kPointFamily + 3, 0, 0, ModuleState::kIdle, 0},
+    {kPointFamily + 17, 0, 1201, ModuleState::kOk, 0},
+    {kPointFamily + 23, 0, 1200, ModuleState::kOk, 0},
     // Signals.
-    {kSignalFamily + 0, 0, ModuleState::kOk, 1005, 0},
-    {kSignalFamily + 2, 0, ModuleState::kIdle, 1005, 0},
-    {kSignalFamily + 18, 0, ModuleState::kOk, 0, 0},
+    {kSignalFamily + 0, 0, 1005, ModuleState::kOk, 0},
+    {kSignalFamily + 2, 0, 1005, ModuleState::kIdle, 0},
+    {kSignalFamily + 18, 0, 0, ModuleState::kOk, 0},
 };
 
 }  // namespace

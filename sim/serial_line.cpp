@@ -138,7 +138,7 @@ int SerialLine::Baud() const {
     return 0;
 }
 
-std::optional<std::vector<std::uint8_t>> SerialLine::Read() {
+std::optional<std::vector<std::uint8_t>> SerialLine::Read() const {
     std::array<std::uint8_t, kReadChunk> chunk{};
     const ssize_t count = read(fd_, chunk.data(), chunk.size());
     if (count > 0) {
@@ -148,7 +148,7 @@ std::optional<std::vector<std::uint8_t>> SerialLine::Read() {
     return nothingYet ? std::optional(std::vector<std::uint8_t>()) : std::nullopt;
 }
 
-void SerialLine::Write(std::span<const std::uint8_t> bytes) {
+void SerialLine::Write(std::span<const std::uint8_t> bytes) const {
     while (!bytes.empty()) {
         const ssize_t count = write(fd_, bytes.data(), bytes.size());
         if (count < 0 && errno == EINTR) {

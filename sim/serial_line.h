@@ -36,9 +36,9 @@ class SerialLine {
     int Baud() const;
 
     /// What has arrived, without waiting; nothing when the line is gone.
-    std::optional<std::vector<std::uint8_t>> Read();
+    std::optional<std::vector<std::uint8_t>> Read() const;
     /// Bytes that find no room are lost, as on a line nobody listens to.
-    void Write(std::span<const std::uint8_t> bytes);
+    void Write(std::span<const std::uint8_t> bytes) const;
 
   private:
     std::optional<std::string> Fail(const std::string& what);

@@ -170,7 +170,7 @@ void Server::ServeConsole() {
 }
 
 void Server::RunLine(const std::string& line) {
-    ConsoleContext context{unit_, faults_, Now()};
+    ConsoleContext context{unit_, faults_, Now(), line_.IsOpen() ? line_.Baud() : 0};
     const ConsoleResult result = RunConsoleLine(context, line);
     if (!result.text.empty() && result.action != ConsoleAction::kReconnect) {
         std::cout << result.text << std::endl;

@@ -25,7 +25,8 @@ TEST_F(StartUp, ShowsTheMainWindowReadyToChooseAPort) {
     EXPECT_EQ(program->Items("cboVD"), "");
     EXPECT_EQ(program->Items("cboJS"), "");
     EXPECT_EQ(Frames(), 0) << "the list of ports must not send anything";
-    for (const char* window : {"dlgMsgLog", "dlgAlarmLog", "dlgZelvarStatus", "dlgZelvarStatus44"}) {
+    for (const char* window :
+         {"dlgMsgLog", "dlgAlarmLog", "dlgZelvarStatus", "dlgZelvarStatus44"}) {
         EXPECT_NE(program->Window(window), "visible") << window;
     }
 }
@@ -101,7 +102,8 @@ TEST_F(StartUp, EndsWithTheMainWindowWhateverElseIsOpen) {
     program->Ask({"press", "cmdStatus", "left", "shift"});
     program->Ask({"doubleclick", "lblCom"});
     unit->Do("overcurrent 5");
-    for (const char* window : {"dlgMsgLog", "dlgAlarmLog", "dlgZelvarStatus", "dlgZelvarStatus44"}) {
+    for (const char* window :
+         {"dlgMsgLog", "dlgAlarmLog", "dlgZelvarStatus", "dlgZelvarStatus44"}) {
         ASSERT_TRUE(program->Says({"window", window}, "visible"));
     }
     program->Ask({"close", "frmZelvarConfig"});

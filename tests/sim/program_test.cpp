@@ -91,6 +91,7 @@ class ProgramTest : public testing::Test {
         std::vector<std::string> words = {ZELVARSIM_PROGRAM};
         words.insert(words.end(), options.begin(), options.end());
         std::vector<char*> arguments;
+        arguments.reserve(words.size() + 1);
         for (std::string& word : words) {
             arguments.push_back(word.data());
         }

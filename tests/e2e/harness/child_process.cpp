@@ -56,8 +56,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
     std::array<int, 2> input{};
     std::array<int, 2> output{};
     const int errors = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
-    if (errors < 0 || pipe2(input.data(), O_CLOEXEC) != 0 ||
-        pipe2(output.data(), O_CLOEXEC) != 0) {
+    if (errors < 0 || pipe2(input.data(), O_CLOEXEC) != 0 || pipe2(output.data(), O_CLOEXEC) != 0) {
         throw std::runtime_error("cannot start " + name_);
     }
     std::signal(SIGPIPE, SIG_IGN);
@@ -91,8 +90,8 @@ std::optional<int> ChildProcess::WaitForExit(Milliseconds limit) {
         [this] {
             int status = 0;
             if (!status_ && pid_ > 0 && waitpid(pid_, &status, WNOHANG) == pid_) {
-                status_ = WIFEXITED(status) ? WEXITSTATUS(status)
-                                            : kSignalOffset + WTERMSIG(status);
+                status_ =
+                    WIFEXITED(status) ? WEXITSTATUS(status) : kSignalOffset + WTERMSIG(status);
             }
             return status_.has_value();
         },

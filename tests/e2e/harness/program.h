@@ -32,7 +32,8 @@ std::ostream& operator<<(std::ostream& out, const BoxText& box);
 class Program {
   public:
     /// @param ports the devices of the ports 1, 2, 3 ..., separated by colons
-    Program(const TempFolder& folder, const std::string& ports, const std::string& name = "program");
+    Program(const TempFolder& folder, const std::string& ports,
+            const std::string& name = "program");
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

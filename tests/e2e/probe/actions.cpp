@@ -41,8 +41,8 @@ Qt::KeyboardModifiers ModifiersOf(const QStringList& words) {
     for (const QString& name : words.value(3).split(u'+')) {
         modifiers.setFlag(Qt::ShiftModifier,
                           modifiers.testFlag(Qt::ShiftModifier) || name == QLatin1String("shift"));
-        modifiers.setFlag(Qt::ControlModifier, modifiers.testFlag(Qt::ControlModifier) ||
-                                                   name == QLatin1String("ctrl"));
+        modifiers.setFlag(Qt::ControlModifier,
+                          modifiers.testFlag(Qt::ControlModifier) || name == QLatin1String("ctrl"));
         modifiers.setFlag(Qt::AltModifier,
                           modifiers.testFlag(Qt::AltModifier) || name == QLatin1String("alt"));
     }

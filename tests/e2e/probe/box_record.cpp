@@ -27,9 +27,8 @@ QStringList Describe(const QMessageBox& box) {
         captions << button->text().remove(u'&');
     }
     captions.sort();
-    return {box.windowTitle(),
-            QString::fromLatin1(kIcons[static_cast<std::size_t>(box.icon())]), box.text(),
-            captions.join(u',')};
+    return {box.windowTitle(), QString::fromLatin1(kIcons[static_cast<std::size_t>(box.icon())]),
+            box.text(), captions.join(u',')};
 }
 
 }  // namespace zelvar::e2e
