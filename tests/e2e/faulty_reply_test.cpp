@@ -69,6 +69,7 @@ TEST_P(OddReply, IsAccepted) {
         EXPECT_TRUE(program->Shows("lblBarStatus", "System Status = Stop"));
         EXPECT_TRUE(Polls());
     }
+    unit->Do("drip 0");
     RequestStatus();
     EXPECT_EQ(program->Text(kSystemVersion), "KB-E 1.02");
     EXPECT_EQ(program->BoxesShown().size(), 0U);

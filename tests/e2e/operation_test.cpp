@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include <regex>
+#include <algorithm>
 
 #include "harness/journey.h"
 
@@ -10,9 +10,12 @@ namespace {
 
 using Operation = Journey;
 
-/// What the log shows of an exchange without data values: the frame, 21 blanks for the places that
-/// it does not use, and a reply.
-constexpr char kPollWithAlarm[] = ">> (28 D8|68 98) {21}  << 0A B3 85 BE\n";
+/// What the log shows of a poll that brought the alarm of block 133: the frame with one or the
+/// other alternating bit, 21 blanks for the places that it does not use, and the reply.
+std::vector<std::string> PollWithAlarm() {
+    const std::string rest = std::string(21, ' ') + "  << 0A B3 85 BE\n";
+    return {">> 28 D8" + rest, ">> 68 98" + rest};
+}
 
 TEST_F(Operation, TheStatusLineFollowsTheUnitWhilePolling) {
     StartAndPoll();
@@ -125,7 +128,9 @@ TEST_F(Operation, TheMessageLogShowsEveryExchangeButQuietPolls) {
     ASSERT_TRUE(program->Says({"window", "dlgAlarmLog"}, "visible"));
     const std::string text = program->Text("txtMsgLog");
     ASSERT_TRUE(text.starts_with(reset));
-    EXPECT_TRUE(std::regex_match(text.substr(reset.size()), std::regex(kPollWithAlarm))) << text;
+    const std::string added = text.substr(reset.size());
+    const std::vector<std::string> allowed = PollWithAlarm();
+    EXPECT_NE(std::find(allowed.begin(), allowed.end(), added), allowed.end()) << added;
 
     program->Click("dlgMsgLog/cmdClear");
     EXPECT_EQ(program->Text("txtMsgLog"), "");
