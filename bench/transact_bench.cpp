@@ -96,7 +96,7 @@ void BM_TransactAgainstBareLoop(benchmark::State& state) {
     std::chrono::nanoseconds bareTime{0};
     std::chrono::nanoseconds transactTime{0};
     bool ok = bare >= 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const auto start = std::chrono::steady_clock::now();
         for (int i = 0; i < kTurns; ++i) {
             ok = BareExchange(bare) && ok;

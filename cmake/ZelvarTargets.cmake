@@ -24,8 +24,10 @@ else()
         zelvar_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                  -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
                                  -Werror
-                                 # GCC 12 raises a false alarm for concatenated strings (its bug 105651).
-                                 $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+                                 # GCC 12 and later raise false alarms for concatenated strings
+                                 # (GCC bug 105651 and its kin).
+                                 $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+                                 $<$<CXX_COMPILER_ID:GNU>:-Wno-stringop-overflow>)
 endif()
 if(ZELVAR_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

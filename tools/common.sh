@@ -44,3 +44,7 @@ need() {
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-serialport-dev libgl-dev)
 # What a window takes to show: the X11 platform plugin comes with Qt, fonts do not.
 RUN_PACKAGES=(libqt6widgets6 libqt6serialport6 fonts-dejavu-core)
+
+# With a compiler cache, what one clone has built serves the next.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime

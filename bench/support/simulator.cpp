@@ -9,8 +9,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace zelvar::bench {
 
 pid_t Start(const std::string& program, const std::vector<std::string>& arguments, int output) {

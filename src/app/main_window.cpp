@@ -49,7 +49,9 @@ MainWindow::MainWindow(const Platform& platform)
       dlgZelvarStatus_(LazyWindow<DlgZelvarStatus>::OnClose::Keep,
                        [] { return new DlgZelvarStatus; }),
       dlgZelvarStatus44_(LazyWindow<DlgZelvarStatus44>::OnClose::Keep,
-                         [] { return new DlgZelvarStatus44; }) {
+                         [] { return new DlgZelvarStatus44; }),
+      dlgZelvarFeedback_(LazyWindow<DlgZelvarFeedback>::OnClose::Unload,
+                         [this] { return new DlgZelvarFeedback(platform_.gate); }) {
     setObjectName(QStringLiteral("frmZelvarConfig"));
     setWindowTitle(QStringLiteral("ZelvarConfig 1.40B"));
     BuildTabs();
@@ -104,6 +106,12 @@ void MainWindow::ConnectControls() {
 }
 
 void MainWindow::ConnectReplies() {
+    link_.Handlers().SetHandler(ReplyKind::VDConfig, [this](const ReplyBuffer& reply) {
+        vdTab_->ShowVDConfigReply(reply);
+    });
+    link_.Handlers().SetHandler(ReplyKind::KBConfig, [this](const ReplyBuffer& reply) {
+        kbTab_->ShowKBConfigReply(reply);
+    });
     link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
         log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));
@@ -113,6 +121,16 @@ void MainWindow::ConnectReplies() {
     link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const ReplyBuffer& reply) {
         testTab_->ShowBlockSpeed(ReadBlockSpeedReport(reply));
     });
+    // A report loads the monitor without showing it; a tick asks it only when it is loaded.
+    link_.Handlers().SetHandler(ReplyKind::Feedback, [this](const ReplyBuffer& reply) {
+        dlgZelvarFeedback_.Get().Show(ReadFeedbackReport(reply));
+    });
+    poller_.SetFeedbackQuery([this] {
+        DlgZelvarFeedback* monitor = dlgZelvarFeedback_.Peek();
+        return monitor == nullptr ? kNoFeedbackWanted : monitor->fbRequestState();
+    });
+    connect(testTab_, &TestTab::FeedbackMonitorWanted, this,
+            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -132,6 +150,7 @@ void MainWindow::Form_Unload() {
     dlgAlarmLog_.Unload();
     dlgZelvarStatus_.Unload();
     dlgZelvarStatus44_.Unload();
+    dlgZelvarFeedback_.Unload();
 }
 
 void MainWindow::ScanPorts() {

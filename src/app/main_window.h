@@ -24,6 +24,7 @@
 #include "status/dlg_zelvar_status44.h"
 #include "status/module_registry.h"
 #include "status/status_request.h"
+#include "test/dlg_zelvar_feedback.h"
 #include "test/test_tab.h"
 
 namespace zelvar {
@@ -99,6 +100,7 @@ class MainWindow : public QMainWindow, private LinkView {
     LazyWindow<LogWindow> dlgAlarmLog_;
     LazyWindow<DlgZelvarStatus> dlgZelvarStatus_;
     LazyWindow<DlgZelvarStatus44> dlgZelvarStatus44_;
+    LazyWindow<DlgZelvarFeedback> dlgZelvarFeedback_;
 };
 
 }  // namespace zelvar

@@ -2,37 +2,165 @@
 // SPDX-License-Identifier: MIT
 #include "config/js_tab.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
+#include <cstddef>
+
+#include "config/erase_question.h"
+#include "config/js_commands.h"
+#include "config/js_report.h"
 #include "config/selection.h"
+#include "controls/command_button.h"
 #include "controls/naming.h"
 
 namespace zelvar {
 
-JSTab::JSTab(const Services& /*services*/, QWidget* parent)
+namespace {
+
+constexpr std::array<const char*, 4> kPowerCaptions{"Normal", "Low", "High", "Unlimited"};
+constexpr int kReportFontPoints = 9;
+
+QPushButton* Button(const char* caption, const char* name, const char* inWords, QWidget* parent) {
+    return MakeCommandButton(Text(caption), Text(name), Text(inWords), parent);
+}
+
+QLabel* LabelFor(QWidget* control, const char* caption, const char* name) {
+    auto* label = Named(new QLabel(Text(caption), control->parentWidget()), name, caption);
+    label->setBuddy(control);
+    return label;
+}
+
+QPlainTextEdit* MakeReportField(QWidget* parent) {
+    auto* field = Named(new QPlainTextEdit(parent), "textJSReport", "Configuration report");
+    QFont font(QStringLiteral("Lucida Console"), kReportFontPoints);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    field->setFont(font);
+    field->setReadOnly(true);
+    field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    field->setLineWrapMode(QPlainTextEdit::NoWrap);
+    return field;
+}
+
+}  // namespace
+
+JSTab::JSTab(const Services& services, QWidget* parent)
     : QWidget(parent),
+      services_(services),
+      commands_(services, {{}, [this] { return ChosenJsModules(SelectionOf(*cboJS_)); }}),
       cboJS_(Named(new DropDownList(this), "cboJS", "Point-motor module")),
-      cmdGetJSConfig_(Named(new QPushButton(QStringLiteral("Get Configuration"), this),
-                            "cmdGetJSConfig", "Get the configuration of the module")),
-      cmdHideJSConfig_(Named(new QPushButton(QStringLiteral("Hide Result"), this),
-                             "cmdHideJSConfig", "Hide the configuration report")),
-      textJSReport_(Named(new QPlainTextEdit(this), "textJSReport", "Configuration report")) {
+      chkJSperm_(Named(new QCheckBox(QStringLiteral("Permanent"), this), "chkJSperm",
+                       "Permanent settings of the point-motor modules")),
+      updownJSdevice_(new SpinField(QStringLiteral("updownJSdevice"), QStringLiteral("txtJSdevice"),
+                                    QStringLiteral("Device"), 0, kJsLastDevice, this)),
+      updownJStime_(new SpinField(QStringLiteral("updownJStime"), QStringLiteral("txtJStime"),
+                                  QStringLiteral("Time in sixtieths of a second"), 0,
+                                  kJsLongestTime, this)),
+      cmdTIME_(Button("Set Default Time", "cmdTIME", "Set the default time of the module", this)),
+      cmdDeviceTime_(
+          Button("Set Device Time", "cmdDeviceTime", "Set the time of the device", this)),
+      cmdDevicePower_(
+          Button("Set Device Pwr", "cmdDevicePower", "Set the power of the device", this)),
+      cmdJSerase_(
+          Button("Erase All", "cmdJSerase", "Erase all settings of the point-motor modules", this)),
+      cmdGetJSConfig_(Button("Get Configuration", "cmdGetJSConfig",
+                             "Get the configuration of the module", this)),
+      cmdHideJSConfig_(
+          Button("Hide Result", "cmdHideJSConfig", "Hide the configuration report", this)),
+      textJSReport_(MakeReportField(this)) {
     auto* layout = new QVBoxLayout(this);
+    layout->addLayout(LayOutTarget());
+    auto* body = new QHBoxLayout;
+    body->addLayout(LayOutSettings());
+    body->addWidget(textJSReport_, 1);
+    body->addStretch();
+    layout->addLayout(body, 1);
+    ShowJSReportControls(false);
+    ConnectControls();
+}
+
+QLayout* JSTab::LayOutTarget() {
+    cboJS_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    cboJS_->setMinimumContentsLength(8);
     auto* target = new QHBoxLayout;
+    target->addWidget(LabelFor(cboJS_, "Module", "lblJS"));
     target->addWidget(cboJS_);
+    target->addWidget(chkJSperm_);
     target->addWidget(cmdGetJSConfig_);
     target->addWidget(cmdHideJSConfig_);
     target->addStretch();
-    layout->addLayout(target);
-    layout->addWidget(textJSReport_);
-    layout->addStretch();
-    ShowJSReportControls(false);
-    connect(cboJS_, &DropDownList::Chosen, this, [this] { JsSelectionChanged(); });
+    target->addWidget(cmdJSerase_);
+    return target;
+}
+
+QLayout* JSTab::LayOutSettings() {
+    auto* frame = new QFrame(this);
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* grid = new QGridLayout(frame);
+    grid->addWidget(LabelFor(updownJStime_, "Time (1/60s)", "lblJStime"), 0, 0);
+    grid->addWidget(updownJStime_, 0, 1);
+    grid->addWidget(cmdTIME_, 0, 2);
+    grid->addWidget(LabelFor(updownJSdevice_, "Device", "lblJSdevice"), 1, 0);
+    grid->addWidget(updownJSdevice_, 1, 1);
+    grid->addWidget(cmdDeviceTime_, 1, 2);
+    grid->addLayout(LayOutPower(), 2, 0, 1, 2);
+    grid->addWidget(cmdDevicePower_, 2, 2, Qt::AlignTop);
+    auto* column = new QVBoxLayout;
+    column->addWidget(frame);
+    column->addStretch(1);
+    // The order of the fields in the form, not that in which they were made.
+    const std::array<QWidget*, 5> order{updownJStime_, cmdTIME_, updownJSdevice_, cmdDeviceTime_,
+                                        optJSpower_[0]};
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        setTabOrder(order[i - 1], order[i]);
+    }
+    setTabOrder(optJSpower_.back(), cmdDevicePower_);
+    return column;
+}
+
+QLayout* JSTab::LayOutPower() {
+    auto* layout = new QVBoxLayout;
+    for (std::size_t i = 0; i < optJSpower_.size(); ++i) {
+        const QString caption = Text(kPowerCaptions[i]);
+        optJSpower_[i] =
+            Named(new QRadioButton(caption, this), IndexedName("optJSpower", static_cast<int>(i)),
+                  QStringLiteral("Power: ") + caption);
+        layout->addWidget(optJSpower_[i]);
+    }
+    optJSpower_[0]->setChecked(true);
+    return layout;
+}
+
+void JSTab::ConnectControls() {
+    struct Click {
+        QPushButton* button;
+        void (JSTab::*handler)();
+    };
+    const Click clicks[] = {
+        {cmdTIME_, &JSTab::cmdTIME_Click},
+        {cmdDeviceTime_, &JSTab::cmdDeviceTime_Click},
+        {cmdDevicePower_, &JSTab::cmdDevicePower_Click},
+        {cmdJSerase_, &JSTab::cmdJSerase_Click},
+        {cmdGetJSConfig_, &JSTab::cmdGetJSConfig_Click},
+        {cmdHideJSConfig_, &JSTab::cmdHideJSConfig_Click},
+    };
+    for (const Click& click : clicks) {
+        connect(
+            click.button, &QPushButton::clicked, this,
+            services_.gate.Handler([this, handler = click.handler](bool) { (this->*handler)(); }));
+    }
+    connect(cboJS_, &DropDownList::Chosen, this, services_.gate.Handler([this] { cboJS_Click(); }));
 }
 
 void JSTab::Fill(const SelectionList& list) {
     FillSelection(*cboJS_, list);
+    JsSelectionChanged();
+}
+
+void JSTab::cboJS_Click() {
     JsSelectionChanged();
 }
 
@@ -42,8 +170,63 @@ void JSTab::JsSelectionChanged() {
 
 void JSTab::ShowJSReportControls(bool canGet) {
     cmdGetJSConfig_->setVisible(canGet);
-    cmdHideJSConfig_->setVisible(false);
-    textJSReport_->setVisible(false);
+    ShowReport(false);
+}
+
+void JSTab::ShowReport(bool shown) {
+    cmdHideJSConfig_->setVisible(shown);
+    textJSReport_->setVisible(shown);
+}
+
+int JSTab::PowerCode() const {
+    for (std::size_t code = 1; code < optJSpower_.size(); ++code) {
+        if (optJSpower_[code]->isChecked()) {
+            return static_cast<int>(code);
+        }
+    }
+    return 0;
+}
+
+void JSTab::cmdTIME_Click() {
+    updownJStime_->Clamp();
+    commands_.SendModuleCommand(JsDefaultTime(chkJSperm_->isChecked(), updownJStime_->Value()));
+}
+
+void JSTab::cmdDeviceTime_Click() {
+    updownJStime_->Clamp();
+    updownJSdevice_->Clamp();
+    commands_.SendModuleCommand(
+        JsDeviceTime(chkJSperm_->isChecked(), updownJSdevice_->Value(), updownJStime_->Value()));
+}
+
+void JSTab::cmdDevicePower_Click() {
+    updownJSdevice_->Clamp();
+    commands_.SendModuleCommand(
+        JsDevicePower(chkJSperm_->isChecked(), updownJSdevice_->Value(), PowerCode()));
+}
+
+void JSTab::cmdJSerase_Click() {
+    if (AgreesToErase(services_.messageBox, "JS70-units")) {
+        commands_.SendModuleCommand(kJsErase);
+    }
+}
+
+void JSTab::cmdGetJSConfig_Click() {
+    const ModuleSelection selection = SelectionOf(*cboJS_);
+    if (!selection.data || *selection.data == kAllJs) {
+        return;
+    }
+    const std::optional<JsConfiguration> configuration =
+        JsReportRequest(services_).Run(*selection.data);
+    if (configuration) {
+        textJSReport_->setPlainText(Text(FormatJsReport(*configuration)));
+    }
+    // An older report must not be taken for the one that did not come.
+    ShowReport(configuration.has_value());
+}
+
+void JSTab::cmdHideJSConfig_Click() {
+    ShowReport(false);
 }
 
 }  // namespace zelvar

@@ -10,6 +10,8 @@
 
 #include <array>
 
+#include "config/kb_commands.h"
+#include "config/module_commands.h"
 #include "link/services.h"
 #include "status/central_unit.h"
 
@@ -25,15 +27,37 @@ class KBTab : public QWidget {
     /// Names the unit that was found and shows what it supports.
     void ShowUnit(const CentralUnit& unit);
 
+    /// Shows the unit's configuration switches, in green.
+    void ShowKBConfigReply(const ReplyBuffer& reply);
+
   private:
+    using Boxes = std::array<QCheckBox*, kKBSwitches>;
+
     void ShowKBConfigView(const KBConfigView& view);
     QFrame* BuildConfigFrame();
+    QFrame* BuildOptionsFrame();
+    QFrame* Build64DMFrame();
+    QFrame* BuildTransparentFrame();
+    void ConnectControls();
 
+    void cmdConfig_Click(int index);
+    void cmdConfig_LostFocus();
+    void cmdOptions_Click();
+    void cmdJS70dm_Click();
+    void cmdTM_Click(int index);
+
+    Services services_;
+    ModuleCommands commands_;
     QLabel* lblKBtype_;
-    QFrame* frmConfig_ = nullptr;
-    std::array<QCheckBox*, 8> chkKBEconfig_{};
+    QCheckBox* chkKBperm_;
+    Boxes chkKBEconfig_{};
     std::array<QPushButton*, 2> cmdConfig_{};
-    std::array<QPushButton*, 3> cmdTM_{};
+    QFrame* frmConfig_;
+    Boxes chkKBEoptions_{};
+    QPushButton* cmdOptions_ = nullptr;
+    Boxes chkJSdevicemode_{};
+    QPushButton* cmdJS70dm_ = nullptr;
+    std::array<QPushButton*, kTransparentModes> cmdTM_{};
 };
 
 }  // namespace zelvar

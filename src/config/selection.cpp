@@ -14,4 +14,12 @@ void FillSelection(DropDownList& control, const SelectionList& list) {
     control.setCurrentIndex(list.selected);
 }
 
+ModuleSelection SelectionOf(const DropDownList& control) {
+    ModuleSelection selection{control.count(), {}};
+    if (control.currentIndex() >= 0) {
+        selection.data = control.currentData().toInt();
+    }
+    return selection;
+}
+
 }  // namespace zelvar

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "config/module_commands.h"
 #include "controls/drop_down_list.h"
 #include "status/selection_list.h"
 
@@ -9,5 +10,8 @@ namespace zelvar {
 
 /// Fills a module selection list anew and selects what the list says, which reports a choice.
 void FillSelection(DropDownList& control, const SelectionList& list);
+
+/// What a module selection list holds at present.
+ModuleSelection SelectionOf(const DropDownList& control);
 
 }  // namespace zelvar

@@ -2,9 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCheckBox>
+#include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 
+#include <vector>
+
+#include "config/module_commands.h"
+#include "config/vd_setting_panel.h"
 #include "controls/drop_down_list.h"
 #include "link/services.h"
 #include "status/module_registry.h"
@@ -12,7 +19,9 @@
 
 namespace zelvar {
 
-/// The "VDxx / QLRX-s" tab: the settings of the traction modules.
+/// The "VDxx / QLRX-s" tab: the settings of the traction modules. The frames of the settings are
+/// built from the rows of `VDSettings`; in the names of their handlers `Setting` stands for the
+/// row's own name, so that `cmdSetting_Click` is the Click of `cmdHFI`, `cmdAL` and so on.
 class VDTab : public QWidget {
     Q_OBJECT
 
@@ -22,9 +31,30 @@ class VDTab : public QWidget {
     /// Fills `cboVD` anew and selects what the list says.
     void Fill(const SelectionList& list);
 
+    /// Shows a traction module's configuration reply, if it is what the form is about.
+    void ShowVDConfigReply(const ReplyBuffer& reply);
+
   private:
+    QLayout* LayOutTarget();
+    QLayout* LayOutSettings();
+    void ConnectControls();
+    void ConnectPanel(VDSettingPanel& panel);
+
+    void cboVD_Click();
+    void UpdateVDTypeView();
+    void cmdSetting_Click(VDSettingPanel& panel, int index);
+    void cmdMS_Click(VDSettingPanel& panel, int index);
+    void txtSetting_Change(VDSettingPanel& panel, int field);
+    void cmdErase_Click();
+
+    Services services_;
+    const ModuleRegistry& registry_;
+    ModuleCommands commands_;
     DropDownList* cboVD_;
     QLabel* lblVDtype_;
+    QCheckBox* chkVDperm_;
+    QPushButton* cmdErase_;
+    std::vector<VDSettingPanel*> panels_;
 };
 
 }  // namespace zelvar

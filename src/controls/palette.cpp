@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "controls/palette.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QPalette>
 
 #include <algorithm>
@@ -38,6 +40,12 @@ QColor ColourOf(std::uint32_t bgr) {
                   static_cast<int>((bgr >> 16) & kChannel));
 }
 
+QColor ReadableOn(const QColor& ground) {
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    return Contrast(black, ground) >= Contrast(white, ground) ? black : white;
+}
+
 void SetTextColour(QWidget* control, std::uint32_t bgr) {
     const QColor colour = ColourOf(bgr);
     const QColor ground = QApplication::palette(control).color(QPalette::Window);
@@ -50,6 +58,26 @@ void SetTextColour(QWidget* control, std::uint32_t bgr) {
     }
     control->setPalette(palette);
     control->setAutoFillBackground(!readable);
+}
+
+void SetGroundColour(QWidget* control, std::uint32_t bgr) {
+    const QColor ground = ColourOf(bgr);
+    const bool isField = qobject_cast<QLineEdit*>(control) != nullptr;
+    QPalette palette;
+    palette.setColor(isField ? QPalette::Base : QPalette::Window, ground);
+    palette.setColor(isField ? QPalette::Text : QPalette::WindowText, QColor(Qt::black));
+    // Not for a frame: it would hand the button colour down to the push buttons on it.
+    if (qobject_cast<QAbstractButton*>(control) != nullptr) {
+        palette.setColor(QPalette::Button, ground);
+        palette.setColor(QPalette::ButtonText, QColor(Qt::black));
+    }
+    control->setPalette(palette);
+    control->setAutoFillBackground(true);
+}
+
+void RestoreSystemColour(QWidget* control) {
+    control->setPalette(QPalette());
+    control->setAutoFillBackground(false);
 }
 
 }  // namespace zelvar

@@ -36,6 +36,8 @@ class SpinField : public QAbstractSpinBox {
     void stepBy(int steps) override;
     QValidator::State validate(QString& input, int& position) const override;
     void fixup(QString& input) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
     /// The text is another one, whoever changed it.
@@ -46,8 +48,6 @@ class SpinField : public QAbstractSpinBox {
   protected:
     StepEnabled stepEnabled() const override;
     void wheelEvent(QWheelEvent* event) override;
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
   private:
     int minimum_;

@@ -111,7 +111,7 @@ void DlgZelvarStatus44::BuildFrames() {
 QGridLayout* DlgZelvarStatus44::NewRows(int frame, int columns) {
     const auto index = static_cast<std::size_t>(frame);
     auto* grid = new QGridLayout(frmStatus_[index]);
-    grid->setContentsMargins(3, 2, 3, 3);
+    grid->setContentsMargins(2, 2, 2, 3);
     grid->setSpacing(1);
     grid->addWidget(
         NewLabel(IndexedName("lblSSchannel", frame),

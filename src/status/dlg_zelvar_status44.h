@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
 
@@ -12,8 +13,6 @@
 #include "controls/secondary_window.h"
 #include "status/status_fields.h"
 #include "status/system_report.h"
-
-class QGridLayout;
 
 namespace zelvar {
 

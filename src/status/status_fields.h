@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QString>
@@ -30,7 +31,7 @@ struct SystemFields {
 struct SystemStatus;
 
 /// Builds the fields with their labels, one below the other.
-SystemFields BuildSystemFields(QWidget* parent, class QGridLayout& layout);
+SystemFields BuildSystemFields(QWidget* parent, QGridLayout& layout);
 
 void ShowSystemFields(const SystemFields& fields, const SystemStatus& status);
 

@@ -3,12 +3,16 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
+#include <QTabWidget>
 #include <QWidget>
 
 #include "link/reports.h"
 #include "link/services.h"
 #include "link/system_status.h"
+#include "test/analog_page.h"
+#include "test/dcc_page.h"
+#include "test/drive_controls.h"
+#include "test/mcc_page.h"
 
 namespace zelvar {
 
@@ -24,10 +28,29 @@ class TestTab : public QWidget {
     /// Shows the speed of the block that `txtTestBlock` names; others are dropped silently.
     void ShowBlockSpeed(const BlockSpeedReport& report);
 
+  Q_SIGNALS:
+    /// The user wants to see the feedback monitor.
+    void FeedbackMonitorWanted();
+
   private:
+    QWidget* LocomotiveGroup();
+    QLayout* AccessoryColumn();
+    void ConnectControls();
+    void SSTab2_Change(int page);
+    void txtTestBlock_Change();
+    void CommandTestClearBlock_Click();
+    void CommandTestFBM_Click();
+
+    DriveDesk desk_;
     QLabel* lblTestSystemStatus_;
-    QLineEdit* txtTestBlock_;
-    QLabel* lblTestAnalogSpeed_;
+    QPushButton* CommandTestFBM_;
+    QLabel* lblTestBlock_;
+    SpinField* UpDown_Block_;
+    QPushButton* CommandTestClearBlock_;
+    QTabWidget* SSTab2_;
+    AnalogPage* analogPage_;
+    DccPage* dccPage_;
+    MccPage* mccPage_;
 };
 
 }  // namespace zelvar

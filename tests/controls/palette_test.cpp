@@ -63,6 +63,9 @@ TEST_P(Themes, LeaveEveryStatusColourReadable) {
         SetTextColour(&label, colour);
         EXPECT_EQ(label.palette().color(QPalette::WindowText), ColourOf(colour));
         EXPECT_GE(ContrastOf(label), 3.0) << std::hex << colour;
+        // A ground of its own has to be painted to be seen.
+        EXPECT_EQ(label.autoFillBackground(),
+                  label.palette().color(QPalette::Window) != QColor(GetParam().window));
     }
 }
 

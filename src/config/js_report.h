@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "config/js_commands.h"
+#include "link/services.h"
+
+namespace zelvar {
+
+struct JsDeviceSettings {
+    /// In sixtieths of a second, 0..127; 0 stands for the module's default.
+    int time = 0;
+    /// 0..3; other codes have no meaning.
+    int power = 0;
+};
+
+/// One of a module's two memories.
+struct JsMemory {
+    /// In sixtieths of a second, 0..127.
+    int defaultTime = 0;
+    std::array<JsDeviceSettings, kJsDevices> devices{};
+};
+
+struct JsConfiguration {
+    /// 0..15
+    int module = 0;
+    JsMemory permanent;
+    JsMemory active;
+};
+
+/// The request for a module's default time. @param module 0..15
+Command JsDefaultTimeRequest(int module, bool permanent);
+
+/// The request for one device's settings. @param device 0..63
+Command JsDeviceRequest(int module, bool permanent, int device);
+
+/// Asks a point-motor module for everything that it has stored, in both memories.
+class JsReportRequest {
+  public:
+    explicit JsReportRequest(const Services& services) : services_(services) {}
+
+    /// Checks the port and asks. @param module 0..15
+    /// @return nothing after a failed exchange, or when the module does not answer, which the user
+    /// is told
+    std::optional<JsConfiguration> Run(int module);
+
+  private:
+    bool AskMemory(int module, bool permanent, JsMemory& memory);
+    bool Ask(int module, const Command& request, int answerValues);
+
+    Services services_;
+};
+
+/// The report as the user reads it, in a fixed-pitch font; lines end with "\n".
+std::string FormatJsReport(const JsConfiguration& configuration);
+
+}  // namespace zelvar

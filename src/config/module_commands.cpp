@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "config/module_commands.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <initializer_list>
+#include <numeric>
+#include <string>
+#include <utility>
+
+#include "status/selection_list.h"
+
+namespace zelvar {
+
+namespace {
+
+struct Group {
+    int data;
+    /// Lines from here on are not looked at.
+    int lines;
+    std::initializer_list<std::int16_t> types;
+};
+
+/// VD-F and QLRX-s have no secondary units, so they are looked for among the primary lines alone.
+const Group kGroups[] = {
+    {kAllVD60, kVDLines, {kVd60}},
+    {kAllQlrx, kVDPrimaryLines, {kQlrxS}},
+    {kAllVDF, kVDPrimaryLines, {kVdF}},
+    {kAllVDxx, kVDLines, {kVdF, kVd60}},
+};
+
+/// Moves bit 5 of a line number, the secondary unit, to bit 4 of the command code.
+constexpr int kSecondaryCode = 16;
+
+std::uint8_t Byte(int value) {
+    return static_cast<std::uint8_t>(value);
+}
+
+Command Addressed(const ModuleCommand& command, int address, int code) {
+    constexpr int kLeadingBytes = 2;
+    return {Byte(command.length + kLeadingBytes),
+            {0, Byte(address), Byte(code), command.arg1, command.arg2}};
+}
+
+std::vector<int> LinesOfTypes(const ModuleRegistry& registry, const Group& group) {
+    std::vector<int> lines;
+    for (int m = 0; m < group.lines; ++m) {
+        const std::int16_t type = registry.vdType[static_cast<std::size_t>(m)];
+        if (std::find(group.types.begin(), group.types.end(), type) != group.types.end()) {
+            lines.push_back(m);
+        }
+    }
+    return lines;
+}
+
+}  // namespace
+
+ChosenModules ChosenVDModules(const ModuleRegistry& registry, const ModuleSelection& selection) {
+    ChosenModules chosen{selection.entries > 0, {}};
+    if (!selection.data) {
+        return chosen;
+    }
+    for (const Group& group : kGroups) {
+        if (group.data == *selection.data) {
+            chosen.modules = LinesOfTypes(registry, group);
+            return chosen;
+        }
+    }
+    chosen.modules.push_back(*selection.data);
+    return chosen;
+}
+
+ChosenModules ChosenJsModules(const ModuleSelection& selection) {
+    ChosenModules chosen{selection.entries > 0, {}};
+    if (selection.data == kAllJs) {
+        chosen.modules.resize(kJsModules);
+        std::iota(chosen.modules.begin(), chosen.modules.end(), 0);
+    } else if (selection.data) {
+        chosen.modules.push_back(*selection.data);
+    }
+    return chosen;
+}
+
+Command CommandForVD(const ModuleCommand& command, int module) {
+    return Addressed(command, kFamilyVD + module % kVDPrimaryLines,
+                     (module / kVDPrimaryLines) * kSecondaryCode + command.code);
+}
+
+Command CommandForJs(const ModuleCommand& command, int module) {
+    return Addressed(command, kFamilyJs + JsAddressOf(module), command.code);
+}
+
+Command CommandForUnit(const ModuleCommand& command) {
+    constexpr std::uint8_t kUnitFamily = 1;
+    return {command.length, {kUnitFamily, command.code, command.arg1, command.arg2}};
+}
+
+ModuleCommands::ModuleCommands(const Services& services, Queries queries)
+    : services_(services), queries_(std::move(queries)) {}
+
+void ModuleCommands::SendModuleCommand(const ModuleCommand& command) {
+    if (!services_.link.CheckPort() || !services_.link.Transact(kEmptyTransaction)) {
+        return;
+    }
+    if (SendToTarget(command)) {
+        services_.link.Transact(kEmptyTransaction);
+    }
+}
+
+bool ModuleCommands::SendToTarget(const ModuleCommand& command) {
+    switch (command.target) {
+        case kTargetVD:
+            return SendToModules(command, queries_.vd, CommandForVD);
+        case kTargetJs:
+            return SendToModules(command, queries_.js, CommandForJs);
+        case kTargetUnit:
+            return services_.link.Transact(CommandForUnit(command));
+        default:
+            return true;
+    }
+}
+
+bool ModuleCommands::SendToModules(const ModuleCommand& command, const Query& query,
+                                   Address address) {
+    const ChosenModules chosen = query ? query() : ChosenModules();
+    if (!chosen.registered) {
+        services_.messageBox.Tell(std::string(kRequestStatusText), BoxIcon::Exclamation);
+        return true;
+    }
+    std::optional<ProgressScope> progress;
+    if (chosen.modules.size() > 1) {
+        progress.emplace(services_.progress, "Configuring the modules",
+                         static_cast<int>(chosen.modules.size()));
+    }
+    for (const int module : chosen.modules) {
+        if (!services_.link.Transact(address(command, module))) {
+            return false;
+        }
+        if (progress) {
+            services_.progress.Step();
+        }
+    }
+    return true;
+}
+
+}  // namespace zelvar

@@ -1,0 +1,317 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "config/vd_setting_panel.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cstddef>
+
+#include "controls/command_button.h"
+#include "controls/lost_focus.h"
+#include "controls/naming.h"
+#include "controls/palette.h"
+
+namespace zelvar {
+
+namespace {
+
+// Fixed positions within a frame with banks, in pixels at 96 dpi.
+constexpr int kTwipsPerPixel = 15;
+constexpr int kFirstRowOfTwo = 120 / kTwipsPerPixel;
+constexpr int kOnlyRow = 360 / kTwipsPerPixel;
+constexpr int kSecondRow = 600 / kTwipsPerPixel;
+/// A label stands this much lower than its field, and ends as much higher.
+constexpr int kLabelInset = 30 / kTwipsPerPixel;
+constexpr int kGap = 8;
+
+void KeepPlaceWhenHidden(QWidget* widget) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
+QString NameOf(const char* name, int index) {
+    return index == kNoIndex ? Text(name) : IndexedName(name, index);
+}
+
+}  // namespace
+
+VDSettingPanel::VDSettingPanel(const VDSetting& setting, QWidget* parent)
+    : QFrame(parent),
+      setting_(setting),
+      frame_(Named(new QFrame(this), setting.frame, setting.inWords)),
+      options_(new QButtonGroup(this)) {
+    // The border goes round everything, so it is the frame's only if the frame holds everything.
+    (setting.buttonsOutside ? this : frame_)->setFrameShape(QFrame::StyledPanel);
+    KeepPlaceWhenHidden(this);
+    KeepPlaceWhenHidden(frame_);
+    BuildFields();
+    BuildOptions();
+    BuildButtons();
+    if (setting.inBanks) {
+        LayOutBanks();
+    } else {
+        LayOutInRow();
+    }
+}
+
+void VDSettingPanel::BuildFields() {
+    const VDNumbers& numbers = setting_.numbers;
+    for (const VDField& field : numbers.fields) {
+        const int number = static_cast<int>(fields_.size());
+        auto* spin =
+            new SpinField(NameOf(numbers.spin, field.index), NameOf(numbers.field, field.index),
+                          Text(field.inWords), numbers.minimum, numbers.maximum, frame_);
+        QLabel* label = nullptr;
+        if (field.label != nullptr) {
+            label = Named(new QLabel(Text(field.caption), frame_), NameOf(field.label, field.index),
+                          Text(field.inWords));
+            label->setBuddy(spin);
+        }
+        fields_.push_back(spin);
+        labels_.push_back(label);
+        connect(spin, &SpinField::Change, this, [this, number] { Q_EMIT FieldChanged(number); });
+        connect(spin, &SpinField::Stepped, this, [this, number] { Q_EMIT FieldStepped(number); });
+    }
+}
+
+void VDSettingPanel::BuildOptions() {
+    const VDOptions& options = setting_.options;
+    for (const VDOption& option : options.options) {
+        const QString caption = Text(option.caption);
+        auto* button =
+            Named(new QRadioButton(caption, frame_), IndexedName(options.name, option.value),
+                  Text(setting_.inWords) + QStringLiteral(": ") + caption);
+        button->setChecked(option.value == options.initial);
+        options_->addButton(button, option.value);
+    }
+}
+
+void VDSettingPanel::BuildButtons() {
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        const int index = static_cast<int>(i);
+        const QString caption = Text(setting_.captions[i]);
+        const QString inWords =
+            (index == kSetButton ? QStringLiteral("Set: ") : QStringLiteral("Get: ")) +
+            Text(setting_.inWords);
+        buttons_[i] =
+            MakeCommandButton(caption, IndexedName(setting_.button, index), inWords,
+                              setting_.buttonsOutside ? static_cast<QWidget*>(this) : frame_);
+        KeepPlaceWhenHidden(buttons_[i]);
+        connect(buttons_[i], &QPushButton::clicked, this,
+                [this, index] { Q_EMIT ButtonClicked(index); });
+        OnLostFocus(buttons_[i], [this] { Q_EMIT ButtonLostFocus(); });
+    }
+}
+
+void VDSettingPanel::AddTitle(QGridLayout& layout) {
+    auto* title = new QLabel(Text(setting_.title), frame_);
+    if (!fields_.empty() && labels_.front() == nullptr) {
+        title->setBuddy(fields_.front());
+    }
+    layout.addWidget(title, 0, 0, 1, layout.columnCount());
+}
+
+QLayout* VDSettingPanel::LayOutControls() {
+    // How many options stand beside each other, so that no setting takes more than two rows.
+    constexpr int kShortRow = 2;
+    constexpr int kLongRow = 3;
+    auto* layout = new QGridLayout;
+    int row = 1;
+    for (std::size_t i = 0; i < fields_.size(); ++i, ++row) {
+        if (labels_[i] != nullptr) {
+            layout->addWidget(labels_[i], row, 0);
+        }
+        layout->addWidget(fields_[i], row, labels_[i] != nullptr ? 1 : 0, Qt::AlignLeft);
+    }
+    const QList<QAbstractButton*> options = options_->buttons();
+    const int perRow = options.size() > kShortRow * kShortRow ? kLongRow : kShortRow;
+    for (int i = 0; i < options.size(); ++i) {
+        layout->addWidget(options[i], row + i / perRow, i % perRow);
+    }
+    layout->setColumnStretch(std::max(perRow, 2), 1);
+    layout->setVerticalSpacing(2);
+    AddTitle(*layout);
+    return layout;
+}
+
+void VDSettingPanel::LayOutInRow() {
+    auto* inFrame = new QHBoxLayout(frame_);
+    auto* inPanel = new QHBoxLayout(this);
+    inPanel->setContentsMargins(0, 0, 0, 0);
+    auto* controls = new QVBoxLayout;
+    controls->addLayout(LayOutControls());
+    controls->addStretch();
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(kGap);
+    buttons->addWidget(buttons_[kSetButton]);
+    buttons->addWidget(buttons_[kGetButton]);
+    buttons->addStretch();
+    inFrame->addLayout(controls, 1);
+    inPanel->addWidget(frame_, 1);
+    if (setting_.buttonsOutside) {
+        const QMargins margins = inFrame->contentsMargins();
+        buttons->setContentsMargins(0, margins.top(), margins.right(), margins.bottom());
+        inPanel->setSpacing(0);
+        inPanel->addLayout(buttons);
+    } else {
+        inFrame->addLayout(buttons);
+    }
+}
+
+void VDSettingPanel::LayOutBanks() {
+    const QSize field = fields_.front()->sizeHint();
+    int labelWidth = 0;
+    for (const QLabel* label : labels_) {
+        labelWidth = std::max(labelWidth, label->sizeHint().width());
+    }
+    int x = kGap;
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        labels_[i]->resize(labelWidth, field.height() - 2 * kLabelInset);
+        fields_[i]->resize(field);
+        labels_[i]->move(x, 0);
+        fields_[i]->move(x + labelWidth + kGap, 0);
+        // Two fields stand one below the other, then comes the next column.
+        if (i % 2 == 1) {
+            x = fields_[i]->geometry().right() + 2 * kGap;
+        }
+    }
+    PlaceBankRows(true);
+    const int top = fields_.back()->geometry().bottom() + 1 + kGap;
+    const int width = (x - 2 * kGap) / 2;
+    int left = kGap;
+    for (QPushButton* button : buttons_) {
+        const int wanted = std::max(width, button->sizeHint().width());
+        button->setGeometry(left, top, wanted, button->sizeHint().height());
+        left += wanted + kGap;
+    }
+    frame_->setMinimumSize(std::max(x, left), buttons_[0]->geometry().bottom() + 1 + kGap);
+    auto* inPanel = new QVBoxLayout(this);
+    inPanel->setContentsMargins(0, 0, 0, 0);
+    inPanel->addWidget(frame_);
+}
+
+void VDSettingPanel::PlaceBankRows(bool twoRows) {
+    const int first = twoRows ? kFirstRowOfTwo : kOnlyRow;
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        // Lower when a large font makes the fields high.
+        const int second =
+            std::max(kSecondRow, kFirstRowOfTwo + fields_[i]->height() + kLabelInset);
+        const int top = i % 2 == 0 ? first : second;
+        fields_[i]->move(fields_[i]->x(), top);
+        labels_[i]->move(labels_[i]->x(), top + kLabelInset);
+    }
+}
+
+void VDSettingPanel::ShowVDSettingFrames(unsigned kinds, bool showAlways) {
+    const bool shown = (setting_.shownFor & kinds) != 0;
+    frame_->setVisible(shown || showAlways);
+    bool twoRows = false;
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        const bool fieldShown = (setting_.numbers.fields[i].shownFor & kinds) != 0;
+        fields_[i]->setVisible(fieldShown);
+        if (labels_[i] != nullptr) {
+            labels_[i]->setVisible(fieldShown);
+        }
+        twoRows = twoRows || (i % 2 == 1 && fieldShown);
+    }
+    if (setting_.inBanks) {
+        PlaceBankRows(twoRows);
+    }
+    if (setting_.buttonsOutside) {
+        buttons_[kSetButton]->setVisible(shown);
+    }
+}
+
+void VDSettingPanel::ShowVDGetButtons(VDGetButtons buttons) {
+    QPushButton* get = buttons_[kGetButton];
+    if (!setting_.buttonsOutside) {
+        get->setVisible(buttons == VDGetButtons::All);
+        return;
+    }
+    const bool isCheck = buttons == VDGetButtons::CheckOnly;
+    get->setText(isCheck ? QStringLiteral("Check MS mode") : QStringLiteral("Get MS mode"));
+    get->setAccessibleName(isCheck ? QStringLiteral("Check masters, slaves and clocks")
+                                   : QStringLiteral("Get: ") + Text(setting_.inWords));
+    get->setVisible(buttons != VDGetButtons::None);
+    // Without anything in it the border would stand around nothing.
+    setVisible(!frame_->isHidden() || !buttons_[kSetButton]->isHidden() || !get->isHidden());
+}
+
+int VDSettingPanel::ButtonWidth() const {
+    return setting_.inBanks ? 0
+                            : std::max(buttons_[kSetButton]->sizeHint().width(),
+                                       buttons_[kGetButton]->sizeHint().width());
+}
+
+void VDSettingPanel::SetButtonWidth(int width) {
+    if (!setting_.inBanks) {
+        for (QPushButton* button : buttons_) {
+            button->setFixedWidth(width);
+        }
+    }
+}
+
+int VDSettingPanel::ChosenOption() const {
+    return std::max(options_->checkedId(), 0);
+}
+
+VDInput VDSettingPanel::Input() const {
+    VDInput input;
+    for (const SpinField* field : fields_) {
+        input.numbers.push_back({field->Value(), !field->isHidden()});
+    }
+    input.option = ChosenOption();
+    return input;
+}
+
+void VDSettingPanel::ClampOnClick() {
+    if (setting_.numbers.clamped == Clamped::OnClick) {
+        for (SpinField* field : fields_) {
+            field->Clamp();
+        }
+    }
+}
+
+void VDSettingPanel::ClampField(int field) {
+    fields_[static_cast<std::size_t>(field)]->Clamp();
+}
+
+void VDSettingPanel::RestoreFieldColour(int field) {
+    RestoreSystemColour(fields_[static_cast<std::size_t>(field)]->Field());
+}
+
+bool VDSettingPanel::ShowReply(const VDReply& reply) {
+    if (HasOptionFor(setting_, reply)) {
+        // What was green before is not what the module has now.
+        RestoreColours();
+        QAbstractButton* option = options_->button(reply.value);
+        option->setChecked(true);
+        SetGroundColour(option, kColourGreen);
+        return true;
+    }
+    const std::optional<std::size_t> shown =
+        FieldShowing(setting_, reply.parameter, ChosenOption());
+    if (shown) {
+        QLineEdit* field = fields_[*shown]->Field();
+        field->setText(QString::number(reply.value));
+        SetGroundColour(field, kColourGreen);
+    }
+    return shown.has_value();
+}
+
+void VDSettingPanel::RestoreColours() {
+    for (const SpinField* field : fields_) {
+        RestoreSystemColour(field->Field());
+    }
+    for (QAbstractButton* option : options_->buttons()) {
+        RestoreSystemColour(option);
+    }
+}
+
+}  // namespace zelvar

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QButtonGroup>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+#include <vector>
+
+#include "config/vd_settings.h"
+#include "controls/spin_field.h"
+
+namespace zelvar {
+
+/// The controls of one setting of the traction modules, built from its row. Everything keeps its
+/// place when it is hidden.
+class VDSettingPanel : public QFrame {
+    Q_OBJECT
+
+  public:
+    explicit VDSettingPanel(const VDSetting& setting, QWidget* parent = nullptr);
+
+    const VDSetting& Setting() const { return setting_; }
+
+    /// What the buttons want, and what they get so that all of a form are equally wide. In pixels.
+    int ButtonWidth() const;
+    void SetButtonWidth(int width);
+
+    /// Shows the frame and its controls if they are for one of these kinds of modules.
+    void ShowVDSettingFrames(unsigned kinds, bool showAlways);
+    void ShowVDGetButtons(VDGetButtons buttons);
+
+    VDInput Input() const;
+
+    /// Brings the numbers into their range, if that waits for the click.
+    void ClampOnClick();
+
+    /// Shows what was reported, in green. @return false when it does not belong here
+    bool ShowReply(const VDReply& reply);
+
+    /// Gives all controls the colours of the system back.
+    void RestoreColours();
+
+  Q_SIGNALS:
+    /// @param index `kSetButton` or `kGetButton`
+    void ButtonClicked(int index);
+    void ButtonLostFocus();
+    /// The text of a field is another one.
+    void FieldChanged(int field);
+    /// A field's spin control has stepped.
+    void FieldStepped(int field);
+
+  public:
+    void ClampField(int field);
+    void RestoreFieldColour(int field);
+
+  private:
+    void BuildFields();
+    void BuildOptions();
+    void BuildButtons();
+    void LayOutBanks();
+    void LayOutInRow();
+    void AddTitle(QGridLayout& layout);
+    QLayout* LayOutControls();
+    void PlaceBankRows(bool twoRows);
+    int ChosenOption() const;
+
+    const VDSetting& setting_;
+    QFrame* frame_;
+    std::vector<SpinField*> fields_;
+    /// Null for a field without a label.
+    std::vector<QLabel*> labels_;
+    /// The ids are the options' values.
+    QButtonGroup* options_;
+    std::array<QPushButton*, 2> buttons_{};
+};
+
+}  // namespace zelvar

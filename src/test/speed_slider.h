@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSlider>
+#include <QTimer>
+
+#include "platform/handler_gate.h"
+
+namespace zelvar {
+
+/// A slider whose every new value is a command. What code sets is reported at once; of what the
+/// user passes over while the line is busy only the newest value is reported, so that sending
+/// never falls behind the hand. When a box comes up, the slider lets go of the mouse.
+class SpeedSlider : public QSlider {
+    Q_OBJECT
+
+  public:
+    SpeedSlider(HandlerGate& gate, int maximum, QWidget* parent = nullptr);
+
+    /// Sets the value from code, leaving none of the user's unreported.
+    void Put(int value);
+
+  Q_SIGNALS:
+    /// There is a new value.
+    void Change();
+
+  protected:
+    bool event(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void ValueChanged();
+    void ReportNewest();
+    void LetGo();
+
+    HandlerGate& gate_;
+    /// Runs while the user has chosen a value that is not reported yet.
+    QTimer report_;
+    bool inUserInput_ = false;
+};
+
+}  // namespace zelvar

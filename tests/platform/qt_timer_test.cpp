@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "platform/qt_timer.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace zelvar::testing {
+namespace {
+
+/// In milliseconds.
+constexpr int kInterval = 2;
+
+class QtTimerTest : public ::testing::Test {
+  protected:
+    QtTimerTest() {
+        timer.SetHandler([this] { ++ticks; });
+    }
+
+    /// Lets the event loop turn until another timer of the same interval has ticked often enough.
+    static void TurnTheEventLoop() {
+        int turns = 0;
+        QTimer other;
+        QObject::connect(&other, &QTimer::timeout, &other, [&] { ++turns; });
+        other.start(kInterval);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return turns >= 10; }));
+    }
+
+    HandlerGate gate;
+    QtTimer timer{gate, kInterval};
+    int ticks = 0;
+};
+
+TEST_F(QtTimerTest, TicksOnlyWhileEnabled) {
+    EXPECT_FALSE(timer.IsEnabled());
+    TurnTheEventLoop();
+    EXPECT_EQ(ticks, 0);
+    timer.SetEnabled(true);
+    EXPECT_TRUE(timer.IsEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return ticks >= 3; }));
+    timer.SetEnabled(false);
+    const int before = ticks;
+    TurnTheEventLoop();
+    EXPECT_EQ(ticks, before);
+}
+
+TEST_F(QtTimerTest, NeverTicksInsideAHandlerThatLetsTheEventLoopTurn) {
+    timer.SetEnabled(true);
+    gate.Handler([this] {
+        TurnTheEventLoop();
+        EXPECT_EQ(ticks, 0);
+    })();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return ticks > 0; })) << "it goes on afterwards";
+}
+
+TEST_F(QtTimerTest, NeverTicksInsideItsOwnTick) {
+    int depth = 0;
+    int deepest = 0;
+    timer.SetHandler([&] {
+        ++depth;
+        deepest = std::max(deepest, depth);
+        if (++ticks == 1) {
+            TurnTheEventLoop();
+        }
+        --depth;
+    });
+    timer.SetEnabled(true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return ticks >= 3; }));
+    EXPECT_EQ(deepest, 1);
+}
+
+TEST_F(QtTimerTest, ATickIsAHandlerItself) {
+    bool busy = false;
+    int begun = 0;
+    gate.SetBeginHandler([&] { ++begun; });
+    timer.SetHandler([&] {
+        ++ticks;
+        busy = gate.IsBusy();
+        timer.SetEnabled(false);
+    });
+    timer.SetEnabled(true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return ticks > 0; }));
+    EXPECT_TRUE(busy);
+    EXPECT_EQ(begun, 1);
+    EXPECT_FALSE(gate.IsBusy());
+}
+
+}  // namespace
+}  // namespace zelvar::testing
