@@ -263,6 +263,11 @@ bool MainWindow::IsStopTicked() const {
 }
 
 void MainWindow::ShowSystemState(SystemState state) {
+    // Every poll comes by here, and mostly nothing has changed.
+    if (state == shownState_) {
+        return;
+    }
+    shownState_ = state;
     testTab_->ShowSystemState(state);
     statusBar_->ShowSystemState(state);
 }

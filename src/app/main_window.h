@@ -86,6 +86,7 @@ class MainWindow : public QMainWindow, private LinkView {
     ModuleRegistry registry_;
     /// The number last chosen in `cboPort`.
     int portNumber_ = 0;
+    SystemState shownState_ = SystemState::Disconnected;
 
     StatusBar* statusBar_;
     Services services_;

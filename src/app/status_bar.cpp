@@ -87,7 +87,9 @@ StatusBar::StatusBar(QWidget* parent)
 }
 
 void StatusBar::ShowSystemState(SystemState state) {
-    lblBarStatus_->setText(Text(SystemStateText(state)));
+    const QString text = Text(SystemStateText(state));
+    lblBarStatus_->setText(text);
+    lblBarStatus_->setAccessibleName(text);
     SetTextColour(lblBarStatus_, SystemStateColour(state));
 }
 

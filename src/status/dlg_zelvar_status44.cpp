@@ -126,6 +126,8 @@ QLineEdit* DlgZelvarStatus44::NewField(const char* name, int index, const QStrin
     field->setFrame(false);
     field->setTextMargins(0, 0, 0, 0);
     field->setMinimumWidth(1);
+    // The rows share the height of the frame; the heads do not grow.
+    field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return field;
 }
 

@@ -99,7 +99,9 @@ void TestTab::ConnectControls() {
 }
 
 void TestTab::ShowSystemState(SystemState state) {
-    lblTestSystemStatus_->setText(Text(SystemStateText(state)));
+    const QString text = Text(SystemStateText(state));
+    lblTestSystemStatus_->setText(text);
+    lblTestSystemStatus_->setAccessibleName(text);
     SetTextColour(lblTestSystemStatus_, SystemStateColour(state));
 }
 
