@@ -129,16 +129,17 @@ TEST_F(Driving, ADccLocomotiveRunsInBothStepModes) {
 
 TEST_F(Driving, ADccLocomotiveWithALongAddressIsAnotherOne) {
     StartAt("DCCSpeed");
-    const std::string stands =
+    const std::string runs =
         "steps:28,speed:1,direction:forward,block:0,emergency-stop:0,functions:";
     program->Type("Text_Decoder", "10239");
     Keys("DCCSpeed", "Right");
-    EXPECT_TRUE(UnitSays("dcc.long.10239", stands));
+    EXPECT_TRUE(UnitSays("dcc.long.10239", runs));
     Keys("DCCSpeed", "Home");
+    EXPECT_TRUE(UnitSays("command.dcc-speed-28", "2"));
     program->Type("Text_Decoder", "3");
     program->Click("CheckDCCForceLong");
     Keys("DCCSpeed", "Right");
-    EXPECT_TRUE(UnitSays("dcc.long.3", stands));
+    EXPECT_TRUE(UnitSays("dcc.long.3", runs));
     EXPECT_EQ(unit->Value("dcc.short.3"), "");
 }
 
@@ -166,6 +167,7 @@ TEST_F(Driving, TheDccFunctionsAreSetGroupByGroup) {
 TEST_F(Driving, TheDccEmergencyStopIsToldToTheDecoder) {
     StartAt("DCCSpeed");
     Keys("DCCSpeed", "End");
+    ASSERT_TRUE(UnitSays("command.dcc-speed-28", "1"));
     program->Click("cmdEstopDCC");
     EXPECT_TRUE(UnitSays("dcc.short.1",
                          "steps:28,speed:0,direction:forward,block:0,emergency-stop:1,functions:"));
@@ -194,6 +196,7 @@ TEST_F(Driving, AnMccLocomotiveRunsInBothStepModesAndStops) {
     program->Click("CheckMCC30");
     EXPECT_TRUE(UnitSays("mcc.4095", "half-steps:0,target:0,functions:0,emergency-stop:0"));
     Keys("MCCspeed", "End");
+    EXPECT_TRUE(UnitSays("mcc.4095", "half-steps:30,target:30,functions:0,emergency-stop:0"));
     Keys("MCCspeed", "Left");
     EXPECT_TRUE(UnitSays("mcc.4095", "half-steps:29,target:29,functions:0,emergency-stop:0"));
 
@@ -278,6 +281,7 @@ TEST_F(Driving, ClearBlockRestsTheBlockAndThePages) {
     StartAt("AnalogSpeed");
     program->Type("txtTestBlock", "77");
     Keys("AnalogSpeed", "End");
+    ASSERT_TRUE(UnitSays("block.77", "speed:63,direction:forward,target:63,light:0"));
     program->Click("CheckAnalogDirection");
     program->Click("CheckAnalogLight");
     ASSERT_TRUE(UnitSays("block.77", "speed:63,direction:reverse,target:63,light:1"));
