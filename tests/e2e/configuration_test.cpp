@@ -222,17 +222,13 @@ TEST_F(MasterSlaveJourney, FindsTheMasterSetOnTheConsoleAndAsksForTheClocks) {
     EXPECT_EQ(program->AwaitBox(),
               PlainBox(CheckReport("VD60  51.", " Degraded Clock", " Clock OK")));
     program->Answer("OK");
-    EXPECT_TRUE(Polls());
-}
 
-TEST_F(MasterSlaveJourney, TellsOfSeveralMasters) {
-    StartCheck();
     unit->Do("ms 16 1");
     const BoxText several = Check();
     EXPECT_EQ(several.icon, "critical");
-    EXPECT_NE(several.text.find("VD-F 0. is master\n"), std::string::npos) << several.text;
-    EXPECT_NE(several.text.find("VD-F 16. is master\n"), std::string::npos) << several.text;
-    EXPECT_NE(several.text.find("\n\nYour system has multiple masters!"), std::string::npos);
+    EXPECT_NE(several.text.find("VD-F 16. is master\nVD60  19. is master\n"), std::string::npos)
+        << several.text;
+    EXPECT_TRUE(several.text.ends_with("\n\nYour system has multiple masters!")) << several.text;
     program->Answer("OK");
     EXPECT_TRUE(Polls());
 }
@@ -316,18 +312,6 @@ TEST_F(Js70Journey, EraseTakesTheTimesBack) {
     program->Answer("OK");
     EXPECT_EQ(program->Box(), BoxText());
     EXPECT_EQ(unit->Value("points.15.active"), "default:15");
-}
-
-TEST_F(Js70Journey, AReportWithoutAnAnswerEndsWithABox) {
-    StartWithModules();
-    program->ToFront("cboJS");
-    program->Choose("cboJS", " 3");
-    unit->Do("mute-module 67 on");
-    program->Click("cmdGetJSConfig");
-    EXPECT_EQ(program->AwaitBox(), PlainBox("No answer from module 3"));
-    program->Answer("OK");
-    EXPECT_FALSE(program->IsVisible("textJSReport"));
-    EXPECT_TRUE(Polls());
 }
 
 class CentralUnitJourney : public Configuration {

@@ -209,16 +209,6 @@ TEST_F(Driving, AnMccLocomotiveRunsInBothStepModesAndStops) {
     EXPECT_EQ(program->AskOne({"value", "MCCspeed"}), "0");
 }
 
-TEST_F(Driving, AnMccLocomotiveAccelerates) {
-    StartAt("MCCspeed");
-    program->Type("txtTestMCCdecoder", "0");
-    program->Type("txtTestMCCacceleration", "1");
-    Keys("MCCspeed", "End");
-    EXPECT_TRUE(
-        Until([this] { return unit->Value("mcc.0").find("target:30,") != std::string::npos; }));
-    EXPECT_TRUE(UnitSays("mcc.0", "half-steps:30,target:30,functions:0,emergency-stop:0"));
-}
-
 TEST_F(Driving, PointsSignalsAndOutputsAreSet) {
     StartAt("txtTestJS70device");
     program->Type("txtTestJS70device", "511");
