@@ -109,6 +109,8 @@ void Input::Click(QWidget& control, Qt::MouseButton button, Qt::KeyboardModifier
 }
 
 void Input::ClickAt(QWidget& control, QPoint place) {
+    // What is asked next must not come between the press and the release, or the next tab.
+    const QScopedValueRollback<bool> severalSteps(severalSteps_, true);
     Activate(*control.window());
     time_ += kNextClickMs;
     Mouse(control, place, QEvent::MouseButtonPress, Qt::LeftButton, {});
