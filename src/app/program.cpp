@@ -12,7 +12,7 @@ namespace {
 
 /// The device path of a port and, when the system knows one, the adapter's description.
 QString DescribePort(const PortTable& table, int number) {
-    const QString device = Text(table.DeviceOf(number));
+    QString device = Text(table.DeviceOf(number));
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts()) {
         const bool same = info.systemLocation() == device || info.portName() == device;
         if (same && !info.description().isEmpty()) {
