@@ -62,7 +62,7 @@ PortBar::PortBar(QWidget* parent)
     }
 }
 
-void PortBar::ShowPorts(const std::vector<int>& ports) {
+void PortBar::ShowPorts(const std::vector<int>& ports) const {
     cboPort->Clear();
     for (const int number : ports) {
         cboPort->Append(QString::number(number), number);
@@ -70,7 +70,7 @@ void PortBar::ShowPorts(const std::vector<int>& ports) {
     cboPort->setToolTip(Text(ports.empty() ? kNoPortAdvice : kPortAdvice));
 }
 
-void PortBar::DescribePorts(const DescribePort& describe) {
+void PortBar::DescribePorts(const DescribePort& describe) const {
     for (int i = 0; i < cboPort->count(); ++i) {
         cboPort->setItemData(i, describe(cboPort->itemData(i).toInt()), Qt::ToolTipRole);
     }

@@ -42,10 +42,10 @@ class PortBar : public QWidget {
     explicit PortBar(QWidget* parent = nullptr);
 
     /// Fills the list anew, without a selection.
-    void ShowPorts(const std::vector<int>& ports);
+    void ShowPorts(const std::vector<int>& ports) const;
 
     /// Gives every entry its tooltip.
-    void DescribePorts(const DescribePort& describe);
+    void DescribePorts(const DescribePort& describe) const;
 
     ServiceLabel* lblCom;
     DropDownList* cboPort;
