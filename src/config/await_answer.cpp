@@ -9,7 +9,7 @@ Awaited AwaitAnswer(Link& link, const Clock& clock,
     const double start = clock.SecondsSinceMidnight();
     while (!isAnswer(link.Reply())) {
         const double now = clock.SecondsSinceMidnight();
-        if (now > start + kAnswerLimit || now < start) {
+        if (now >= start + kAnswerLimit || now < start) {
             return Awaited::Silence;
         }
         if (!link.Transact(kEmptyTransaction)) {

@@ -9,7 +9,8 @@
 
 namespace zelvar {
 
-/// How long a module's answer may take, in seconds; one that comes exactly then still counts.
+/// How long a module's answer is waited for, in seconds. Once they have passed nothing more is
+/// sent; what the last poll has brought still counts.
 constexpr double kAnswerLimit = 2.0;
 
 enum class Awaited { Answer, Silence, Failure };

@@ -41,17 +41,17 @@ constexpr std::array<const char*, kKBSwitches> kOptions{"NU",     "Ret.Report", 
 constexpr std::array<const char*, 2> kConfigCaptions{"Set KB-x Config", "Get KB-x Config"};
 
 struct TransparentMode {
+    int index;
     const char* caption;
     const char* inWords;
-    // The button that some units do not have stands last, so that it leaves no hole.
-    int row;
-    int column;
 };
 
+/// From top to bottom. The button that some units do not have stands last, so that it leaves no
+/// hole.
 constexpr std::array<TransparentMode, kTransparentModes> kTransparent{{
-    {"Channel 0 Transp. Mode", "Transparent mode of channel 0", 0, 0},
-    {"Channel 1 Transp. Mode", "Transparent mode of channel 1", 1, 0},
-    {"Bootloader Transp. Mode", "Transparent mode of the boot loader", 0, 1},
+    {0, "Channel 0 Transp. Mode", "Transparent mode of channel 0"},
+    {2, "Bootloader Transp. Mode", "Transparent mode of the boot loader"},
+    {1, "Channel 1 Transp. Mode", "Transparent mode of channel 1"},
 }};
 
 constexpr int kBoxColumns = 4;
@@ -79,8 +79,7 @@ KBTab::KBTab(const Services& services, QWidget* parent)
       commands_(services),
       lblKBtype_(Named(new QLabel(QStringLiteral("?"), this), "lblKBtype", "Central unit type")),
       chkKBperm_(Named(new QCheckBox(QStringLiteral("Permanent"), this), "chkKBperm",
-                       "Permanent settings of the central unit")),
-      frmConfig_(BuildConfigFrame()) {
+                       "Permanent settings of the central unit")) {
     lblKBtype_->setVisible(false);
     auto* layout = new QVBoxLayout(this);
     auto* head = new QHBoxLayout;
@@ -90,12 +89,14 @@ KBTab::KBTab(const Services& services, QWidget* parent)
     layout->addLayout(head);
     auto* body = new QHBoxLayout;
     auto* always = new QVBoxLayout;
-    always->addWidget(BuildOptionsFrame());
+    // Next to the Permanent box, which counts for it.
     always->addWidget(Build64DMFrame());
+    always->addWidget(BuildOptionsFrame());
     always->addWidget(BuildTransparentFrame());
     always->addStretch(1);
     // The frame that some units do not have stands last, so that it leaves no hole.
     auto* configuration = new QVBoxLayout;
+    frmConfig_ = BuildConfigFrame();
     configuration->addWidget(frmConfig_);
     configuration->addStretch(1);
     body->addLayout(always);
@@ -163,15 +164,15 @@ QFrame* KBTab::Build64DMFrame() {
 
 QFrame* KBTab::BuildTransparentFrame() {
     QFrame* frame = Panel(this);
-    auto* layout = new QGridLayout(frame);
-    for (std::size_t i = 0; i < cmdTM_.size(); ++i) {
-        const TransparentMode& mode = kTransparent[i];
-        cmdTM_[i] = MakeCommandButton(Text(mode.caption), IndexedName("cmdTM", static_cast<int>(i)),
-                                      Text(mode.inWords), frame);
-        QSizePolicy policy = cmdTM_[i]->sizePolicy();
+    auto* layout = new QVBoxLayout(frame);
+    for (const TransparentMode& mode : kTransparent) {
+        QPushButton* button = MakeCommandButton(
+            Text(mode.caption), IndexedName("cmdTM", mode.index), Text(mode.inWords), frame);
+        QSizePolicy policy = button->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
-        cmdTM_[i]->setSizePolicy(policy);
-        layout->addWidget(cmdTM_[i], mode.row, mode.column);
+        button->setSizePolicy(policy);
+        layout->addWidget(button);
+        cmdTM_[static_cast<std::size_t>(mode.index)] = button;
     }
     return frame;
 }

@@ -52,7 +52,7 @@ class KBTab : public QWidget {
     QCheckBox* chkKBperm_;
     Boxes chkKBEconfig_{};
     std::array<QPushButton*, 2> cmdConfig_{};
-    QFrame* frmConfig_;
+    QFrame* frmConfig_ = nullptr;
     Boxes chkKBEoptions_{};
     QPushButton* cmdOptions_ = nullptr;
     Boxes chkJSdevicemode_{};

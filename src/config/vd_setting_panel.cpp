@@ -47,7 +47,7 @@ VDSettingPanel::VDSettingPanel(const VDSetting& setting, QWidget* parent)
       frame_(Named(new QFrame(this), setting.frame, setting.inWords)),
       options_(new QButtonGroup(this)) {
     // The border goes round everything, so it is the frame's only if the frame holds everything.
-    (setting.buttonsOutside ? this : frame_)->setFrameShape(QFrame::StyledPanel);
+    (setting.buttonsOutside || setting.inBanks ? this : frame_)->setFrameShape(QFrame::StyledPanel);
     KeepPlaceWhenHidden(this);
     KeepPlaceWhenHidden(frame_);
     BuildFields();
@@ -109,12 +109,13 @@ void VDSettingPanel::BuildButtons() {
     }
 }
 
-void VDSettingPanel::AddTitle(QGridLayout& layout) {
+QLabel* VDSettingPanel::AddTitle(QGridLayout& layout) {
     auto* title = new QLabel(Text(setting_.title), frame_);
     if (!fields_.empty() && labels_.front() == nullptr) {
         title->setBuddy(fields_.front());
     }
     layout.addWidget(title, 0, 0, 1, layout.columnCount());
+    return title;
 }
 
 QLayout* VDSettingPanel::LayOutControls() {
@@ -182,18 +183,23 @@ void VDSettingPanel::LayOutBanks() {
         }
     }
     PlaceBankRows(true);
-    const int top = fields_.back()->geometry().bottom() + 1 + kGap;
-    const int width = (x - 2 * kGap) / 2;
-    int left = kGap;
-    for (QPushButton* button : buttons_) {
-        const int wanted = std::max(width, button->sizeHint().width());
-        button->setGeometry(left, top, wanted, button->sizeHint().height());
-        left += wanted + kGap;
-    }
-    frame_->setMinimumSize(std::max(x, left), buttons_[0]->geometry().bottom() + 1 + kGap);
-    auto* inPanel = new QVBoxLayout(this);
+    // The layout has the buttons alone: the fields stand in its left margin.
+    auto* buttons = new QGridLayout(frame_);
+    buttons->setContentsMargins(x, kFirstRowOfTwo, buttons->contentsMargins().right(), 0);
+    buttons->setVerticalSpacing(kGap);
+    buttons->addWidget(buttons_[kSetButton], 0, 1);
+    buttons->addWidget(buttons_[kGetButton], 1, 1);
+    buttons->setColumnStretch(0, 1);
+    buttons->setRowStretch(2, 1);
+    frame_->setMinimumHeight(fields_.back()->geometry().bottom() + 1 + kGap);
+    // The fixed heights leave no room for the title within the frame.
+    auto* inPanel = new QGridLayout(this);
+    const int above = inPanel->contentsMargins().top();
     inPanel->setContentsMargins(0, 0, 0, 0);
-    inPanel->addWidget(frame_);
+    inPanel->setSpacing(0);
+    inPanel->addWidget(frame_, 1, 0);
+    inPanel->setRowStretch(1, 1);
+    AddTitle(*inPanel)->setContentsMargins(kGap, above, 0, 0);
 }
 
 void VDSettingPanel::PlaceBankRows(bool twoRows) {
@@ -239,21 +245,28 @@ void VDSettingPanel::ShowVDGetButtons(VDGetButtons buttons) {
     get->setAccessibleName(isCheck ? QStringLiteral("Check masters, slaves and clocks")
                                    : QStringLiteral("Get: ") + Text(setting_.inWords));
     get->setVisible(buttons != VDGetButtons::None);
-    // Without anything in it the border would stand around nothing.
     setVisible(!frame_->isHidden() || !buttons_[kSetButton]->isHidden() || !get->isHidden());
+    ShowBorder(!frame_->isHidden());
+}
+
+void VDSettingPanel::ShowBorder(bool shown) {
+    setFrameShape(QFrame::StyledPanel);
+    // A margin takes the border's room, so that nothing moves.
+    const int margin = shown ? 0 : frameWidth();
+    if (!shown) {
+        setFrameShape(QFrame::NoFrame);
+    }
+    layout()->setContentsMargins(margin, margin, margin, margin);
 }
 
 int VDSettingPanel::ButtonWidth() const {
-    return setting_.inBanks ? 0
-                            : std::max(buttons_[kSetButton]->sizeHint().width(),
-                                       buttons_[kGetButton]->sizeHint().width());
+    return std::max(buttons_[kSetButton]->sizeHint().width(),
+                    buttons_[kGetButton]->sizeHint().width());
 }
 
 void VDSettingPanel::SetButtonWidth(int width) {
-    if (!setting_.inBanks) {
-        for (QPushButton* button : buttons_) {
-            button->setFixedWidth(width);
-        }
+    for (QPushButton* button : buttons_) {
+        button->setFixedWidth(width);
     }
 }
 

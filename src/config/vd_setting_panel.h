@@ -64,9 +64,12 @@ class VDSettingPanel : public QFrame {
     void BuildButtons();
     void LayOutBanks();
     void LayOutInRow();
-    void AddTitle(QGridLayout& layout);
+    QLabel* AddTitle(QGridLayout& layout);
     QLayout* LayOutControls();
     void PlaceBankRows(bool twoRows);
+    /// Around a setting whose buttons stand outside: a border around one button alone would say
+    /// that something is missing beside it.
+    void ShowBorder(bool shown);
     int ChosenOption() const;
 
     const VDSetting& setting_;

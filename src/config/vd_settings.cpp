@@ -24,7 +24,8 @@ constexpr int kNoInitialOption = -1;
 const std::vector<VDSetting> kSettings{
     {.frame = "frmSW",
      .inWords = "Switch delay",
-     .place = {0, 0, 2},
+     .title = "Switch delay",
+     .place = {0, 0},
      .button = "cmdSW",
      .captions = {"Set Switch-delay", "Get Switch-delay"},
      .numbers = {"txtSW",
@@ -40,7 +41,7 @@ const std::vector<VDSetting> kSettings{
     {.frame = "FrmLC",
      .inWords = "Loop current",
      .title = "Loop current",
-     .place = {0, 2},
+     .place = {0, 1},
      .shownFor = kForQlrx,
      .button = "cmdLC",
      .captions = {"Set Loop Current", "Get Loop Current"},
@@ -49,7 +50,7 @@ const std::vector<VDSetting> kSettings{
     {.frame = "frmAD",
      .inWords = "Module address",
      .title = "Address",
-     .place = {0, 3},
+     .place = {0, 2},
      .shownFor = kForQlrx,
      .button = "cmdAD",
      .captions = {"Set Address", "Get Address"},
@@ -138,20 +139,21 @@ const std::vector<VDSetting>& VDSettings() {
     return kSettings;
 }
 
-std::vector<ModuleCommand> VDCommands(const VDSetting& setting, int button, bool permanent,
-                                      const VDInput& input) {
+std::size_t VDCommandCount(const VDSetting& setting) {
+    return setting.options.parameter ? 1 : setting.numbers.fields.size();
+}
+
+std::optional<ModuleCommand> VDCommandOf(const VDSetting& setting, std::size_t number, int button,
+                                         bool permanent, const VDInput& input) {
     if (setting.options.parameter) {
-        return {ConfigCommand(button, permanent, *setting.options.parameter, input.option)};
+        return ConfigCommand(button, permanent, *setting.options.parameter, input.option);
     }
-    std::vector<ModuleCommand> commands;
-    for (std::size_t i = 0; i < setting.numbers.fields.size(); ++i) {
-        if (input.numbers[i].shown) {
-            const int parameter =
-                setting.numbers.fields[i].parameter + ParameterOffset(setting, input.option);
-            commands.push_back(ConfigCommand(button, permanent, parameter, input.numbers[i].value));
-        }
+    if (!input.numbers[number].shown) {
+        return std::nullopt;
     }
-    return commands;
+    const int parameter =
+        setting.numbers.fields[number].parameter + ParameterOffset(setting, input.option);
+    return ConfigCommand(button, permanent, parameter, input.numbers[number].value);
 }
 
 std::optional<VDReply> ReadVDConfigReply(const ReplyBuffer& reply, std::optional<int> module,

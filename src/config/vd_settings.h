@@ -67,14 +67,13 @@ struct VDOptions {
 struct VDPlace {
     int column = 0;
     int row = 0;
-    int rows = 1;
 };
 
 /// One setting: its frame, its controls and its two buttons.
 struct VDSetting {
     const char* frame = "";
     const char* inWords = "";
-    /// Stands above the controls; empty where their labels say it.
+    /// Stands above the controls.
     const char* title = "";
     VDPlace place = {};
     /// The frame is hidden for all other kinds of modules.
@@ -86,7 +85,7 @@ struct VDSetting {
     VDNumbers numbers = {};
     /// Empty for a setting that has numbers alone.
     VDOptions options = {};
-    /// Fixed positions: the even fields in the first line, the odd ones in the second.
+    /// Fixed heights in the frame: the even fields in the first line, the odd ones in the second.
     bool inBanks = false;
     /// The buttons stand beside the frame and are shown and hidden without it.
     bool buttonsOutside = false;
@@ -108,10 +107,15 @@ struct VDInput {
     int option = 0;
 };
 
-/// The commands that a press of a setting's button sends: one for each shown field, or one for
-/// the options. @param button `kSetButton` or `kGetButton`, which carries no value
-std::vector<ModuleCommand> VDCommands(const VDSetting& setting, int button, bool permanent,
-                                      const VDInput& input);
+/// How many commands a press of a setting's button sends at most: one for each field, or one for
+/// the options.
+std::size_t VDCommandCount(const VDSetting& setting);
+
+/// One of these commands. @param number 0..`VDCommandCount`-1
+/// @param button `kSetButton` or `kGetButton`, which carries no value
+/// @return nothing for a field that is not shown
+std::optional<ModuleCommand> VDCommandOf(const VDSetting& setting, std::size_t number, int button,
+                                         bool permanent, const VDInput& input);
 
 /// Erases all settings; the permanent bit belongs to it.
 constexpr ModuleCommand kVDErase{kTargetVD, 2, 8, kPermanentBit, 0};

@@ -58,14 +58,14 @@ QLayout* VDTab::LayOutSettings() {
     for (const VDSetting& setting : VDSettings()) {
         auto* panel = new VDSettingPanel(setting, this);
         panels_.push_back(panel);
-        grid->addWidget(panel, setting.place.row, setting.place.column, setting.place.rows, 1);
+        grid->addWidget(panel, setting.place.row, setting.place.column);
         grid->setColumnStretch(setting.place.column, 1);
         buttonWidth = std::max(buttonWidth, panel->ButtonWidth());
     }
     int rowHeight = 0;
     for (VDSettingPanel* panel : panels_) {
         panel->SetButtonWidth(buttonWidth);
-        rowHeight = std::max(rowHeight, panel->sizeHint().height() / panel->Setting().place.rows);
+        rowHeight = std::max(rowHeight, panel->sizeHint().height());
     }
     for (int row = 0; row < grid->rowCount(); ++row) {
         grid->setRowMinimumHeight(row, rowHeight);
@@ -134,9 +134,12 @@ void VDTab::cmdSetting_Click(VDSettingPanel& panel, int index) {
     if (!services_.link.CheckPort()) {
         return;
     }
-    for (const ModuleCommand& command :
-         VDCommands(panel.Setting(), index, chkVDperm_->isChecked(), panel.Input())) {
-        commands_.SendModuleCommand(command);
+    for (std::size_t i = 0; i < VDCommandCount(panel.Setting()); ++i) {
+        // Read anew each time: a reply to one command may change what the next one sends.
+        if (const std::optional<ModuleCommand> command =
+                VDCommandOf(panel.Setting(), i, index, chkVDperm_->isChecked(), panel.Input())) {
+            commands_.SendModuleCommand(*command);
+        }
     }
 }
 

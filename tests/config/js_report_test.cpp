@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 
@@ -81,6 +82,25 @@ TEST_F(JsReportTest, AModuleThatDoesNotAnswerEndsTheReport) {
     EXPECT_EQ(messageBox.shown,
               (std::vector<ShownBox>{{"No answer from module 9", BoxIcon::Plain, BoxButtons::Ok}}));
     EXPECT_EQ(progress.ended, 1);
+}
+
+TEST_F(JsReportTest, SilenceAboutTheDefaultTimeEndsTheReport) {
+    module.answers.erase({0, 81, 98});
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(messageBox.shown,
+              (std::vector<ShownBox>{{"No answer from module 9", BoxIcon::Plain, BoxButtons::Ok}}));
+    Frames sent = port.SentValues();
+    EXPECT_EQ(sent.front(), (Values{0, 81, 98}));
+    EXPECT_EQ(std::count(sent.begin(), sent.end(), Values()),
+              static_cast<std::ptrdiff_t>(sent.size()) - 1)
+        << "polls alone follow";
+}
+
+TEST_F(JsReportTest, AFailedPollEndsTheReport) {
+    port.replies = {EmptyReply(), Bytes{}};
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(port.SentValues(), (Frames{{0, 81, 98}, {}}));
+    EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
 }
 
 TEST_F(JsReportTest, AnAnswerForAnotherDeviceDoesNotCount) {

@@ -101,6 +101,32 @@ TEST_F(JSTabTest, ACancelledEraseSendsNothing) {
     EXPECT_TRUE(port.sent.empty());
 }
 
+TEST_F(JSTabTest, WithThePortClosedNothingIsSent) {
+    Click("cmdRefresh");
+    for (const char* button : {"cmdTIME", "cmdDeviceTime", "cmdDevicePower", "cmdGetJSConfig"}) {
+        messageBox.shown.clear();
+        Click(button);
+        EXPECT_EQ(messageBox.shown, std::vector{Exclamation("Please select Comm-Port")}) << button;
+    }
+    EXPECT_TRUE(port.sent.empty());
+}
+
+TEST_F(JSTabTest, EraseAsksBeforeItLooksAtThePort) {
+    Click("cmdRefresh");
+    messageBox.answers = {BoxAnswer::Ok};
+    Click("cmdJSerase");
+    EXPECT_EQ(messageBox.shown, (std::vector{kJsWarning, Exclamation("Please select Comm-Port")}));
+}
+
+TEST_F(JSTabTest, AReportAsksForBothMemoriesWhateverThePermanentBoxSays) {
+    AnswerReport();
+    Click("chkJSperm");
+    Click("cmdGetJSConfig");
+    ASSERT_EQ(port.sent.size(), 130U);
+    EXPECT_EQ(port.sent[0].values, (Values{0, 81, 98}));
+    EXPECT_EQ(port.sent[65].values, (Values{0, 81, 34}));
+}
+
 TEST_F(JSTabTest, AReportIsShownAndHiddenAgain) {
     AnswerReport();
     Click("cmdGetJSConfig");
@@ -151,6 +177,20 @@ TEST_F(JSTabBeforeStatus, ACommandAsksForAStatusRequest) {
     EXPECT_EQ(messageBox.shown,
               std::vector{Exclamation("Please request Status first to register modules")});
     EXPECT_EQ(port.SentValues(), (Frames{{}, {}}));
+}
+
+TEST_F(JSTabBeforeStatus, EraseAsksBeforeItLooksForModules) {
+    messageBox.answers = {BoxAnswer::Ok};
+    Click("cmdJSerase");
+    EXPECT_EQ(
+        messageBox.shown,
+        (std::vector{kJsWarning, Exclamation("Please request Status first to register modules")}));
+}
+
+TEST_F(JSTabBeforeStatus, NoReportIsOffered) {
+    for (const char* name : {"cmdGetJSConfig", "cmdHideJSConfig", "textJSReport"}) {
+        EXPECT_FALSE(IsShown(name)) << name;
+    }
 }
 
 TEST_F(JSTabBeforeStatus, EveryControlHasItsCaption) {

@@ -52,6 +52,33 @@ TEST_F(KBTabTest, ShowsAConfigurationReplyInGreenUntilTheButtonLosesTheFocus) {
     EXPECT_FALSE(IsGreen("chkKBEconfig(7)"));
 }
 
+TEST_F(KBTabTest, TheSetButtonTurnsTheGreenBackToo) {
+    port.replies = {EmptyReply(), WireFrame({1, 14, 0x25, 0x13}), EmptyReply()};
+    Click("cmdConfig(0)");
+    ASSERT_TRUE(IsGreen("frmConfig") && IsGreen("chkKBEconfig(3)"));
+    Click("cmdOptions");
+    EXPECT_FALSE(IsGreen("frmConfig"));
+    EXPECT_FALSE(IsGreen("chkKBEconfig(3)"));
+}
+
+TEST_F(KBTabTest, TextOnGreenIsDarkInADarkTheme) {
+    const QPalette before = QApplication::palette();
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(45, 45, 45));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(dark);
+    QApplication::processEvents();
+    Receive({1, 14, 0x25, 0x13});
+    for (const char* name : {"frmConfig", "chkKBEconfig(0)", "chkKBEconfig(7)"}) {
+        EXPECT_TRUE(IsGreen(name)) << name;
+        EXPECT_EQ(Find<QWidget>(name).palette().color(QPalette::WindowText), QColor(Qt::black))
+            << name;
+    }
+    EXPECT_EQ(Find<QWidget>("chkKBEoptions(0)").palette().color(QPalette::WindowText),
+              QColor(Qt::white));
+    QApplication::setPalette(before);
+}
+
 TEST_F(KBTabTest, WritesTheOptions) {
     Click("chkKBEoptions(1)");
     Click("chkKBEoptions(5)");
@@ -152,6 +179,61 @@ INSTANTIATE_TEST_SUITE_P(OfUnits, KBTabView,
                                            UnitCase{"Unknown", 9, "?", true, true}),
                          [](const auto& row) { return std::string(row.param.name); });
 
+TEST_F(KBTabTest, ShowsEverythingBeforeTheFirstStatusRequest) {
+    EXPECT_FALSE(IsShown("lblKBtype"));
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_TRUE(IsShown(Indexed("chkKBEconfig", i).c_str())) << i;
+    }
+    for (const char* name : {"frmConfig", "cmdConfig(0)", "cmdConfig(1)", "cmdTM(0)", "cmdTM(1)",
+                             "cmdTM(2)", "frm64DM"}) {
+        EXPECT_TRUE(IsShown(name)) << name;
+    }
+}
+
+TEST_F(KBTabTest, TabGoesThroughTheControlsAsTheyStand) {
+    std::vector<std::string> expected{"chkKBperm"};
+    const auto add = [&](const char* name, std::initializer_list<int> indices) {
+        for (const int i : indices) {
+            expected.push_back(Indexed(name, i));
+        }
+    };
+    add("chkJSdevicemode", {0, 1, 2, 3, 4, 5, 6, 7});
+    expected.emplace_back("cmdJS70dm");
+    add("chkKBEoptions", {0, 1, 2, 3, 4, 5, 6, 7});
+    expected.emplace_back("cmdOptions");
+    add("cmdTM", {0, 2, 1});
+    add("chkKBEconfig", {0, 1, 2, 3, 4, 5, 6, 7});
+    add("cmdConfig", {0, 1});
+
+    QWidget* control = &Find<QWidget>("chkKBperm");
+    ShowTabOf(*control);
+    control->setFocus();
+    std::vector<std::string> reached;
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        reached.push_back(QApplication::focusWidget()->objectName().toStdString());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached, expected);
+}
+
+TEST_F(KBTabTest, The64DeviceModeStandsNextToItsPermanentBox) {
+    ShowTabOf(Find<QWidget>("chkKBperm"));
+    const auto top = [this](const char* name) {
+        return Find<QWidget>(name).mapTo(window.get(), QPoint()).y();
+    };
+    EXPECT_LT(top("chkKBperm"), top("frm64DM"));
+    EXPECT_LT(top("frm64DM"), top("cmdOptions"));
+    EXPECT_LT(top("cmdJS70dm"), top("chkKBEoptions(0)"));
+}
+
+TEST_F(KBTabTest, TheTransparentModeButtonThatMayBeHiddenStandsBelowTheOthers) {
+    ShowTabOf(Find<QWidget>("cmdTM(0)"));
+    const auto place = [this](const char* name) { return Find<QWidget>(name).geometry(); };
+    EXPECT_LT(place("cmdTM(0)").bottom(), place("cmdTM(2)").top());
+    EXPECT_LT(place("cmdTM(2)").bottom(), place("cmdTM(1)").top());
+    EXPECT_EQ(place("cmdTM(0)").left(), place("cmdTM(1)").left());
+}
+
 TEST_F(KBTabTest, EveryControlHasItsCaptionAndTooltip) {
     struct Control {
         const char* name;
@@ -178,6 +260,12 @@ TEST_F(KBTabTest, EveryControlHasItsCaptionAndTooltip) {
         {"chkKBEoptions(6)", "Debug.M", ""},
         {"chkKBEoptions(7)", "NU", ""},
         {"chkJSdevicemode(0)", "#0", ""},
+        {"chkJSdevicemode(1)", "#1", ""},
+        {"chkJSdevicemode(2)", "#2", ""},
+        {"chkJSdevicemode(3)", "#3", ""},
+        {"chkJSdevicemode(4)", "#4", ""},
+        {"chkJSdevicemode(5)", "#5", ""},
+        {"chkJSdevicemode(6)", "#6", ""},
         {"chkJSdevicemode(7)", "#7", ""},
         {"chkKBperm", "Permanent", ""},
         {"cmdConfig(0)", "Set KB-x Config", ""},

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <deque>
 #include <string>
 
 #include "config_fixture.h"
@@ -216,6 +217,49 @@ TEST_F(SoundSystem, AFailedExchangeWhileAskingForClocksLeavesNoReport) {
     Run();
     EXPECT_EQ(LastBox(), Exclamation("No response from Zelvar"));
 }
+
+struct FailureCase {
+    const char* name;
+    /// What is answered before and from the question on; an empty reply in there is silence.
+    std::deque<Bytes> survey;
+    std::deque<Bytes> clocks;
+    std::size_t sent;
+};
+
+class FailureInTheCheck : public SoundSystem, public ::testing::WithParamInterface<FailureCase> {};
+
+TEST_P(FailureInTheCheck, EndsItWithoutAFurtherBox) {
+    const FailureCase& row = GetParam();
+    port.replies = row.survey;
+    messageBox.whileShown = [&] { port.replies = row.clocks; };
+    Run();
+    std::vector<ShownBox> expected{Exclamation("No response from Zelvar")};
+    if (!row.clocks.empty()) {
+        expected.insert(expected.begin(), ClockQuestion(kSoundReport));
+    }
+    EXPECT_EQ(messageBox.shown, expected);
+    EXPECT_EQ(port.sent.size(), row.sent);
+    EXPECT_EQ(progress.ended, static_cast<int>(progress.begun.size()));
+}
+
+const Bytes kSilence;
+const Bytes kMode3 = WireFrame({0, 35, 10, 11, 1});
+const Bytes kMode40 = WireFrame({0, 40, 26, 11, 2});
+const Bytes kClock3 = WireFrame({0, 35, 10, 15, 0});
+const Bytes kClock40 = WireFrame({0, 40, 26, 15, 0});
+
+INSTANTIATE_TEST_SUITE_P(
+    AtEveryPlace, FailureInTheCheck,
+    ::testing::Values(
+        FailureCase{"OpeningTheSurvey", {kSilence}, {}, 1},
+        FailureCase{"ModeRequest", {EmptyReply(), kSilence}, {}, 2},
+        FailureCase{"WaitingForTheMode", {EmptyReply(), EmptyReply(), kSilence}, {}, 3},
+        FailureCase{"ClosingTheSurvey", {EmptyReply(), kMode3, kMode40, kSilence}, {}, 4},
+        FailureCase{"OpeningTheClocks", {}, {kSilence}, 5},
+        FailureCase{"ClockRequest", {}, {EmptyReply(), kSilence}, 6},
+        FailureCase{"WaitingForTheClock", {}, {EmptyReply(), EmptyReply(), kSilence}, 7},
+        FailureCase{"ClosingTheClocks", {}, {EmptyReply(), kClock3, kClock40, kSilence}, 8}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace zelvar::testing

@@ -31,6 +31,17 @@ VDInput NumbersOf(const VDSetting& setting, int option = 0) {
     return input;
 }
 
+std::vector<ModuleCommand> CommandsOf(const VDSetting& setting, int button, bool permanent,
+                                      const VDInput& input) {
+    std::vector<ModuleCommand> commands;
+    for (std::size_t i = 0; i < VDCommandCount(setting); ++i) {
+        if (const auto command = VDCommandOf(setting, i, button, permanent, input)) {
+            commands.push_back(*command);
+        }
+    }
+    return commands;
+}
+
 /// One parameter, as it is sent.
 struct ParameterCase {
     const char* name;
@@ -96,7 +107,7 @@ TEST_P(SentSetting, GoesToEveryAddressedModuleToTheByte) {
                                            return ChosenVDModules(registry, {9, d});
                                        },
                                        {}});
-    const auto toSend = VDCommands(setting, button, permanent, input);
+    const auto toSend = CommandsOf(setting, button, permanent, input);
     ASSERT_EQ(toSend.size(), 1U);
     commands.SendModuleCommand(toSend[0]);
 
@@ -128,13 +139,13 @@ TEST(VDCommands, SwitchDelaysOfHiddenFieldsAreNotSent) {
     VDInput input = NumbersOf(setting);
     input.numbers[1].shown = false;
     input.numbers[3].shown = false;
-    EXPECT_EQ(VDCommands(setting, kSetButton, false, input),
+    EXPECT_EQ(CommandsOf(setting, kSetButton, false, input),
               (std::vector<ModuleCommand>{{32, 3, 8, 4, 3}, {32, 3, 8, 6, 5}}));
 }
 
 TEST(VDCommands, AnAlarmDelayIsTwoCommands) {
     const VDSetting& setting = SettingOf("frmAL");
-    EXPECT_EQ(VDCommands(setting, kGetButton, true, NumbersOf(setting)),
+    EXPECT_EQ(CommandsOf(setting, kGetButton, true, NumbersOf(setting)),
               (std::vector<ModuleCommand>{{32, 2, 8, 66, 3}, {32, 2, 8, 67, 4}}));
 }
 

@@ -164,6 +164,41 @@ TEST_F(VDTabReply, GreenOptionsTurnBackWhenTheirButtonLosesTheFocus) {
     }
 }
 
+struct LeftCase {
+    const char* button;
+    const char* control;
+    int parameter;
+};
+
+/// With a VD-F, whose Get buttons are shown; its address is 37.
+class LeftButton : public LayoutFixture, public ::testing::WithParamInterface<LeftCase> {
+  protected:
+    LeftButton() {
+        modules = {{37, kVdFStatus}};
+        RequestStatus();
+    }
+};
+
+TEST_P(LeftButton, TurnsWhatItGotBack) {
+    Click(GetParam().button);
+    Receive({0, 37, 10, GetParam().parameter, 1});
+    ASSERT_TRUE(IsGreen(GetParam().control));
+    Click("cmdDCShift(0)");
+    EXPECT_FALSE(IsGreen(GetParam().control));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfBothKinds, LeftButton,
+    ::testing::Values(LeftCase{"cmdHFI(0)", "txtHFI", 1}, LeftCase{"cmdHFI(1)", "txtHFI", 1},
+                      LeftCase{"cmdAL(1)", "txtAL(1)", 3}, LeftCase{"cmdSW(1)", "txtSW(3)", 7},
+                      LeftCase{"cmdOCD(1)", "optOCD(1)", 10}, LeftCase{"cmdMS(1)", "optMS(1)", 11},
+                      LeftCase{"cmdPC(0)", "optPC(1)", 12}, LeftCase{"cmdPC(1)", "optPC(1)", 12}),
+    [](const auto& row) {
+        std::string name = row.param.button;
+        std::erase_if(name, [](char c) { return c == '(' || c == ')'; });
+        return name;
+    });
+
 TEST_F(VDTabReply, OnlyTheReportedOptionIsGreen) {
     Report(10, 0);
     Report(10, 2);

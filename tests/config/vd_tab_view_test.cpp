@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "config/vd_settings.h"
 #include "config/vd_tab.h"
 #include "layout_fixture.h"
 
@@ -121,6 +122,30 @@ TEST_F(VDTabView, NothingMovesWhenTheTargetChanges) {
             EXPECT_EQ(QRect(control->mapTo(window.get(), QPoint()), control->size()), place)
                 << entry << ": " << control->objectName().toStdString();
         }
+    }
+}
+
+TEST_F(VDTabView, ABorderStandsAroundTheMasterSlaveModeWithItsFrameAlone) {
+    const auto& panel = Find<QFrame>("frmMS").parentWidget();
+    const auto shape = [&] { return qobject_cast<QFrame*>(panel)->frameShape(); };
+    for (const char* entry : {" 5", " 12", " 19.0", "All_VD-F"}) {
+        Choose("cboVD", QString::fromUtf8(entry));
+        EXPECT_EQ(shape(), QFrame::StyledPanel) << entry;
+    }
+    Choose("cboVD", QStringLiteral("All_VDxx"));
+    EXPECT_EQ(shape(), QFrame::NoFrame);
+}
+
+TEST_F(VDTabView, EverySettingStandsUnderItsTitle) {
+    for (const VDSetting& setting : VDSettings()) {
+        const auto& frame = Find<QFrame>(setting.frame);
+        const QString wanted = QString::fromUtf8(setting.title);
+        EXPECT_FALSE(wanted.isEmpty()) << setting.frame;
+        int titles = 0;
+        for (const QLabel* label : frame.parentWidget()->findChildren<QLabel*>()) {
+            titles += label->text() == wanted ? 1 : 0;
+        }
+        EXPECT_EQ(titles, 1) << setting.frame;
     }
 }
 
