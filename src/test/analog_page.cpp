@@ -18,9 +18,10 @@ constexpr int kTopAcceleration = 127;
 constexpr int kTopHfi = 15;
 /// What the read-out shows while the speed of the block is not known.
 constexpr const char* kUnknownSpeed = "---";
-/// Pixels between the slider's number and the read-out, and within it beside its text.
+/// Pixels between the slider's number and the read-out, then within it beside and around its text.
 constexpr int kDisplayGap = 12;
 constexpr int kDisplayMargin = 6;
+constexpr int kDisplayPadding = 2;
 
 QLabel* Caption(int index, const char* caption, QWidget* parent) {
     return CaptionLabel(IndexedName("lblTestAnalog", index), Text(caption), parent);
@@ -66,7 +67,8 @@ void AnalogPage::LayOut() {
     lblTestAnalogSpeed_->setFont(font);
     lblTestAnalogSpeed_->setAlignment(Qt::AlignCenter);
     // Set apart like a display, lest it be taken for the slider's own number beside it.
-    lblTestAnalogSpeed_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    lblTestAnalogSpeed_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    lblTestAnalogSpeed_->setMargin(kDisplayPadding);
     lblTestAnalogSpeed_->setToolTip(QStringLiteral("Speed of the block"));
     lblTestAnalogSpeed_->setMinimumWidth(
         lblTestAnalogSpeed_->fontMetrics().horizontalAdvance(QStringLiteral(">>63 ")) +

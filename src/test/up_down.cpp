@@ -13,6 +13,13 @@
 
 namespace zelvar {
 
+namespace {
+
+/// Pixels left of the arrows, where the outline of the control is painted.
+constexpr int kFrame = 1;
+
+}  // namespace
+
 UpDown::UpDown(QLabel* buddy, int minimum, int maximum, QWidget* parent)
     : QAbstractSpinBox(parent), buddy_(buddy), minimum_(minimum), maximum_(maximum) {
     setFocusPolicy(Qt::StrongFocus);
@@ -60,7 +67,7 @@ QSize UpDown::sizeHint() const {
     option.rect = QRect(QPoint(), size);
     const QRect up =
         style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this);
-    size.rwidth() -= up.left();
+    size.rwidth() -= up.left() - kFrame;
     return size;
 }
 
