@@ -23,6 +23,7 @@ SpinField::SpinField(const QString& spinName, const QString& fieldName, const QS
     lineEdit()->setText(QString::number(std::clamp(0, minimum, maximum)));
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccelerated(true);
     connect(lineEdit(), &QLineEdit::textChanged, this, &SpinField::Change);
 }
 

@@ -18,6 +18,10 @@ constexpr int kTopAcceleration = 127;
 constexpr int kTopHfi = 15;
 /// What the read-out shows while the speed of the block is not known.
 constexpr const char* kUnknownSpeed = "---";
+/// Pixels between the slider's number and the read-out, then within it beside and around its text.
+constexpr int kDisplayGap = 12;
+constexpr int kDisplayMargin = 6;
+constexpr int kDisplayPadding = 2;
 
 QLabel* Caption(int index, const char* caption, QWidget* parent) {
     return CaptionLabel(IndexedName("lblTestAnalog", index), Text(caption), parent);
@@ -61,23 +65,29 @@ void AnalogPage::LayOut() {
     QFont font = lblTestAnalogSpeed_->font();
     font.setBold(true);
     lblTestAnalogSpeed_->setFont(font);
-    lblTestAnalogSpeed_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblTestAnalogSpeed_->setAlignment(Qt::AlignCenter);
+    // Set apart like a display, lest it be taken for the slider's own number beside it.
+    lblTestAnalogSpeed_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    lblTestAnalogSpeed_->setMargin(kDisplayPadding);
+    lblTestAnalogSpeed_->setToolTip(QStringLiteral("Speed of the block"));
     lblTestAnalogSpeed_->setMinimumWidth(
-        lblTestAnalogSpeed_->fontMetrics().horizontalAdvance(QStringLiteral(">>63 ")));
+        lblTestAnalogSpeed_->fontMetrics().horizontalAdvance(QStringLiteral(">>63 ")) +
+        2 * kDisplayMargin);
 
     auto* layout = new QGridLayout(this);
     layout->addWidget(lblTestAnalog_[0], 0, 0);
     layout->addWidget(AnalogSpeed_, 0, 1);
     layout->addWidget(SliderReadOut(QStringLiteral("lblAnalogSpeedValue"), AnalogSpeed_, kTopSpeed),
                       0, 2);
-    layout->addWidget(lblTestAnalogSpeed_, 0, 3);
-    layout->addLayout(Row({CheckAnalogDirection_, CheckAnalogLight_}), 1, 1, 1, 3);
+    layout->addWidget(lblTestAnalogSpeed_, 0, 4);
+    layout->setColumnMinimumWidth(3, kDisplayGap);
+    layout->addLayout(Row({CheckAnalogDirection_, CheckAnalogLight_}), 1, 1, 1, 4);
     layout->addWidget(lblTestAnalog_[1], 2, 0);
-    layout->addLayout(Row({UpDownTestAcceleration_}), 2, 1, 1, 3);
+    layout->addLayout(Row({UpDownTestAcceleration_}), 2, 1, 1, 4);
     layout->addWidget(lblTestAnalog_[2], 3, 0);
-    layout->addLayout(Row({UpDownTestHFI_, CommandSetHFI_}), 3, 1, 1, 3);
+    layout->addLayout(Row({UpDownTestHFI_, CommandSetHFI_}), 3, 1, 1, 4);
     layout->setRowStretch(4, 1);
-    layout->addWidget(cmdEstopAnalog_, 5, 0, 1, 4);
+    layout->addWidget(cmdEstopAnalog_, 5, 0, 1, 5);
     layout->setColumnStretch(1, 1);
 }
 

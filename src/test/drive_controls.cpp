@@ -64,6 +64,7 @@ QPushButton* EstopButton(const char* name, const char* inWords, QWidget* parent)
 QLabel* SliderReadOut(const QString& name, const SpeedSlider* slider, int widest) {
     auto* label = Named(new QLabel(QString::number(slider->value()), slider->parentWidget()), name,
                         slider->accessibleName() + QStringLiteral(", value"));
+    label->setToolTip(QStringLiteral("Where the slider stands"));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QString::number(widest)));
     QObject::connect(slider, &QSlider::valueChanged, label,

@@ -21,7 +21,7 @@ struct DriveDesk {
     SpinField* block = nullptr;
     SpeedSlider* analogSpeed = nullptr;
     SpeedSlider* dccSpeed = nullptr;
-    /// While raised, the speed sliders and the direction and light boxes send nothing.
+    /// While raised, all three speed sliders and the direction and light boxes send nothing.
     bool inhibitSpeedEvents = false;
 
     /// 0..255

@@ -23,19 +23,20 @@ QLabel* Caption(int index, const char* caption, QWidget* parent) {
 
 }  // namespace
 
-MccPage::MccPage(const Services& services, QWidget* parent)
+MccPage::MccPage(DriveDesk& desk, QWidget* parent)
     : QWidget(parent),
-      services_(services),
-      MCCspeed_(
-          Named(new SpeedSlider(services.gate, kMccTopSpeed15, this), "MCCspeed", "MCC speed")),
+      desk_(desk),
+      MCCspeed_(Named(new SpeedSlider(desk.services.gate, kMccTopSpeed15, this), "MCCspeed",
+                      "MCC speed")),
       CheckMCC30_(Named(new QCheckBox(QStringLiteral("30 Steps"), this), "CheckMCC30",
                         "Drive with 30 speed steps")),
       lblTestMCC_{Caption(0, "Decoder", this), Caption(1, "MCC Speed", this),
                   Caption(2, "Acceleration", this)},
-      UpDownMCCdecoder_(ClampedField(
-          services.gate, QStringLiteral("UpDownMCCdecoder"), QStringLiteral("txtTestMCCdecoder"),
-          QStringLiteral("MCC decoder"), 0, kLastDecoder, this, lblTestMCC_[0])),
-      UpDownTestMCCacceleration_(ClampedField(services.gate,
+      UpDownMCCdecoder_(ClampedField(desk.services.gate, QStringLiteral("UpDownMCCdecoder"),
+                                     QStringLiteral("txtTestMCCdecoder"),
+                                     QStringLiteral("MCC decoder"), 0, kLastDecoder, this,
+                                     lblTestMCC_[0])),
+      UpDownTestMCCacceleration_(ClampedField(desk.services.gate,
                                               QStringLiteral("UpDownTestMCCacceleration"),
                                               QStringLiteral("txtTestMCCacceleration"),
                                               QStringLiteral("Acceleration of the MCC locomotive"),
@@ -89,7 +90,7 @@ void MccPage::LayOut() {
 }
 
 void MccPage::ConnectControls() {
-    HandlerGate& gate = services_.gate;
+    HandlerGate& gate = desk_.services.gate;
     connect(MCCspeed_, &SpeedSlider::Change, this, gate.Handler([this] { MCCspeed_Change(); }));
     connect(CheckMCC30_, &QCheckBox::toggled, this,
             gate.Handler([this](bool) { CheckMCC30_Click(); }));
@@ -100,12 +101,12 @@ void MccPage::ConnectControls() {
 }
 
 void MccPage::MCCspeed_Change() {
-    if (!services_.link.CheckPort()) {
+    if (!desk_.services.link.CheckPort() || desk_.inhibitSpeedEvents) {
         return;
     }
     // The slider's own maximum tells the step mode, not the box.
     const int code = MccSpeedCode(MCCspeed_->value(), MCCspeed_->maximum());
-    services_.link.Transact(
+    desk_.services.link.Transact(
         MccSpeed(UpDownMCCdecoder_->Value(), code, UpDownTestMCCacceleration_->Value()));
 }
 
@@ -114,29 +115,29 @@ void MccPage::CheckMCC30_Click() {
     // follows.
     MCCspeed_->Put(0);
     MCCspeed_->setMaximum(CheckMCC30_->isChecked() ? kMccTopSpeed30 : kMccTopSpeed15);
-    if (services_.link.IsOpen()) {
+    if (desk_.services.link.IsOpen()) {
         MCCspeed_Change();
     }
 }
 
 void MccPage::cmdEstopMCC_Click() {
-    if (!services_.link.CheckPort()) {
+    if (!desk_.services.link.CheckPort()) {
         return;
     }
     // Meant: a slider that stood elsewhere sends speed 0 first.
     MCCspeed_->Put(0);
-    services_.link.Transact(MccEstop(UpDownMCCdecoder_->Value()));
+    desk_.services.link.Transact(MccEstop(UpDownMCCdecoder_->Value()));
 }
 
 void MccPage::cmdTestMCCfunction_Click() {
-    if (!services_.link.CheckPort()) {
+    if (!desk_.services.link.CheckPort()) {
         return;
     }
     MccFunctionSet functions;
     for (std::size_t i = 0; i < kMccFunctionCount; ++i) {
         functions[i] = chkTestMCCfunction_[i]->isChecked();
     }
-    services_.link.Transact(MccFunctions(UpDownMCCdecoder_->Value(), functions));
+    desk_.services.link.Transact(MccFunctions(UpDownMCCdecoder_->Value(), functions));
 }
 
 }  // namespace zelvar

@@ -17,7 +17,8 @@ class MccPage : public QWidget {
     Q_OBJECT
 
   public:
-    explicit MccPage(const Services& services, QWidget* parent = nullptr);
+    /// @param desk must outlive the page
+    explicit MccPage(DriveDesk& desk, QWidget* parent = nullptr);
 
   private:
     void BuildFunctions();
@@ -29,7 +30,7 @@ class MccPage : public QWidget {
     void cmdTestMCCfunction_Click();
     void cmdEstopMCC_Click();
 
-    Services services_;
+    DriveDesk& desk_;
     SpeedSlider* MCCspeed_;
     QCheckBox* CheckMCC30_;
     QLabel* lblTestMCC_[3];

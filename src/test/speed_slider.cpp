@@ -51,7 +51,7 @@ void SpeedSlider::Put(int value) {
     if (value != QSlider::value()) {
         setValue(value);
     } else if (unreported) {
-        Q_EMIT Change();
+        ReportIfNew();
     }
 }
 
@@ -82,7 +82,7 @@ void SpeedSlider::ValueChanged() {
         return;
     }
     report_.stop();
-    Q_EMIT Change();
+    Report();
 }
 
 void SpeedSlider::ReportNewest() {
@@ -90,6 +90,18 @@ void SpeedSlider::ReportNewest() {
         report_.start(kRetryInterval);
         return;
     }
+    ReportIfNew();
+}
+
+void SpeedSlider::ReportIfNew() {
+    // The hand may have come back to where it was.
+    if (value() != lastReported_) {
+        Report();
+    }
+}
+
+void SpeedSlider::Report() {
+    lastReported_ = value();
     Q_EMIT Change();
 }
 

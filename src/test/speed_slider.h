@@ -32,11 +32,14 @@ class SpeedSlider : public QSlider {
   private:
     void ValueChanged();
     void ReportNewest();
+    void ReportIfNew();
+    void Report();
     void LetGo();
 
     HandlerGate& gate_;
     /// Runs while the user has chosen a value that is not reported yet.
     QTimer report_;
+    int lastReported_ = 0;
     bool inUserInput_ = false;
 };
 

@@ -41,7 +41,7 @@ TestTab::TestTab(const Services& services, QWidget* parent)
     desk_.block = UpDown_Block_;
     analogPage_ = new AnalogPage(desk_, this);
     dccPage_ = new DccPage(desk_, this);
-    mccPage_ = new MccPage(services, this);
+    mccPage_ = new MccPage(desk_, this);
 
     auto* layout = new QGridLayout(this);
     lblTestSystemStatus_->setMargin(kStatusMargin);

@@ -13,10 +13,18 @@
 
 namespace zelvar {
 
+namespace {
+
+/// Pixels left of the arrows, where the outline of the control is painted.
+constexpr int kFrame = 1;
+
+}  // namespace
+
 UpDown::UpDown(QLabel* buddy, int minimum, int maximum, QWidget* parent)
     : QAbstractSpinBox(parent), buddy_(buddy), minimum_(minimum), maximum_(maximum) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccelerated(true);
     // Not shown; it holds the number for assistive technology.
     lineEdit()->setReadOnly(true);
     lineEdit()->setVisible(false);
@@ -52,8 +60,15 @@ QSize UpDown::sizeHint() const {
     ensurePolished();
     QStyleOptionSpinBox option;
     initStyleOption(&option);
+    option.direction = Qt::LeftToRight;
     const QSize content(0, lineEdit()->sizeHint().height());
-    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
+    QSize size = style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
+    // Styles leave room for a text before the arrows.
+    option.rect = QRect(QPoint(), size);
+    const QRect up =
+        style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this);
+    size.rwidth() -= up.left() - kFrame;
+    return size;
 }
 
 QSize UpDown::minimumSizeHint() const {

@@ -37,6 +37,18 @@ TEST_F(AnalogPageTest, SendsTheAccelerationAndShowsNoSpeedThen) {
     EXPECT_EQ(ReadOut(), QStringLiteral("---"));
 }
 
+TEST_F(AnalogPageTest, TheDirectionBoxTakesTheAccelerationToo) {
+    OpenPort();
+    SetText("txtTestBlock", "5");
+    Slider("AnalogSpeed").setValue(12);
+    ASSERT_EQ(ReadOut(), QStringLiteral(">>12"));
+    SetText("txtTestAcceleration", "10");
+    TakeSent();
+    Click("CheckAnalogDirection");
+    EXPECT_EQ(TakeSent(), (Sent{{34, 5, 12, 10}}));
+    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+}
+
 TEST_F(AnalogPageTest, TakesASmallFractionForAnAcceleration) {
     OpenPort();
     SetText("txtTestAcceleration", "0.4");
@@ -74,13 +86,16 @@ TEST_F(AnalogPageTest, SendsTheDirectionAlsoWhenCodeChangesIt) {
 
 TEST_F(AnalogPageTest, TheLightLeavesTheSpeedAlone) {
     OpenPort();
+    SetText("txtTestBlock", "128");
     Slider("AnalogSpeed").setValue(12);
     TakeSent();
     Click("CheckAnalogLight");
-    SetText("txtTestBlock", "128");
-    Box("CheckAnalogLight").setChecked(false);
-    EXPECT_EQ(TakeSent(), (Sent{{32, 0, 16}, {33, 0, 0}}));
+    EXPECT_EQ(TakeSent(), (Sent{{33, 0, 16}}));
+    EXPECT_EQ(ReadOut(), QStringLiteral(">>12"));
     EXPECT_EQ(Slider("AnalogSpeed").value(), 12);
+    SetText("txtTestBlock", "127");
+    Box("CheckAnalogLight").setChecked(false);
+    EXPECT_EQ(TakeSent(), (Sent{{32, 127, 0}}));
 }
 
 TEST_F(AnalogPageTest, SetsTheHfi) {
@@ -115,14 +130,15 @@ TEST_F(AnalogPageTest, TheEmergencyStopSendsAlsoAtStandstillAndKeepsTheDirection
 
 TEST_F(AnalogPageTest, AValueOnItsWayIsNotSentAfterTheEmergencyStop) {
     OpenPort();
-    QSlider& slider = Slider("AnalogSpeed");
-    ShowTabOf(slider);
-    slider.setFocus();
-    QTest::keyClick(&slider, Qt::Key_PageUp);
+    // A stray report would carry the acceleration.
+    SetText("txtTestAcceleration", "10");
+    StepByKey("DCCSpeed");
+    StepByKey("AnalogSpeed");
     Click("cmdEstopAnalog");
-    QTest::qWait(0);
-    EXPECT_EQ(TakeSent().back(), (std::vector<int>{34, 0, 64}));
-    EXPECT_EQ(slider.value(), 0);
+    Settle();
+    EXPECT_EQ(TakeSent(), (Sent{{34, 0, 64}}));
+    EXPECT_EQ(Slider("AnalogSpeed").value(), 0);
+    EXPECT_EQ(Slider("DCCSpeed").value(), 0);
 }
 
 TEST_F(AnalogPageTest, SendsOnAfterAnEmergencyStop) {
@@ -178,6 +194,16 @@ TEST_F(AnalogPageTest, AnEmptyBlockTakesTheReportsOfBlock0Only) {
     EXPECT_EQ(ReadOut(), QStringLiteral("---"));
     Click("cmdReset");
     EXPECT_EQ(ReadOut(), QStringLiteral("<<6"));
+}
+
+TEST_F(AnalogPageTest, TellsItsTwoNumbersApart) {
+    auto& slider = Find<QLabel>("lblAnalogSpeedValue");
+    auto& block = Find<QLabel>("lblTestAnalogSpeed");
+    ShowTabOf(block);
+    EXPECT_EQ(slider.toolTip(), QStringLiteral("Where the slider stands"));
+    EXPECT_EQ(block.toolTip(), QStringLiteral("Speed of the block"));
+    EXPECT_NE(block.frameShape(), QFrame::NoFrame);
+    EXPECT_GE(block.x() - slider.geometry().right(), 12);
 }
 
 TEST_F(AnalogPageTest, AnotherBlockHasAnUnknownSpeed) {

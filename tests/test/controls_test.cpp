@@ -73,6 +73,7 @@ TEST_P(NumberFields, BringsNumbersIntoTheirRange) {
 
 TEST_P(NumberFields, StepsWithinItsRange) {
     auto& spin = Find<QAbstractSpinBox>(GetParam().spin);
+    EXPECT_TRUE(spin.isAccelerated());
     EXPECT_EQ(spin.property("minimum").toInt(), GetParam().minimum);
     EXPECT_EQ(spin.property("maximum").toInt(), GetParam().maximum);
     EXPECT_EQ(TextOf(GetParam().field).toInt(), GetParam().minimum) << "at the start";
@@ -138,6 +139,32 @@ constexpr Captioned kCaptions[] = {
     {"CheckDCCForceLong", "QCheckBox", "DCC Long Address"},
     {"Check_Pattern(0)", "QCheckBox", "L"},
     {"Check_Pattern(1)", "QCheckBox", "F1"},
+    {"Check_Pattern(2)", "QCheckBox", "F2"},
+    {"Check_Pattern(3)", "QCheckBox", "F3"},
+    {"Check_Pattern(4)", "QCheckBox", "F4"},
+    {"Check_Pattern(5)", "QCheckBox", "F5"},
+    {"Check_Pattern(6)", "QCheckBox", "F6"},
+    {"Check_Pattern(7)", "QCheckBox", "F7"},
+    {"Check_Pattern(8)", "QCheckBox", "F8"},
+    {"Check_Pattern(9)", "QCheckBox", "F9"},
+    {"Check_Pattern(10)", "QCheckBox", "F10"},
+    {"Check_Pattern(11)", "QCheckBox", "F11"},
+    {"Check_Pattern(12)", "QCheckBox", "F12"},
+    {"Check_Pattern(13)", "QCheckBox", "F13"},
+    {"Check_Pattern(14)", "QCheckBox", "F14"},
+    {"Check_Pattern(15)", "QCheckBox", "F15"},
+    {"Check_Pattern(16)", "QCheckBox", "F16"},
+    {"Check_Pattern(17)", "QCheckBox", "F17"},
+    {"Check_Pattern(18)", "QCheckBox", "F18"},
+    {"Check_Pattern(19)", "QCheckBox", "F19"},
+    {"Check_Pattern(20)", "QCheckBox", "F20"},
+    {"Check_Pattern(21)", "QCheckBox", "F21"},
+    {"Check_Pattern(22)", "QCheckBox", "F22"},
+    {"Check_Pattern(23)", "QCheckBox", "F23"},
+    {"Check_Pattern(24)", "QCheckBox", "F24"},
+    {"Check_Pattern(25)", "QCheckBox", "F25"},
+    {"Check_Pattern(26)", "QCheckBox", "F26"},
+    {"Check_Pattern(27)", "QCheckBox", "F27"},
     {"Check_Pattern(28)", "QCheckBox", "F28"},
     {"lblTestDCC(0)", "QLabel", "Decoder"},
     {"lblTestDCC(1)", "QLabel", "DCC Speed"},
@@ -156,6 +183,7 @@ constexpr Captioned kCaptions[] = {
     {"lblTestMCC(2)", "QLabel", "Acceleration"},
     {"cmdTestJS70(0)", "QPushButton", "Straight"},
     {"cmdTestJS70(1)", "QPushButton", "Thrown"},
+    {"lblTestJS70(1)", "QLabel", "Device"},
     {"chkTestJS70selectmodule", "QCheckBox", "Module Select"},
     {"lblTestYR70(0)", "QLabel", "YR70 Module"},
     {"lblTestYR70(1)", "QLabel", "Pin"},
@@ -165,11 +193,14 @@ constexpr Captioned kCaptions[] = {
     {"lblTestGW70(1)", "QLabel", "Output"},
     {"lblTestGW70(2)", "QLabel", "Param"},
     {"cmdTestGW70", "QPushButton", "Set GW70"},
+    {"lblTestLink(0)", "QLabel", "Block"},
+    {"lblTestLink(1)", "QLabel", "Block"},
     {"CommandTestLink(0)", "QPushButton", "Link Blocks"},
     {"CommandTestLink(1)", "QPushButton", "Link Inverted"},
     {"CommandTestLink(2)", "QPushButton", "Unlink Down"},
     {"CommandTestLink(3)", "QPushButton", "Unlink Up"},
     {"chkTestUnlinkZero", "QCheckBox", "Clear unlinked blocks"},
+    {"lblTestBlock", "QLabel", "Block"},
     {"CommandTestClearBlock", "QPushButton", "Clear Block"},
     {"CommandTestFBM", "QPushButton", "Feedback Monitor"},
 };

@@ -37,6 +37,15 @@ TEST_F(DccPageTest, SendsTheSpeedToShortAndLongAddresses) {
     EXPECT_EQ(TakeSent(), (Sent{{41, 72, 108, 104, 7}}));
 }
 
+TEST_F(DccPageTest, RoundsTheDecoderToTheEvenNeighbourBeforeItChoosesTheForm) {
+    OpenPort();
+    SetText("Text_Decoder", "126.5");
+    Slider("DCCSpeed").setValue(10);
+    SetText("Text_Decoder", "127.5");
+    Slider("DCCSpeed").setValue(11);
+    EXPECT_EQ(TakeSent(), (Sent{{40, 0, 106, 126}, {40, 0, 107, 0, 1}}));
+}
+
 TEST_F(DccPageTest, SendsTheDirectionWithTheSpeed) {
     OpenPort();
     Slider("DCCSpeed").setValue(10);
@@ -59,7 +68,7 @@ TEST_F(DccPageTest, DrivesWith126Steps) {
     EXPECT_EQ(Slider("DCCSpeed").maximum(), 126);
     EXPECT_EQ(TakeSent(), Sent{}) << "the slider stood at 0 already";
     Box("CheckDCCDirection").setChecked(false);
-    TakeSent();
+    EXPECT_EQ(TakeSent(), (Sent{{44, 0, 0, 0, 3}}));
     Slider("DCCSpeed").setValue(100);
     EXPECT_EQ(TakeSent(), (Sent{{44, 0, 0, 100, 3}}));
 }
@@ -102,6 +111,25 @@ TEST_F(DccPageTest, TheEmergencyStopZeroesBothSlidersAndSendsOneCommand) {
     TakeSent();
     Click("cmdEstopDCC");
     EXPECT_EQ(TakeSent(), (Sent{{40, 0, 95, 3}})) << "also at standstill";
+}
+
+TEST_F(DccPageTest, TheEmergencyStopLeavesTheSpeedOfTheBlockAsItStands) {
+    OpenPort();
+    Slider("AnalogSpeed").setValue(12);
+    ASSERT_EQ(TextOf("lblTestAnalogSpeed"), QStringLiteral(">>12"));
+    Click("cmdEstopDCC");
+    EXPECT_EQ(TextOf("lblTestAnalogSpeed"), QStringLiteral(">>12"));
+}
+
+TEST_F(DccPageTest, AValueOnItsWayIsNotSentAfterTheEmergencyStop) {
+    OpenPort();
+    StepByKey("AnalogSpeed");
+    StepByKey("DCCSpeed");
+    Click("cmdEstopDCC");
+    Settle();
+    EXPECT_EQ(TakeSent(), (Sent{{40, 0, 127, 3}}));
+    EXPECT_EQ(Slider("AnalogSpeed").value(), 0);
+    EXPECT_EQ(Slider("DCCSpeed").value(), 0);
 }
 
 TEST_F(DccPageTest, TheEmergencyStopOf126StepsIs127) {
@@ -152,11 +180,19 @@ TEST_F(DccPageTest, EveryFunctionBoxHasItsOwnBit) {
 TEST_F(DccPageTest, FunctionsOfABlockAbove127OverflowAfterTheirFirstByte) {
     OpenPort();
     SetText("txtTestBlock", "128");
-    Click("Command1(0)");
-    EXPECT_EQ(messageBox.shown,
-              (std::vector<ShownBox>{{"Overflow", BoxIcon::Critical, BoxButtons::Ok}}));
-    ASSERT_EQ(port.written.size(), 2U);
-    EXPECT_EQ(port.written[1], 128 + 40);
+    // Groups of eight go out as another command.
+    constexpr int kFirstValues[] = {40, 40, 40, 44, 44};
+    for (int group = 0; group < 5; ++group) {
+        const std::string button = "Command1(" + std::to_string(group) + ")";
+        port.written.clear();
+        messageBox.shown.clear();
+        Click(button.c_str());
+        EXPECT_EQ(messageBox.shown,
+                  (std::vector<ShownBox>{{"Overflow", BoxIcon::Critical, BoxButtons::Ok}}))
+            << button;
+        ASSERT_EQ(port.written.size(), 2U) << button;
+        EXPECT_EQ(port.written[1], 128 + kFirstValues[group]) << button;
+    }
 }
 
 TEST_F(DccPageTest, TheCaptionsOfTheGroupButtonsArePaddedToOneWidth) {

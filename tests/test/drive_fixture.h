@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QSlider>
 #include <QStyle>
+#include <QTimer>
 
 #include <vector>
 
@@ -23,6 +24,17 @@ inline QPoint PlaceOf(const QSlider& slider, int value) {
     return {x + handle / 2, slider.height() / 2};
 }
 
+/// Lets the event loop turn until a zero-delay timer that starts now has fired.
+inline void Settle() {
+    constexpr int kLimit = 5000;  // milliseconds
+    bool fired = false;
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] { fired = true; });
+    timer.start(0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return fired; }, kLimit));
+}
+
 /// The main window with the controls of the TEST tab at hand.
 class DriveFixture : public WindowFixture {
   protected:
@@ -30,6 +42,16 @@ class DriveFixture : public WindowFixture {
     QCheckBox& Box(const char* name) { return Find<QCheckBox>(name); }
     void SetText(const char* field, const char* text) {
         Find<QLineEdit>(field).setText(QString::fromUtf8(text));
+    }
+
+    /// A step of a slider's handle by the keyboard, which is reported when the event loop turns.
+    void StepByKey(const char* name) {
+        QSlider& slider = Slider(name);
+        const int before = slider.value();
+        ShowTabOf(slider);
+        slider.setFocus();
+        QTest::keyClick(&slider, Qt::Key_PageUp);
+        ASSERT_EQ(slider.value(), before + slider.pageStep());
     }
 
     /// What was sent since the last look.

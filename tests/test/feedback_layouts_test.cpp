@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <QAbstractSpinBox>
+#include <QStyleOptionSpinBox>
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -58,6 +61,18 @@ TEST_P(FeedbackMonitorLayouts, ALargerBaseIsCutToTheLargest) {
     ExpectCaptionsFrom(GetParam().maximum);
 }
 
+TEST_P(FeedbackMonitorLayouts, AreChosenByCodeAsByTheMouse) {
+    Click("CommandTestFBM");
+    // The first one is chosen already.
+    Part<QRadioButton>(GetParam().layout == 0 ? "opFBmod(3)" : "opFBmod(0)").setChecked(true);
+    SetBase(1920);
+    Part<QRadioButton>("opFBmod(" + std::to_string(GetParam().layout) + ")").setChecked(true);
+    EXPECT_EQ(Part<QWidget>("UpDownFBbase").property("maximum").toInt(), GetParam().maximum);
+    const int base = BaseText().toInt();
+    EXPECT_EQ(base, GetParam().layout == 0 ? 1024 : GetParam().maximum);
+    ExpectCaptionsFrom(base);
+}
+
 TEST_P(FeedbackMonitorLayouts, ShowTheStatesOfTheirInputs) {
     OpenPort();
     Click("CommandTestFBM");
@@ -76,6 +91,33 @@ INSTANTIATE_TEST_SUITE_P(All, FeedbackMonitorLayouts,
                          [](const auto& row) { return row.param.name; });
 
 using FeedbackBaseTest = FeedbackFixture;
+
+TEST_F(FeedbackBaseTest, StartsWithConsecutiveInputsFrom0) {
+    Click("CommandTestFBM");
+    EXPECT_TRUE(Part<QRadioButton>("opFBmod(0)").isChecked());
+    for (const char* other : {"opFBmod(1)", "opFBmod(2)", "opFBmod(3)"}) {
+        EXPECT_FALSE(Part<QRadioButton>(other).isChecked()) << other;
+    }
+    EXPECT_EQ(BaseText(), QStringLiteral("0"));
+    EXPECT_EQ(Label(127).text(), QStringLiteral("127"));
+}
+
+TEST_F(FeedbackBaseTest, TheBaseIsSteppedFasterTheLongerItsArrowIsHeld) {
+    Click("CommandTestFBM");
+    EXPECT_TRUE(Part<QAbstractSpinBox>("UpDownFBbase").isAccelerated());
+}
+
+TEST_F(FeedbackBaseTest, ItsSpinControlIsNoWiderThanItsArrows) {
+    Click("CommandTestFBM");
+    auto& spin = Part<QAbstractSpinBox>("UpDownFBbase");
+    QStyleOptionSpinBox option;
+    option.initFrom(&spin);
+    option.frame = true;
+    const QRect up =
+        spin.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &spin);
+    EXPECT_EQ(up.left(), 1) << "room for the outline only";
+    EXPECT_GT(up.width(), 5);
+}
 
 TEST_F(FeedbackBaseTest, ABaseOf1500BecomesTheLargestOfMod128) {
     Click("CommandTestFBM");

@@ -62,11 +62,14 @@ TEST_F(MccPageTest, AnotherStepModeStopsAMovingSliderFirstInTheOldMode) {
 
 TEST_F(MccPageTest, WithThePortClosedAnotherStepModeTellsSoOnceForAMovedSlider) {
     Click("CheckMCC30");
-    EXPECT_TRUE(messageBox.shown.empty());
+    EXPECT_TRUE(messageBox.shown.empty()) << "nothing was to be sent";
+    EXPECT_EQ(Slider("MCCspeed").maximum(), 30);
     Slider("MCCspeed").setValue(9);
     messageBox.shown.clear();
     Click("CheckMCC30");
     EXPECT_EQ(messageBox.shown, kSelectPort);
+    EXPECT_EQ(Slider("MCCspeed").value(), 0);
+    EXPECT_EQ(Slider("MCCspeed").maximum(), 15);
 }
 
 TEST_F(MccPageTest, TheEmergencyStopSendsStandstillOfAMovedSliderThenTheStop) {
@@ -118,6 +121,34 @@ TEST_F(MccPageTest, FunctionsSendOnlyThroughTheirButton) {
         EXPECT_EQ(TakeSent(), (Sent{{7, 1, 2, i < 4 ? bit : 0, i < 4 ? 0 : bit}})) << box;
         Click(box.c_str());
     }
+}
+
+/// The page by itself, its flag in the hands of the test.
+class MccPageAlone : public LinkFixture {
+  protected:
+    HandlerGate gate;
+    DriveDesk desk{{link, messageBox, progress, clock, gate}};
+    MccPage page{desk};
+    QSlider& slider = FindBelow<QSlider>(page, "MCCspeed");
+    QCheckBox& steps = FindBelow<QCheckBox>(page, "CheckMCC30");
+};
+
+TEST_F(MccPageAlone, SendsNothingWhileSpeedEventsAreInhibited) {
+    desk.inhibitSpeedEvents = true;
+    slider.setValue(9);
+    steps.setChecked(true);
+    EXPECT_EQ(port.SentValues(), Sent{});
+    EXPECT_EQ(slider.maximum(), 30);
+    desk.inhibitSpeedEvents = false;
+    slider.setValue(1);
+    EXPECT_EQ(port.SentValues(), (Sent{{6, 0, 0, 1, 0}}));
+}
+
+TEST_F(MccPageAlone, TellsOfAClosedPortAlsoWhileSpeedEventsAreInhibited) {
+    port.open = false;
+    desk.inhibitSpeedEvents = true;
+    slider.setValue(9);
+    EXPECT_EQ(messageBox.shown, (std::vector<ShownBox>{Exclamation("Please select Comm-Port")}));
 }
 
 }  // namespace

@@ -72,12 +72,6 @@ class SpeedSliderTest : public ::testing::Test {
     bool WaitForReports(std::size_t count) {
         return QTest::qWaitFor([&] { return reported.size() >= count; }, kLimit);
     }
-    /// Lets the event loop turn until a zero-delay timer that starts now has fired.
-    void Settle() {
-        bool fired = false;
-        QTimer::singleShot(0, slider, [&] { fired = true; });
-        ASSERT_TRUE(QTest::qWaitFor([&] { return fired; }, kLimit));
-    }
 
     HandlerGate gate;
     QWidget window;
@@ -137,6 +131,36 @@ TEST_F(SpeedSliderTest, DropsWhatWasPassedOverDuringAnExchangeAndSendsTheLast) {
     Settle();
     EXPECT_EQ(reported, (Values{5, 40}));
     Release(40);
+}
+
+TEST_F(SpeedSliderTest, ReportsNothingWhenTheHandIsBackAfterAnExchange) {
+    whileSending = [this] {
+        if (reported.size() == 1) {
+            PostMoveTo(12);
+            PostMoveTo(9);
+        }
+    };
+    Press();
+    MoveTo(9);
+    ASSERT_TRUE(WaitForReports(1));
+    Settle();
+    EXPECT_EQ(slider->value(), 9);
+    EXPECT_EQ(reported, (Values{9}));
+    MoveTo(12);
+    ASSERT_TRUE(WaitForReports(2));
+    EXPECT_EQ(reported, (Values{9, 12}));
+    Release(12);
+}
+
+TEST_F(SpeedSliderTest, PuttingTheReportedValueThatTheHandHasComeBackToReportsNothing) {
+    slider->setValue(9);
+    Press();
+    MoveTo(12);
+    MoveTo(9);
+    slider->Put(9);
+    Settle();
+    EXPECT_EQ(reported, (Values{9}));
+    Release(9);
 }
 
 TEST_F(SpeedSliderTest, SendsTheLastValueAlsoAfterTheMouseIsReleased) {

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "test/drive_fixture.h"
 
 namespace zelvar::testing {
@@ -66,6 +68,34 @@ TEST_F(TestTabTest, ClearingABlockPutsTheControlsToRestAndSendsOneCommand) {
     EXPECT_EQ(TakeSent(), (Sent{{35, 1, 65}})) << "speeds are sent again";
 }
 
+TEST_F(TestTabTest, AValueOnItsWayIsNotSentAfterABlockIsCleared) {
+    OpenPort();
+    SetText("txtTestBlock", "129");
+    SetText("txtTestAcceleration", "10");
+    StepByKey("DCCSpeed");
+    StepByKey("AnalogSpeed");
+    Click("CommandTestClearBlock");
+    Settle();
+    EXPECT_EQ(TakeSent(), (Sent{{63, 1, 18}}));
+    EXPECT_EQ(Slider("AnalogSpeed").value(), 0);
+    EXPECT_EQ(Slider("DCCSpeed").value(), 0);
+}
+
+TEST_F(TestTabTest, TheSlidersStartAtTheirRangesAndSteps) {
+    const struct {
+        const char* name;
+        int maximum;
+    } kRows[] = {{"AnalogSpeed", 63}, {"DCCSpeed", 28}, {"MCCspeed", 15}};
+    for (const auto& row : kRows) {
+        const QSlider& slider = Slider(row.name);
+        EXPECT_EQ(slider.minimum(), 0) << row.name;
+        EXPECT_EQ(slider.maximum(), row.maximum) << row.name;
+        EXPECT_EQ(slider.value(), 0) << row.name;
+        EXPECT_EQ(slider.singleStep(), 1) << row.name;
+        EXPECT_EQ(slider.pageStep(), 5) << row.name;
+    }
+}
+
 TEST_F(TestTabTest, WithThePortClosedClearingABlockResetsNothing) {
     Slider("AnalogSpeed").setValue(12);
     Box("CheckAnalogLight").setChecked(true);
@@ -107,11 +137,15 @@ TEST_F(TestTabTest, EveryPageFitsAWindowOf1000By720WithoutScrolling) {
     auto& pages = Find<QTabWidget>("SSTab2");
     ShowTabOf(pages);
     EXPECT_TRUE(window->findChildren<QScrollArea*>().empty());
-    for (int page = 0; page < pages.count(); ++page) {
-        pages.setCurrentIndex(page);
-        const QSize needed = window->minimumSizeHint().expandedTo(window->size());
-        EXPECT_LE(needed.width(), 1000) << page;
-        EXPECT_LE(needed.height(), 720) << page;
+    for (const bool byModule : {false, true}) {
+        Box("chkTestJS70selectmodule").setChecked(byModule);
+        for (int page = 0; page < pages.count(); ++page) {
+            pages.setCurrentIndex(page);
+            Settle();
+            const QSize needed = window->minimumSizeHint().expandedTo(window->size());
+            EXPECT_LE(needed.width(), 1000) << page << " by module: " << byModule;
+            EXPECT_LE(needed.height(), 720) << page << " by module: " << byModule;
+        }
     }
 }
 
@@ -123,6 +157,11 @@ TEST_F(TestTabTest, EmergencyStopsAreLargeAndRedWithReadableText) {
         const QColor ground = button.palette().color(QPalette::Button);
         EXPECT_GT(ground.red(), 2 * (ground.green() + ground.blue()));
         EXPECT_EQ(button.palette().color(QPalette::ButtonText), QColor(Qt::white));
+        ShowTabOf(button);
+        // Left of the text; the style lightens the ground.
+        const QColor painted = button.grab().toImage().pixelColor(12, button.height() / 2);
+        EXPECT_GT(painted.red(), 100) << name;
+        EXPECT_GT(painted.red(), 3 * std::max(painted.green(), painted.blue())) << name;
     }
 }
 
