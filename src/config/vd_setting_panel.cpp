@@ -27,7 +27,7 @@ constexpr int kOnlyRow = 360 / kTwipsPerPixel;
 constexpr int kSecondRow = 600 / kTwipsPerPixel;
 /// A label stands this much lower than its field, and ends as much higher.
 constexpr int kLabelInset = 30 / kTwipsPerPixel;
-constexpr int kGap = 8;
+constexpr int kGap = 6;
 
 void KeepPlaceWhenHidden(QWidget* widget) {
     QSizePolicy policy = widget->sizePolicy();
@@ -143,6 +143,7 @@ QLayout* VDSettingPanel::LayOutControls() {
 
 void VDSettingPanel::LayOutInRow() {
     auto* inFrame = new QHBoxLayout(frame_);
+    inFrame->setContentsMargins(kGap, kGap, kGap, kGap);
     auto* inPanel = new QHBoxLayout(this);
     inPanel->setContentsMargins(0, 0, 0, 0);
     auto* controls = new QVBoxLayout;
@@ -185,7 +186,7 @@ void VDSettingPanel::LayOutBanks() {
     PlaceBankRows(true);
     // The layout has the buttons alone: the fields stand in its left margin.
     auto* buttons = new QGridLayout(frame_);
-    buttons->setContentsMargins(x, kFirstRowOfTwo, buttons->contentsMargins().right(), 0);
+    buttons->setContentsMargins(x, kFirstRowOfTwo, kGap, 0);
     buttons->setVerticalSpacing(kGap);
     buttons->addWidget(buttons_[kSetButton], 0, 1);
     buttons->addWidget(buttons_[kGetButton], 1, 1);
@@ -194,12 +195,11 @@ void VDSettingPanel::LayOutBanks() {
     frame_->setMinimumHeight(fields_.back()->geometry().bottom() + 1 + kGap);
     // The fixed heights leave no room for the title within the frame.
     auto* inPanel = new QGridLayout(this);
-    const int above = inPanel->contentsMargins().top();
     inPanel->setContentsMargins(0, 0, 0, 0);
     inPanel->setSpacing(0);
     inPanel->addWidget(frame_, 1, 0);
     inPanel->setRowStretch(1, 1);
-    AddTitle(*inPanel)->setContentsMargins(kGap, above, 0, 0);
+    AddTitle(*inPanel)->setContentsMargins(kGap, kGap, 0, 0);
 }
 
 void VDSettingPanel::PlaceBankRows(bool twoRows) {
