@@ -190,7 +190,8 @@ void StatusRequest::AskSecondaryUnit(int line) {
     if (!AskModule(kFamilyVDSecondary + line)) {
         return;
     }
-    const auto index = static_cast<std::size_t>(line + kVDPrimaryLines);
+    const int secondary = line + kVDPrimaryLines;
+    const auto index = static_cast<std::size_t>(secondary);
     const int status = ReplyAt(4);
     ModuleLine& unit = status_.vd[index];
     unit.state = StateOf(status, ModuleState::Fault);
