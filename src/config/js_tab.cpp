@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstddef>
@@ -22,6 +23,8 @@ namespace {
 
 constexpr std::array<const char*, 4> kPowerCaptions{"Normal", "Low", "High", "Unlimited"};
 constexpr int kReportFontPoints = 9;
+/// In milliseconds.
+constexpr int kReportFontDelay = 50;
 
 QPushButton* Button(const char* caption, const char* name, const char* inWords, QWidget* parent) {
     return MakeCommandButton(Text(caption), Text(name), Text(inWords), parent);
@@ -33,12 +36,17 @@ QLabel* LabelFor(QWidget* control, const char* caption, const char* name) {
     return label;
 }
 
-QPlainTextEdit* MakeReportField(QWidget* parent) {
-    auto* field = Named(new QPlainTextEdit(parent), "textJSReport", "Configuration report");
+void SetReportFont(QPlainTextEdit* field) {
     QFont font(QStringLiteral("Lucida Console"), kReportFontPoints);
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     field->setFont(font);
+}
+
+QPlainTextEdit* MakeReportField(QWidget* parent) {
+    auto* field = Named(new QPlainTextEdit(parent), "textJSReport", "Configuration report");
+    // Finding the font takes longer than the rest of the tab, so the window is painted first.
+    QTimer::singleShot(kReportFontDelay, field, [field] { SetReportFont(field); });
     field->setReadOnly(true);
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setLineWrapMode(QPlainTextEdit::NoWrap);

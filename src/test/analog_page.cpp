@@ -62,9 +62,6 @@ AnalogPage::AnalogPage(DriveDesk& desk, QWidget* parent)
 
 void AnalogPage::LayOut() {
     lblTestAnalog_[0]->setBuddy(AnalogSpeed_);
-    QFont font = lblTestAnalogSpeed_->font();
-    font.setBold(true);
-    lblTestAnalogSpeed_->setFont(font);
     lblTestAnalogSpeed_->setAlignment(Qt::AlignCenter);
     // Set apart like a display, lest it be taken for the slider's own number beside it.
     lblTestAnalogSpeed_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
