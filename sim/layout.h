@@ -8,6 +8,8 @@
 #include <optional>
 #include <string_view>
 
+#include "track_plan.h"
+
 namespace zelvar::sim {
 
 /// Families of module addresses: an address is family + channel * 16 + module.
@@ -52,6 +54,7 @@ struct Layout {
     int protocolVersion = 3112;
     std::uint8_t dipSwitches = 0x0F;  // a clear bit is a switch that is on
     std::array<ModuleSlot, kModuleAddresses> modules{};
+    TrackPlan track;
 
     ModuleSlot& At(int address) { return modules[static_cast<std::size_t>(address)]; }
     const ModuleSlot& At(int address) const { return modules[static_cast<std::size_t>(address)]; }
