@@ -6,7 +6,7 @@
 
 namespace zelvar::e2e {
 
-/// A folder of its own for a test; it goes with everything in it.
+/// A folder of its own; it goes with everything in it.
 class TempFolder {
   public:
     TempFolder();

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "probe.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QSocketNotifier>
+#include <QStyleHints>
 #include <QThread>
 #include <QTimer>
 
@@ -17,6 +18,7 @@
 #include <utility>
 
 #include "actions.h"
+#include "dark_palette.h"
 #include "lookup.h"
 #include "queries.h"
 #include "wire_text.h"
@@ -55,6 +57,11 @@ Probe::Probe()
     auto* notifier = new QSocketNotifier(socket_, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] { ReadSocket(); });
     QCoreApplication::instance()->installEventFilter(this);
+    // A blinking cursor would be in one picture and not in the next.
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
+    if (qEnvironmentVariable("ZELVARPROBE_PALETTE") == QLatin1String("dark")) {
+        QApplication::setPalette(DarkPalette());
+    }
 }
 
 Probe::~Probe() {

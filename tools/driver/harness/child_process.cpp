@@ -30,7 +30,7 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
     return pointers;
 }
 
-std::vector<std::string> Merge(const std::map<std::string, std::string>& extra) {
+std::vector<std::string> Merge(const Variables& extra) {
     std::vector<std::string> merged;
     for (char** entry = environ; *entry != nullptr; ++entry) {
         const std::string text(*entry);
@@ -39,16 +39,17 @@ std::vector<std::string> Merge(const std::map<std::string, std::string>& extra) 
         }
     }
     for (const auto& [name, value] : extra) {
-        merged.push_back(std::string(name).append("=").append(value));
+        if (value) {
+            merged.push_back(std::string(name).append("=").append(*value));
+        }
     }
     return merged;
 }
 
 }  // namespace
 
-ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
-                           const std::map<std::string, std::string>& environment,
-                           const std::string& errorFile)
+ChildProcess::ChildProcess(const std::vector<std::string>& arguments, const Variables& environment,
+                           const std::string& errorFile, const std::string& folder)
     : name_(arguments.front()), errorFile_(errorFile) {
     std::vector<std::string> words = arguments;
     std::vector<std::string> variables = Merge(environment);
@@ -63,12 +64,15 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
     std::signal(SIGPIPE, SIG_IGN);
     pid_ = fork();
     if (pid_ == 0) {
-        // Also when the test itself is killed.
+        // Also when the starting program is killed.
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         std::signal(SIGPIPE, SIG_DFL);
         dup2(input[0], STDIN_FILENO);
         dup2(output[1], STDOUT_FILENO);
         dup2(errors, STDERR_FILENO);
+        if (!folder.empty() && chdir(folder.c_str()) != 0) {
+            _exit(kCannotStart);
+        }
         execve(argv.front(), argv.data(), envp.data());
         _exit(kCannotStart);
     }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "harness/program.h"
+#include "harness/driven_program.h"
 
 #include <cstring>
 #include <poll.h>
@@ -30,13 +30,13 @@ int ListenAt(const std::string& path) {
     return fd;
 }
 
-std::map<std::string, std::string> Environment(const std::string& ports,
-                                               const std::string& socket) {
-    return {{"ZELVARCONFIG_PORTS", ports},
-            {"ZELVARPROBE_SOCKET", socket},
-            {"QT_QPA_PLATFORM", "offscreen"},
-            {"QT_QPA_GENERIC_PLUGINS", "zelvarprobe"},
-            {"QT_PLUGIN_PATH", ZELVARPROBE_PLUGINS}};
+Variables Environment(const std::string& ports, const std::string& socket, Variables variables) {
+    variables.insert({{"ZELVARCONFIG_PORTS", ports},
+                      {"ZELVARPROBE_SOCKET", socket},
+                      {"QT_QPA_PLATFORM", "offscreen"},
+                      {"QT_QPA_GENERIC_PLUGINS", "zelvarprobe"},
+                      {"QT_PLUGIN_PATH", ZELVARPROBE_PLUGINS}});
+    return variables;
 }
 
 }  // namespace
@@ -45,10 +45,11 @@ std::ostream& operator<<(std::ostream& out, const BoxText& box) {
     return out << box.title << " | " << box.icon << " | " << box.text << " | " << box.buttons;
 }
 
-Program::Program(const TempFolder& folder, const std::string& ports, const std::string& name)
+DrivenProgram::DrivenProgram(const TempFolder& folder, const std::string& ports,
+                             const std::string& name, const Variables& variables)
     : listener_(ListenAt(folder.Path(name + ".sock"))),
-      process_({ZELVARCONFIG_PROGRAM}, Environment(ports, folder.Path(name + ".sock")),
-               folder.Path(name + ".err")) {
+      process_({ZELVARCONFIG_PROGRAM}, Environment(ports, folder.Path(name + ".sock"), variables),
+               folder.Path(name + ".err"), folder.Path(".")) {
     pollfd ready{listener_, POLLIN, 0};
     const Instant start = Now();
     // A program that ends at once must not cost the whole limit.
@@ -63,7 +64,7 @@ Program::Program(const TempFolder& folder, const std::string& ports, const std::
     Ask({"boxes"});
 }
 
-Program::~Program() {
+DrivenProgram::~DrivenProgram() {
     if (process_.IsRunning() && channel_.Send("quit")) {
         process_.WaitForExit(kFarewell);
     }
@@ -71,7 +72,7 @@ Program::~Program() {
     close(listener_);
 }
 
-std::vector<std::string> Program::Ask(const std::vector<std::string>& words) {
+std::vector<std::string> DrivenProgram::Ask(const std::vector<std::string>& words) {
     channel_.Send(JoinWords(words));
     const std::optional<std::string> line = channel_.Receive();
     if (!line) {
@@ -85,23 +86,23 @@ std::vector<std::string> Program::Ask(const std::vector<std::string>& words) {
     return answer;
 }
 
-std::string Program::AskOne(const std::vector<std::string>& words) {
+std::string DrivenProgram::AskOne(const std::vector<std::string>& words) {
     const std::vector<std::string> answer = Ask(words);
     return answer.empty() ? std::string() : answer.front();
 }
 
-BoxText Program::Box() {
+BoxText DrivenProgram::Box() {
     const std::vector<std::string> values = Ask({"box"});
     constexpr std::size_t kParts = 4;
     return values.size() == kParts ? BoxText{values[0], values[1], values[2], values[3]}
                                    : BoxText{};
 }
 
-void Program::Choose(const std::string& list, const std::string& entry) {
+void DrivenProgram::Choose(const std::string& list, const std::string& entry) {
     Ask({"choose", list, entry});
 }
 
-void Program::Answer(const std::string& button) {
+void DrivenProgram::Answer(const std::string& button) {
     const BoxText box = Box();
     const std::size_t shown = BoxesShown().size();
     Ask({"answer", button});
@@ -110,7 +111,7 @@ void Program::Answer(const std::string& button) {
     }
 }
 
-BoxText Program::AwaitBox() {
+BoxText DrivenProgram::AwaitBox() {
     BoxText box;
     Until([&] {
         box = Box();
@@ -119,21 +120,19 @@ BoxText Program::AwaitBox() {
     return box;
 }
 
-::testing::AssertionResult Program::Shows(const std::string& control, const std::string& text) {
-    return Says({"text", control}, text);
-}
-
-::testing::AssertionResult Program::Says(const std::vector<std::string>& question,
-                                         const std::string& answer) {
+std::optional<std::string> DrivenProgram::WhyNot(const std::vector<std::string>& question,
+                                                 const std::string& answer, Milliseconds limit) {
     std::string last;
-    if (Until([&] {
-            last = AskOne(question);
-            return last == answer;
-        })) {
-        return ::testing::AssertionSuccess();
+    if (Until(
+            [&] {
+                last = AskOne(question);
+                return last == answer;
+            },
+            limit)) {
+        return std::nullopt;
     }
-    return ::testing::AssertionFailure() << JoinWords(question) << ": expected '" << answer
-                                         << "', still '" << last << "'; " << process_.Describe();
+    return JoinWords(question) + ": expected '" + answer + "', still '" + last + "'; " +
+           process_.Describe();
 }
 
 }  // namespace zelvar::e2e

@@ -16,7 +16,8 @@ namespace zelvar::e2e {
 
 /// Lets a test look at the program it is loaded into and act on it as a user does. It connects to
 /// the local socket that the environment variable ZELVARPROBE_SOCKET names and answers one line
-/// per command, in order: "ok" and values, or "error" and the reason.
+/// per command, in order: "ok" and values, or "error" and the reason. ZELVARPROBE_PALETTE=dark
+/// gives the program the colours of a dark desktop before it makes its first window.
 ///
 /// A command that acts is answered before it acts. What it sets off may show a message box: that
 /// box's event loop serves the commands that follow. While the program waits without an event

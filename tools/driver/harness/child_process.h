@@ -13,15 +13,18 @@
 
 namespace zelvar::e2e {
 
-/// A program started by the test; it does not outlive the test.
+/// Variables of the environment beside those of the starting program; one without a value is taken
+/// away.
+using Variables = std::map<std::string, std::optional<std::string>>;
+
+/// A program started by this one, which it does not outlive.
 class ChildProcess {
   public:
     /// @param arguments the program's path first
-    /// @param environment variables beside those of the test itself
     /// @param errorFile takes what the program writes to its standard error
-    ChildProcess(const std::vector<std::string>& arguments,
-                 const std::map<std::string, std::string>& environment,
-                 const std::string& errorFile);
+    /// @param folder where the program runs; as the starting one does when it is empty
+    ChildProcess(const std::vector<std::string>& arguments, const Variables& environment,
+                 const std::string& errorFile, const std::string& folder = {});
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;

@@ -5,12 +5,15 @@
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QComboBox>
+#include <QFontInfo>
 #include <QMetaEnum>
 #include <QPalette>
 #include <QPixmap>
+#include <QStyle>
 
 #include "box_record.h"
 #include "lookup.h"
+#include "picture.h"
 
 namespace zelvar::e2e {
 
@@ -119,6 +122,19 @@ QStringList Grab(const QStringList& words) {
     return {};
 }
 
+QStringList Picture(const QStringList& words) {
+    SavePicture(words[1], words[2].split(u'+'));
+    return {};
+}
+
+/// What the looks of a picture depend on beside the program.
+QStringList Looks(const QStringList&) {
+    const QFontInfo font{QApplication::font()};
+    return {QStringLiteral("Qt %1, %2 style, %3 %4 pt")
+                .arg(QString::fromLatin1(qVersion()), QApplication::style()->name(), font.family())
+                .arg(font.pointSize())};
+}
+
 struct Query {
     const char* name;
     int arguments;
@@ -131,7 +147,7 @@ constexpr Query kQueries[] = {
     {"items", 1, &Items},       {"value", 1, &Value},     {"colour", 2, &Colour},
     {"geometry", 1, &Geometry}, {"tooltip", 1, &ToolTip}, {"itemtooltip", 2, &ItemToolTip},
     {"window", 1, &Window},     {"title", 1, &Title},     {"box", 0, &Box},
-    {"grab", 2, &Grab},
+    {"grab", 2, &Grab},         {"picture", 2, &Picture}, {"looks", 0, &Looks},
 };
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace zelvar::e2e {
 using Milliseconds = std::chrono::milliseconds;
 using Instant = std::chrono::steady_clock::time_point;
 
-/// How long a test waits for something that must happen: far longer than it ever takes, also
+/// How long to wait for something that must happen: far longer than it ever takes, also
 /// under a sanitizer on a busy machine.
 inline constexpr Milliseconds kLimit{30'000};
 /// Between two looks.
