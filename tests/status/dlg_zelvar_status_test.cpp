@@ -17,6 +17,10 @@ std::string Indexed(const char* name, int index) {
     return std::string(name) + '(' + std::to_string(index) + ')';
 }
 
+int CursorAt(const QLineEdit& field) {
+    return field.inputMethodQuery(Qt::ImCursorRectangle).toRect().left();
+}
+
 class ClassicView : public LinkFixture {
   protected:
     std::string Field(const std::string& name) {
@@ -35,6 +39,22 @@ class ClassicView : public LinkFixture {
     ModuleRegistry registry;
     DlgZelvarStatus view;
 };
+
+TEST_F(ClassicView, CutsNoTextOnASmallScreen) {
+    view.show();
+    view.resize(1, 1);
+    for (const char* name : {"txtVDtype(0)", "txtVDstatus(15)", "txtJSstatus(7)"}) {
+        auto& field = FindBelow<QLineEdit>(view, name);
+        for (const char* text : {"QLRX-s", "Error", "Unknown"}) {
+            field.setText(QString::fromLatin1(text));
+            field.setCursorPosition(0);
+            const int before = CursorAt(field);
+            field.end(false);
+            EXPECT_EQ(CursorAt(field) - before, field.fontMetrics().horizontalAdvance(field.text()))
+                << name << " scrolls " << text;
+        }
+    }
+}
 
 TEST_F(ClassicView, HasItsCaptionAndNames) {
     EXPECT_EQ(view.objectName(), QStringLiteral("dlgZelvarStatus"));
