@@ -1,9 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <stdexcept>
 #include <string>
+#include <sys/file.h>
+#include <unistd.h>
 #include <vector>
 
 #include "comparison.h"
@@ -71,7 +75,20 @@ bool Compare(const Options& options, const std::string& palette, const std::stri
     return complaints.empty();
 }
 
+/// Two tours at once would open devices of one name, and Qt locks a serial port by its name for the
+/// whole computer. @return what holds the others off while it is open
+int WaitForOtherTours() {
+    constexpr mode_t kEverybody = 0666;
+    const std::string file = std::filesystem::temp_directory_path() / "zelvartour.lock";
+    const int lock = open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kEverybody);
+    if (lock < 0 || flock(lock, LOCK_EX) != 0) {
+        throw std::runtime_error("cannot lock " + file);
+    }
+    return lock;
+}
+
 int Run(const Options& options) {
+    const int lock = WaitForOtherTours();
     const std::string folder = std::filesystem::absolute(options.folder);
     std::filesystem::create_directories(folder);
     bool alike = true;
@@ -84,6 +101,7 @@ int Run(const Options& options) {
         std::ofstream(folder + "/" + kLooksFile) << tour.Looks() << '\n';
         alike = (options.compareWith.empty() || Compare(options, palette, tour.Looks())) && alike;
     }
+    close(lock);
     if (!alike) {
         std::cerr << "Look at the pictures; tools/pictures takes them over.\n";
     }

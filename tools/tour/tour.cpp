@@ -14,6 +14,7 @@ namespace {
 
 /// The same in every run: the status bar shows it. The program runs in the folder where it is.
 constexpr char kPort[] = "./unit";
+constexpr char kFont[] = "DejaVu Sans";
 
 std::vector<Step> AllSteps() {
     std::vector<Step> steps;
@@ -37,6 +38,10 @@ void Tour::Start(const std::string& layout, const std::vector<std::string>& opti
     program_.emplace(folder_, kPort, "program" + std::to_string(++starts_),
                      Surroundings(folder_, journey_.palette));
     looks_ = program_->AskOne({"looks"});
+    if (looks_.find(kFont) == std::string::npos) {
+        throw std::runtime_error("the font " + std::string(kFont) +
+                                 " is missing (Debian and Ubuntu: fonts-dejavu-core)");
+    }
 }
 
 void Tour::Connect() {
