@@ -17,8 +17,14 @@ std::string Indexed(const char* name, int index) {
     return std::string(name) + '(' + std::to_string(index) + ')';
 }
 
-int CursorAt(const QLineEdit& field) {
-    return field.inputMethodQuery(Qt::ImCursorRectangle).toRect().left();
+/// Pixels that a text field has for its text.
+int RoomForText(const QLineEdit& field) {
+    constexpr int kPadding = 2;  // on both sides, for the cursor
+    QStyleOptionFrame option;
+    option.initFrom(&field);
+    option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+    return field.style()->subElementRect(QStyle::SE_LineEditContents, &option, &field).width() -
+           2 * kPadding;
 }
 
 class ClassicView : public LinkFixture {
@@ -41,17 +47,14 @@ class ClassicView : public LinkFixture {
 };
 
 TEST_F(ClassicView, CutsNoTextOnASmallScreen) {
-    view.show();
-    view.resize(1, 1);
     for (const char* name : {"txtVDtype(0)", "txtVDstatus(15)", "txtJSstatus(7)"}) {
         auto& field = FindBelow<QLineEdit>(view, name);
+        // What its own minimum leaves: that of its font alone may be narrower than a type.
+        field.resize(field.minimumWidth(), field.height());
         for (const char* text : {"QLRX-s", "Error", "Unknown"}) {
-            field.setText(QString::fromLatin1(text));
-            field.setCursorPosition(0);
-            const int before = CursorAt(field);
-            field.end(false);
-            EXPECT_EQ(CursorAt(field) - before, field.fontMetrics().horizontalAdvance(field.text()))
-                << name << " scrolls " << text;
+            EXPECT_GE(RoomForText(field),
+                      field.fontMetrics().horizontalAdvance(QString::fromLatin1(text)))
+                << name << " cuts " << text;
         }
     }
 }

@@ -42,12 +42,14 @@ TEST_F(Comparison, APictureIsAlikeItself) {
 }
 
 TEST_F(Comparison, EdgesMayBeSmoothedOtherwise) {
+    constexpr double kLighter = 1.1;
     QImage other = Caption("Reset Fault");
     for (int y = 0; y < other.height(); ++y) {
         for (int x = 0; x < other.width(); ++x) {
             const QColor colour = other.pixelColor(x, y);
-            // Every shade between the ink and the paper becomes a fifth lighter.
-            other.setPixelColor(x, y, QColor::fromHsv(0, 0, qMin(255, colour.value() * 6 / 5)));
+            // Every shade between the ink and the paper becomes a tenth lighter.
+            other.setPixelColor(
+                x, y, QColor::fromHsv(0, 0, qMin(255, qRound(colour.value() * kLighter))));
         }
     }
     EXPECT_EQ(Difference(Caption("Reset Fault"), other), std::nullopt);
@@ -56,6 +58,7 @@ TEST_F(Comparison, EdgesMayBeSmoothedOtherwise) {
 TEST_F(Comparison, AnotherLetterIsADifference) {
     EXPECT_TRUE(Difference(Caption("Reset Fault"), Caption("Reset Faulk")));
     EXPECT_TRUE(Difference(Caption("Get HFI"), Caption("Set HFI")));
+    EXPECT_TRUE(Difference(Caption("Unlink Up"), Caption("Unlink Ub")));
 }
 
 TEST_F(Comparison, AMissingWordIsADifference) {
