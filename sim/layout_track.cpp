@@ -227,7 +227,7 @@ void TrackReader::ReadAddress(TableReader& reader, Train& train) {
                 .value_or(0);
     }
     // Above this number there is no short address.
-    train.longAddress = train.address > kHighestShortAddress;
+    train.longAddress = train.control == TrainControl::kDcc && train.address > kHighestShortAddress;
     const std::optional<bool> isLong = reader.Truth("long-address", Need::kOptional);
     if (!isLong) {
         return;
