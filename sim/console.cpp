@@ -80,7 +80,8 @@ ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line) {
     }
     const ConsoleArguments arguments = ConsoleArguments(words).subspan(1);
     for (const auto table :
-         {LayoutConsoleCommands(), FaultConsoleCommands(), ProgramConsoleCommands()}) {
+         {LayoutConsoleCommands(), RailwayConsoleCommands(), FaultConsoleCommands(),
+          ProgramConsoleCommands()}) {
         for (const ConsoleCommand& command : table) {
             if (command.name != words.front()) {
                 continue;

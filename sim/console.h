@@ -48,6 +48,8 @@ inline constexpr std::size_t kAnyNumberOfArguments = std::numeric_limits<std::si
 
 /// Reports and states: `overcurrent`, `speed`, `feedback`, `fault` and the like.
 std::span<const ConsoleCommand> LayoutConsoleCommands();
+/// The trains, their points and their time: `place` and the like.
+std::span<const ConsoleCommand> RailwayConsoleCommands();
 /// Misbehaviour: `silent`, `late`, `stray` and the like.
 std::span<const ConsoleCommand> FaultConsoleCommands();
 /// The program itself: `trace`, `state`, `hang-up`, `quit` and the like.

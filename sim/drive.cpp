@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "drive.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -29,6 +30,15 @@ void Drive::Advance(std::chrono::nanoseconds now, ReportQueue& reports) {
     }
 }
 
+bool Drive::Settled() const {
+    return std::all_of(
+               blocks_.begin(), blocks_.end(),
+               [](const Block& block) { return block.speed.speed() == block.speed.target(); }) &&
+           std::all_of(mcc_.begin(), mcc_.end(), [](const auto& entry) {
+               return entry.second.halfSteps.speed() == entry.second.halfSteps.target();
+           });
+}
+
 void Drive::Restart() {
     blocks_ = {};
     links_.clear();
@@ -54,6 +64,7 @@ void Drive::ClearBlock(int block) {
             locomotive.speed = 0;
             locomotive.forward = true;
             locomotive.functions.reset();
+            locomotive.cleared = true;
         }
     }
 }

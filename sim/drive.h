@@ -46,6 +46,7 @@ struct DccLocomotive {
     bool emergencyStop = false;
     int block = 0;
     std::bitset<kDccFunctions> functions;  // 0 is the light
+    bool cleared = false;                  // stopped with its block, until its next speed
 };
 
 struct MccLocomotive {
@@ -74,6 +75,8 @@ class Drive {
     /// Lets time pass up to `now`. Each block whose speed changed, also by a command since the last
     /// call, is reported.
     void Advance(std::chrono::nanoseconds now, ReportQueue& reports);
+    /// Whether no speed is on its way to another one.
+    bool Settled() const;
     /// The unit starts afresh: everything stands, nothing is linked, nothing is reported.
     void Restart();
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "options.h"
 
+#include <limits>
+
 #include "console.h"
 
 namespace zelvar::sim {
@@ -53,6 +55,18 @@ bool TakeUnitDelay(Options& options, std::string_view value) {
     return delay.has_value();
 }
 
+bool TakeTimeFactor(Options& options, std::string_view value) {
+    const std::optional<int> factor = ParseNumber(value, 0, kMostTimeFactor);
+    options.timeFactor = factor.value_or(kUsualTimeFactor);
+    return factor.has_value();
+}
+
+bool TakeSeed(Options& options, std::string_view value) {
+    const std::optional<int> seed = ParseNumber(value, 0, std::numeric_limits<int>::max());
+    options.seed = seed.value_or(0);
+    return seed.has_value();
+}
+
 bool TakeHelp(Options& options, std::string_view) {
     options.help = true;
     return true;
@@ -70,10 +84,16 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {"--link", true, &TakeLink},           {"--device", true, &TakeDevice},
-    {"--no-pacing", false, &TakeNoPacing}, {"--baud", true, &TakeBaud},
-    {"--layout", true, &TakeLayout},       {"--unit-delay", true, &TakeUnitDelay},
-    {"--help", false, &TakeHelp},          {"--version", false, &TakeVersion},
+    {"--link", true, &TakeLink},
+    {"--device", true, &TakeDevice},
+    {"--no-pacing", false, &TakeNoPacing},
+    {"--baud", true, &TakeBaud},
+    {"--layout", true, &TakeLayout},
+    {"--unit-delay", true, &TakeUnitDelay},
+    {"--time-factor", true, &TakeTimeFactor},
+    {"--seed", true, &TakeSeed},
+    {"--help", false, &TakeHelp},
+    {"--version", false, &TakeVersion},
 };
 
 const Option* FindOption(std::string_view name) {
@@ -123,6 +143,8 @@ A simulated central unit with its layout, behind a pseudo-terminal or a serial d
   --no-pacing                 bytes take no time on the pseudo-terminal
   --layout default|kbf|none   the modules and the central unit
   --unit-delay MS             between a command and its reply; 1 by default
+  --time-factor N             trains run N times as fast, 0..100; 1 by default
+  --seed N                    engines differ a little, otherwise for each N; 0 (default): not at all
   --help, --version
 
 Prints "ready PATH" when it can be opened; then takes commands on its standard input ("help").

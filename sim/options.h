@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "layout.h"
+#include "simulated_clock.h"
 
 namespace zelvar::sim {
 
@@ -20,6 +21,8 @@ struct Options {
     int baud = 19200;
     Layout layout = DefaultLayout();
     std::chrono::milliseconds unitDelay{1};
+    int timeFactor = kUsualTimeFactor;
+    int seed = 0;
     bool help = false;
     bool version = false;
 };

@@ -68,7 +68,9 @@ void PrintTrace(bool sent, std::span<const std::uint8_t> bytes) {
 }  // namespace
 
 Server::Server(const Options& options)
-    : options_(options), unit_(options.layout), engine_(unit_, faults_, options.unitDelay) {}
+    : options_(options),
+      unit_(options.layout, options.timeFactor, static_cast<std::uint32_t>(options.seed)),
+      engine_(unit_, faults_, options.unitDelay) {}
 
 bool Server::OpenLine() {
     const std::optional<std::string> error =

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <cmath>
+
+#include "console.h"
+#include "railway_unit.h"
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr int kMostPoint = 511;
+
+ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
+    UnitState& state = context.unit.state();
+    const std::optional<std::size_t> train = state.railway.FindTrain(arguments[0]);
+    if (!train) {
+        return Error("unknown train " + arguments[0]);
+    }
+    const std::optional<std::size_t> section = state.railway.FindSection(arguments[1]);
+    if (!section) {
+        return Error("unknown section " + arguments[1]);
+    }
+    const double length = state.railway.plan().sections[*section].length;
+    // In the middle, or with its nose at the end when it is longer than the section.
+    const double trainLength = state.railway.trains()[*train].described.length;
+    double position = std::min(length, (length + trainLength) / 2);
+    if (arguments.size() > 2) {
+        const int most = static_cast<int>(std::floor(length));
+        const std::optional<int> given = ParseNumber(arguments[2], 0, most);
+        if (!given) {
+            return RangeError("CM", 0, most);
+        }
+        position = *given;
+    }
+    context.unit.Advance(context.now);
+    state.railway.Place(*train, *section, position, state.accessories.points);
+    context.unit.Advance(context.now);
+    return Ok();
+}
+
+ConsoleResult Point(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> device = ParseNumber(arguments[0], 0, kMostPoint);
+    const bool thrown = arguments[1] == "thrown";
+    if (!device) {
+        return RangeError("D", 0, kMostPoint);
+    }
+    if (!thrown && arguments[1] != "straight") {
+        return Error("straight or thrown expected");
+    }
+    context.unit.Advance(context.now);
+    context.unit.state().accessories.points[*device] = thrown;
+    return Ok();
+}
+
+ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> factor = ParseNumber(arguments[0], 0, kMostTimeFactor);
+    if (!factor) {
+        return RangeError("N", 0, kMostTimeFactor);
+    }
+    context.unit.SetTimeFactor(*factor, context.now);
+    return Ok();
+}
+
+constexpr ConsoleCommand kCommands[] = {
+    {"place", "TRAIN SECTION [CM]", 2, 3, &Place},
+    {"point", "D straight|thrown", 2, 2, &Point},
+    {"time-factor", "N", 1, 1, &TimeFactor},
+};
+
+}  // namespace
+
+std::span<const ConsoleCommand> RailwayConsoleCommands() {
+    return kCommands;
+}
+
+}  // namespace zelvar::sim
