@@ -79,9 +79,8 @@ ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line) {
         return {};
     }
     const ConsoleArguments arguments = ConsoleArguments(words).subspan(1);
-    for (const auto table :
-         {LayoutConsoleCommands(), RailwayConsoleCommands(), FaultConsoleCommands(),
-          ProgramConsoleCommands()}) {
+    for (const auto table : {LayoutConsoleCommands(), RailwayConsoleCommands(),
+                             FaultConsoleCommands(), ProgramConsoleCommands()}) {
         for (const ConsoleCommand& command : table) {
             if (command.name != words.front()) {
                 continue;
@@ -90,6 +89,8 @@ ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line) {
                 arguments.size() > command.mostArguments) {
                 return Error(std::string("usage: ").append(CommandForm(command)));
             }
+            // What it changes holds from now on, not since somebody last looked.
+            context.unit.Advance(context.now);
             return command.run(context, arguments);
         }
     }

@@ -38,9 +38,8 @@ ConsoleResult Quit(ConsoleContext&, ConsoleArguments) {
 
 ConsoleResult Help(ConsoleContext&, ConsoleArguments) {
     std::string text;
-    for (const auto table :
-         {LayoutConsoleCommands(), RailwayConsoleCommands(), FaultConsoleCommands(),
-          ProgramConsoleCommands()}) {
+    for (const auto table : {LayoutConsoleCommands(), RailwayConsoleCommands(),
+                             FaultConsoleCommands(), ProgramConsoleCommands()}) {
         for (const ConsoleCommand& command : table) {
             text.append(CommandForm(command)).append("\n");
         }

@@ -34,7 +34,6 @@ ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
         }
         position = *given;
     }
-    context.unit.Advance(context.now);
     state.railway.Place(*train, *section, position, state.accessories.points);
     context.unit.Advance(context.now);
     return Ok();
@@ -49,7 +48,6 @@ ConsoleResult Point(ConsoleContext& context, ConsoleArguments arguments) {
     if (!thrown && arguments[1] != "straight") {
         return Error("straight or thrown expected");
     }
-    context.unit.Advance(context.now);
     context.unit.state().accessories.points[*device] = thrown;
     return Ok();
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <algorithm>
 #include <chrono>
 #include <optional>
 
@@ -22,8 +21,11 @@ class SimulatedClock {
         if (!asked_) {
             asked_ = now;
         }
-        const auto passed = std::max(now - *asked_, std::chrono::nanoseconds(0));
-        return simulated_ + passed * factor_;
+        if (now > *asked_) {
+            simulated_ += (now - *asked_) * factor_;
+            asked_ = now;
+        }
+        return simulated_;
     }
     /// Goes on from `simulated` at `now`, with the factor 0 to `kMostTimeFactor`.
     void GoOn(std::chrono::nanoseconds now, std::chrono::nanoseconds simulated, int factor) {
