@@ -137,10 +137,9 @@ void Railway::Step(const Drive& drive, const PointPositions& points) {
     for (RunningTrain& train : trains_) {
         const Footing nose = train.path.sections().front();
         const Footing tail = train.path.sections().back();
-        const std::size_t sections = train.path.sections().size();
         Run(train, drive, points);
-        elsewhere = elsewhere || train.path.sections().size() != sections ||
-                    train.path.sections().front() != nose || train.path.sections().back() != tail;
+        elsewhere = elsewhere || train.path.sections().front() != nose ||
+                    train.path.sections().back() != tail;
     }
     if (elsewhere) {
         Observe();

@@ -70,8 +70,8 @@ double TrainPath::Move(const TrackPlan& plan, double distance, const PointPositi
     double moved = distance;
     if (distance < 0) {
         // What the tail cannot go, the nose cannot either.
-        const double gap = std::max(TailGap(plan), 0.0);
-        moved = std::min(distance + ExtendTail(plan, -distance - gap, points), 0.0);
+        const double heldUp = ExtendTail(plan, -distance - TailGap(plan), points);
+        moved = std::min(distance + heldUp, 0.0);
         nose_ += moved;
         while (nose_ <= 0 && sections_.size() > 1) {
             sections_.pop_front();

@@ -289,6 +289,27 @@ TEST_F(Detectors, OnlyTheLatestStateWaitsForAPoll) {
                                              FeedbackReport(15, false)}));
 }
 
+TEST_F(Detectors, ThatWereSetByHandHoldUntilATrainChangesThem) {
+    Build({AnalogTrain("red", kWest, 90)});
+    unit_.state().feedback.reset(11);
+    DriveLoop(10);
+    Wait(milliseconds(500));
+    EXPECT_EQ(Listed("feedback"), "");
+    Wait(milliseconds(3000));
+    EXPECT_EQ(TrackReports(), (std::vector<Payload>{FeedbackReport(12, true)}))
+        << "the other one tells nothing new when it is left";
+}
+
+TEST(RailwayChanges, AreNoneAtTheStart) {
+    Railway railway(LayoutWith({AnalogTrain("red", kWest)}).track);
+    EXPECT_TRUE(railway.detected().test(11));
+    EXPECT_TRUE(railway.TakeChanges().inputs.empty());
+    railway.Place(0, kEast, 50, {});
+    EXPECT_EQ(railway.TakeChanges().inputs,
+              (std::vector<std::pair<int, bool>>{{11, false}, {15, true}}));
+    EXPECT_TRUE(railway.TakeChanges().inputs.empty());
+}
+
 TEST_F(Detectors, OneForTwoSectionsIsActiveInEither) {
     TrackPlan plan = LoopPlan();
     plan.sections[kNorth].feedback = 11;

@@ -49,15 +49,17 @@ TEST_F(EmergencyStop, StandsAnMccTrainAtOnce) {
 }
 
 TEST_F(EmergencyStop, ClearingABlockStandsItsDccTrainAtOnce) {
-    Build({DccTrain("blue", 3, kWest, 20)});
-    Ask({40, 1, 64 + 32 + 28, 3});
-    Wait(seconds(1));
-    Ask({62, 1, 18});
-    Wait(kOneStep);
-    EXPECT_EQ(Speed("blue"), "0.0 forward");
-    Ask({40, 1, 64 + 32 + 28, 3});
-    Wait(seconds(1));
-    EXPECT_EQ(Speed("blue"), "20.0 forward") << "until its next speed only";
+    for (const Payload& full : {Payload{40, 1, 64 + 32 + 28, 3}, Payload{44, 1, 1, 126, 3}}) {
+        Build({DccTrain("blue", 3, kWest, 20)});
+        Ask(full);
+        Wait(seconds(1));
+        Ask({62, 1, 18});
+        Wait(kOneStep);
+        EXPECT_EQ(Speed("blue"), "0.0 forward");
+        Ask(full);
+        Wait(seconds(1));
+        EXPECT_EQ(Speed("blue"), "20.0 forward") << "until its next speed only";
+    }
 }
 
 class Power : public RailwayFixture {
@@ -150,6 +152,7 @@ TEST_F(Power, HoldIsToldOnly) {
 TEST_F(Power, AfterARebootEverythingStandsWhereItIs) {
     BuildRunning();
     unit_.Reboot(now_);
+    ExpectSpeeds("0.0", "0.0", "0.0");
     const std::string where = Where("red");
     Wait(seconds(5));
     ExpectSpeeds("0.0", "0.0", "0.0");
