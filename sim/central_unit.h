@@ -7,7 +7,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "state_table.h"
 #include "unit_state.h"
 #include "wire.h"
 
@@ -46,6 +48,8 @@ class CentralUnit {
 
     /// Several lines "name=value", each ended by a line feed.
     std::string Describe(Time now);
+    /// The same for people, without what is not there.
+    std::vector<TableSection> Sections(Time now);
 
     UnitState& state() { return state_; }
 

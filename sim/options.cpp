@@ -53,6 +53,16 @@ bool TakeUnitDelay(Options& options, std::string_view value) {
     return delay.has_value();
 }
 
+bool TakeTrace(Options& options, std::string_view) {
+    options.trace = true;
+    return true;
+}
+
+bool TakeExplain(Options& options, std::string_view value) {
+    options.explain = value;
+    return !value.empty();
+}
+
 bool TakeHelp(Options& options, std::string_view) {
     options.help = true;
     return true;
@@ -73,6 +83,7 @@ constexpr Option kOptions[] = {
     {"--link", true, &TakeLink},           {"--device", true, &TakeDevice},
     {"--no-pacing", false, &TakeNoPacing}, {"--baud", true, &TakeBaud},
     {"--layout", true, &TakeLayout},       {"--unit-delay", true, &TakeUnitDelay},
+    {"--trace", false, &TakeTrace},        {"--explain", true, &TakeExplain},
     {"--help", false, &TakeHelp},          {"--version", false, &TakeVersion},
 };
 
@@ -123,6 +134,9 @@ A simulated central unit with its layout, behind a pseudo-terminal or a serial d
   --no-pacing                 bytes take no time on the pseudo-terminal
   --layout default|kbf|none   the modules and the central unit
   --unit-delay MS             between a command and its reply; 1 by default
+  --trace                     print every frame with its time, its bytes and its meaning
+  --explain FILE              tell what the lines of a message log or a trace mean, and end;
+                              "-": of standard input
   --help, --version
 
 Prints "ready PATH" when it can be opened; then takes commands on its standard input ("help").

@@ -20,6 +20,8 @@ struct Options {
     int baud = 19200;
     Layout layout = DefaultLayout();
     std::chrono::milliseconds unitDelay{1};
+    bool trace = false;
+    std::string explain;  // a log to explain instead of serving; "-": standard input
     bool help = false;
     bool version = false;
 };
