@@ -101,4 +101,31 @@ std::string CentralUnit::Describe(Time now) {
     return out.str();
 }
 
+std::vector<TableSection> CentralUnit::Sections(Time now) {
+    Advance(now);
+    std::vector<TableSection> sections = StateSections(state_);
+    if (!state_.railway.trains().empty()) {
+        sections.push_back(
+            {"Simulated time",
+             {},
+             {{"passed", std::to_string(state_.now / std::chrono::seconds(1)) + " s"},
+              {"factor", std::to_string(clock_.factor())}}});
+    }
+    TableSection frames{"Frames", {}, {{"received", std::to_string(frames_)}}};
+    const auto mention = [&](const char* what, std::uint64_t count) {
+        if (count > 0) {
+            frames.rows.push_back({what, std::to_string(count)});
+        }
+    };
+    mention("broken", brokenFrames_);
+    mention("passed through", passedThrough_);
+    mention("unknown commands", unknownCommands_);
+    mention("repeated toggles", repeatedToggles_);
+    for (const auto& [name, times] : carriedOut_) {
+        frames.rows.push_back({std::string(name), std::to_string(times)});
+    }
+    sections.push_back(frames);
+    return sections;
+}
+
 }  // namespace zelvar::sim

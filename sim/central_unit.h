@@ -7,8 +7,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "simulated_clock.h"
+#include "state_table.h"
 #include "unit_state.h"
 #include "wire.h"
 
@@ -53,6 +55,8 @@ class CentralUnit {
 
     /// Several lines "name=value", each ended by a line feed.
     std::string Describe(Time now);
+    /// The same for people, without what is not there.
+    std::vector<TableSection> Sections(Time now);
 
     UnitState& state() { return state_; }
 

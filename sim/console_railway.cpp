@@ -62,9 +62,12 @@ ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"place", "TRAIN SECTION [CM]", 2, 3, &Place},
-    {"point", "D straight|thrown", 2, 2, &Point},
-    {"time-factor", "N", 1, 1, &TimeFactor},
+    {"place", "TRAIN SECTION [CM]", 2, 3, &Place,
+     "Puts TRAIN into SECTION, standing, its nose CM from the section's back or in the middle.",
+     "place red platform-1 40"},
+    {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 4 thrown"},
+    {"time-factor", "N", 1, 1, &TimeFactor,
+     "Lets N simulated seconds (0..100) pass in each second.", "time-factor 5"},
 };
 
 }  // namespace

@@ -16,6 +16,12 @@ constexpr int kHalvesPerStep = 2;
 
 }  // namespace
 
+int MccHalfSteps(int code) {
+    const bool even = (code & kMccEvenBit) != 0;
+    const int full = code & kMccFullMask;
+    return full == 0 ? 0 : kHalvesPerStep * full - (even ? 0 : 1);
+}
+
 void Drive::Advance(std::chrono::nanoseconds now, ReportQueue& reports) {
     now_ = now;
     for (int number = 0; number < kBlocks; ++number) {
@@ -100,10 +106,7 @@ void Drive::Unlink(int block, bool up, bool clearOthers) {
 void Drive::SetMccSpeed(int decoder, int code, int acceleration) {
     MccLocomotive& locomotive = mcc_[decoder];
     locomotive.emergencyStop = code == 0;
-    const bool even = (code & kMccEvenBit) != 0;
-    const int full = code & kMccFullMask;
-    const int halfSteps = full == 0 ? 0 : kHalvesPerStep * full - (even ? 0 : 1);
-    locomotive.halfSteps.Set(halfSteps, now_, acceleration * kMccHalfStep);
+    locomotive.halfSteps.Set(MccHalfSteps(code), now_, acceleration * kMccHalfStep);
 }
 
 std::map<int, bool> Drive::Together(int block) const {

@@ -55,6 +55,9 @@ struct MccLocomotive {
     int functions = 0;  // eight bits
 };
 
+/// The half steps 0..30 that a speed code of an MCC command means; code 0, the emergency stop, too.
+int MccHalfSteps(int code);
+
 /// What an output module was told for one of its outputs.
 struct OutputSetting {
     int instruction = 0;

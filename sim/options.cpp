@@ -67,6 +67,16 @@ bool TakeSeed(Options& options, std::string_view value) {
     return seed.has_value();
 }
 
+bool TakeTrace(Options& options, std::string_view) {
+    options.trace = true;
+    return true;
+}
+
+bool TakeExplain(Options& options, std::string_view value) {
+    options.explain = value;
+    return !value.empty();
+}
+
 bool TakeHelp(Options& options, std::string_view) {
     options.help = true;
     return true;
@@ -92,6 +102,8 @@ constexpr Option kOptions[] = {
     {"--unit-delay", true, &TakeUnitDelay},
     {"--time-factor", true, &TakeTimeFactor},
     {"--seed", true, &TakeSeed},
+    {"--trace", false, &TakeTrace},
+    {"--explain", true, &TakeExplain},
     {"--help", false, &TakeHelp},
     {"--version", false, &TakeVersion},
 };
@@ -145,6 +157,9 @@ A simulated central unit with its layout, behind a pseudo-terminal or a serial d
   --unit-delay MS             between a command and its reply; 1 by default
   --time-factor N             trains run N times as fast, 0..100; 1 by default
   --seed N                    engines differ a little, otherwise for each N; 0 (default): not at all
+  --trace                     print every frame with its time, its bytes and its meaning
+  --explain FILE              tell what the lines of a message log or a trace mean, and end;
+                              "-": of standard input
   --help, --version
 
 Prints "ready PATH" when it can be opened; then takes commands on its standard input ("help").

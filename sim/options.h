@@ -23,6 +23,8 @@ struct Options {
     std::chrono::milliseconds unitDelay{1};
     int timeFactor = kUsualTimeFactor;
     int seed = 0;
+    bool trace = false;
+    std::string explain;  // a log to explain instead of serving; "-": standard input
     bool help = false;
     bool version = false;
 };

@@ -104,10 +104,32 @@ TEST_F(RailwayConsole, TimeFactorHoldsFromThereOn) {
     EXPECT_EQ(Where("red"), "west 90.0");
 }
 
+TEST_F(RailwayConsole, StateShowsTrainsAndTrackAsTables) {
+    Build({DccTrain("blue", 1000, kEast, 10), MccTrain("bus", 5, kStub)});
+    Ask({6, 0, 5, 31, 0});
+    Wait(seconds(2));
+    const std::string text = Answer("state");
+    EXPECT_NE(text.find("Trains\n"
+                        "  train  control   section  nose at  speed      direction  block\n"
+                        "  blue   DCC 1000  east     10.0 cm  0.0 cm/s   forward    5\n"
+                        "  bus    MCC 5     stub     80.0 cm  0.0 cm/s   forward    9\n"),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find("Track\n"
+                        "  section  block  length    detector  trains\n"
+                        "  west     1      100.0 cm  11\n"
+                        "  north    2      100.0 cm  12        blue\n"),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find("Simulated time\n  passed  2 s\n  factor  1\n"), std::string::npos) << text;
+}
+
 TEST_F(RailwayConsole, AnEmptyTableListsNoTrains) {
     unit_ = CentralUnit(EmptyLayout());
     EXPECT_EQ(unit_.Describe(now_).find("train."), std::string::npos);
     EXPECT_EQ(unit_.Describe(now_).find("section."), std::string::npos);
+    EXPECT_EQ(Answer("state").find("Trains"), std::string::npos);
+    EXPECT_EQ(Answer("state").find("Simulated time"), std::string::npos);
     EXPECT_EQ(Answer("place red west"), "error unknown train red");
 }
 
