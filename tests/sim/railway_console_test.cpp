@@ -110,9 +110,9 @@ TEST_F(RailwayConsole, StateShowsTrainsAndTrackAsTables) {
     Wait(seconds(2));
     const std::string text = Answer("state");
     EXPECT_NE(text.find("Trains\n"
-                        "  train  control   section  nose at  speed      direction  block\n"
-                        "  blue   DCC 1000  east     10.0 cm  0.0 cm/s   forward    5\n"
-                        "  bus    MCC 5     stub     80.0 cm  0.0 cm/s   forward    9\n"),
+                        "  train  control   section  nose at  speed     direction  block\n"
+                        "  blue   DCC 1000  east     10.0 cm  0.0 cm/s  forward    5\n"
+                        "  bus    MCC 5     stub     80.0 cm  0.0 cm/s  forward    9\n"),
               std::string::npos)
         << text;
     EXPECT_NE(text.find("Track\n"
