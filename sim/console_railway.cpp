@@ -12,23 +12,49 @@ namespace {
 
 constexpr int kMostPoint = 511;
 
+/// Takes a name off the front of the arguments; names can have blanks, and the longest one counts.
+template <typename Find>
+std::optional<std::size_t> TakeName(ConsoleArguments& arguments, Find find) {
+    std::optional<std::size_t> found;
+    std::size_t taken = 0;
+    std::string name;
+    for (std::size_t count = 1; count <= arguments.size(); ++count) {
+        name.append(count == 1 ? "" : " ").append(arguments[count - 1]);
+        if (const std::optional<std::size_t> index = find(name)) {
+            found = index;
+            taken = count;
+        }
+    }
+    arguments = arguments.subspan(taken);
+    return found;
+}
+
 ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
     UnitState& state = context.unit.state();
-    const std::optional<std::size_t> train = state.railway.FindTrain(arguments[0]);
+    const Railway& railway = state.railway;
+    const auto train =
+        TakeName(arguments, [&](const std::string& name) { return railway.FindTrain(name); });
     if (!train) {
         return Error("unknown train " + arguments[0]);
     }
-    const std::optional<std::size_t> section = state.railway.FindSection(arguments[1]);
+    if (arguments.empty()) {
+        return Error("a section expected");
+    }
+    const auto section =
+        TakeName(arguments, [&](const std::string& name) { return railway.FindSection(name); });
     if (!section) {
-        return Error("unknown section " + arguments[1]);
+        return Error("unknown section " + arguments[0]);
+    }
+    if (arguments.size() > 1) {
+        return Error("one number expected behind the section");
     }
     const double length = state.railway.plan().sections[*section].length;
     // In the middle, or with its nose at the end when it is longer than the section.
     const double trainLength = state.railway.trains()[*train].described.length;
     double position = std::min(length, (length + trainLength) / 2);
-    if (arguments.size() > 2) {
+    if (!arguments.empty()) {
         const int most = static_cast<int>(std::floor(length));
-        const std::optional<int> given = ParseNumber(arguments[2], 0, most);
+        const std::optional<int> given = ParseNumber(arguments[0], 0, most);
         if (!given) {
             return RangeError("CM", 0, most);
         }
@@ -62,7 +88,7 @@ ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"place", "TRAIN SECTION [CM]", 2, 3, &Place,
+    {"place", "TRAIN SECTION [CM]", 2, kAnyNumberOfArguments, &Place,
      "Puts TRAIN into SECTION, standing, its nose CM from the section's back or in the middle.",
      "place red platform-1 40"},
     {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 4 thrown"},

@@ -40,6 +40,9 @@ INSTANTIATE_TEST_SUITE_P(
                     LineCase{"PlaceBefore", "place red siding -1", "error CM must be 0..60"},
                     LineCase{"NoTrain", "place green siding", "error unknown train green"},
                     LineCase{"NoSection", "place red moon", "error unknown section moon"},
+                    LineCase{"PlaceTwoNumbers", "place red siding 5 6",
+                             "error one number expected behind the section"},
+                    LineCase{"PlaceText", "place red siding far", "error CM must be 0..60"},
                     LineCase{"PlaceUsage", "place red", "error usage: place TRAIN SECTION [CM]"},
                     LineCase{"Point", "point 511 thrown", "ok"},
                     LineCase{"PointTooHigh", "point 512 thrown", "error D must be 0..511"},
@@ -56,6 +59,18 @@ TEST_F(RailwayConsole, PlacePutsATrainIntoTheMiddleAndStandsIt) {
     Answer("place red east");
     EXPECT_EQ(Where("red"), "east 60.0") << "with as much track in front as behind";
     EXPECT_EQ(Part("train.red", "speed"), "0.0");
+}
+
+TEST_F(RailwayConsole, PlaceTakesNamesWithBlanks) {
+    TrackPlan plan = LoopPlan();
+    plan.sections[kSiding].name = "west 2";
+    Build({AnalogTrain("red", kNorth), AnalogTrain("red express", kEast)}, plan);
+    EXPECT_EQ(Answer("place red express west 2 25"), "ok");
+    EXPECT_EQ(Where("red express"), "west 2 25.0");
+    EXPECT_EQ(Answer("place red express west 25"), "ok");
+    EXPECT_EQ(Where("red express"), "west 25.0");
+    EXPECT_EQ(Where("red"), "north 50.0");
+    EXPECT_EQ(Answer("place red express"), "error a section expected");
 }
 
 TEST_F(RailwayConsole, PlaceTripsTheDetectors) {
