@@ -4,9 +4,11 @@
 #include <iostream>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "explain.h"
+#include "layout_choice.h"
 #include "options.h"
 #include "server.h"
 
@@ -39,12 +41,12 @@ int Explain(const std::string& path) {
 
 int main(int argc, char** argv) {
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-    const auto parsed = zelvar::sim::ParseOptions(arguments);
+    auto parsed = zelvar::sim::ParseOptions(arguments);
     if (const auto* message = std::get_if<std::string>(&parsed)) {
         std::cerr << "zelvarsim: " << *message << '\n' << zelvar::sim::UsageText();
         return kWrongUsage;
     }
-    const auto& options = std::get<zelvar::sim::Options>(parsed);
+    auto& options = std::get<zelvar::sim::Options>(parsed);
     if (options.help) {
         std::cout << zelvar::sim::UsageText();
         return 0;
@@ -56,5 +58,16 @@ int main(int argc, char** argv) {
     if (!options.explain.empty()) {
         return Explain(options.explain);
     }
+    const auto folder = zelvar::sim::LayoutFolder(argv[0]);
+    if (options.listLayouts) {
+        std::cout << zelvar::sim::ListLayouts(folder);
+        return 0;
+    }
+    auto layout = zelvar::sim::ChooseLayout(options.layoutName, folder);
+    if (const auto* message = std::get_if<std::string>(&layout)) {
+        std::cerr << *message << '\n';
+        return kWrongUsage;
+    }
+    options.layout = std::get<zelvar::sim::Layout>(layout);
     return zelvar::sim::Server(options).Run();
 }

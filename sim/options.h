@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "layout.h"
 #include "simulated_clock.h"
@@ -19,12 +20,14 @@ struct Options {
     std::string device;  // empty: a pseudo-terminal of its own
     bool pacing = true;
     int baud = 19200;
-    Layout layout = DefaultLayout();
+    std::string layoutName = "club";
+    Layout layout;  // what the name stands for; reading it is not left to ParseOptions
     std::chrono::milliseconds unitDelay{1};
     int timeFactor = kUsualTimeFactor;
     int seed = 0;
     bool trace = false;
     std::string explain;  // a log to explain instead of serving; "-": standard input
+    bool listLayouts = false;
     bool help = false;
     bool version = false;
 };
@@ -33,6 +36,9 @@ struct Options {
 std::variant<Options, std::string> ParseOptions(std::span<const std::string_view> arguments);
 
 /// The text of `--help`.
-std::string_view UsageText();
+std::string UsageText();
+
+/// "--link" and all the others.
+std::vector<std::string> OptionNames();
 
 }  // namespace zelvar::sim

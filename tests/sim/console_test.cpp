@@ -235,7 +235,7 @@ TEST_F(ConsoleTest, HelpTellsOfEveryCommandInAlignedColumnsAndEndsWithOk) {
 }
 
 TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRight) {
-    Layout layout = DefaultLayout();
+    Layout layout = MixedLayout();
     layout.track.sections.push_back({"platform-1", 1, 100, {}, {}, {}});
     layout.track.trains.push_back({"red", TrainControl::kAnalog, 0, false, 0, 50, 20, 30, 0});
     unit_ = CentralUnit(layout);

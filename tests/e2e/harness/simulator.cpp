@@ -23,7 +23,9 @@ std::string TracedFrame(const std::string& line) {
 
 std::vector<std::string> CommandLine(const std::string& device,
                                      const std::vector<std::string>& options) {
-    std::vector<std::string> words{ZELVARSIM_PROGRAM, "--link", device, "--no-pacing"};
+    std::vector<std::string> words{
+        ZELVARSIM_PROGRAM, "--link",   device,
+        "--no-pacing",     "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"};
     words.insert(words.end(), options.begin(), options.end());
     return words;
 }
