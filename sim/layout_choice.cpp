@@ -57,7 +57,7 @@ std::variant<Layout, std::string> ChooseLayout(const std::string& name, const fs
         if (std::find(known.begin(), known.end(), name) == known.end()) {
             known.emplace_back(kEmpty);
             known.emplace_back("the path of a .toml file");
-            return "--layout: " + Joined(known, "or") + " expected, found \"" + name +
+            return "--layout: " + JoinedWith(known, "or") + " expected, found \"" + name +
                    "\" (the shipped ones are looked for in " + folder.string() + ")";
         }
         path = PathOf(name, folder).string();

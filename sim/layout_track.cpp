@@ -173,7 +173,7 @@ void TrackReader::DerivePrevious(std::size_t index) {
     if (before.size() > 1) {
         Problem(described_[index].line, "section " + Quoted(plan.sections[index].name) +
                                             ": previous and previous-point expected, since " +
-                                            Joined(names, "and") + " lead here");
+                                            JoinedWith(names, "and") + " lead here");
     }
     plan.sections[index].back.sections = before;
 }
