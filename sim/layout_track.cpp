@@ -173,7 +173,7 @@ void TrackReader::DerivePrevious(std::size_t index) {
     if (before.size() > 1) {
         Problem(described_[index].line, "section " + Quoted(plan.sections[index].name) +
                                             ": previous and previous-point expected, since " +
-                                            Joined(names, "and") + " lead here");
+                                            JoinedWith(names, "and") + " lead here");
     }
     plan.sections[index].back.sections = before;
 }
@@ -227,7 +227,7 @@ void TrackReader::ReadAddress(TableReader& reader, Train& train) {
                 .value_or(0);
     }
     // Above this number there is no short address.
-    train.longAddress = train.address > kHighestShortAddress;
+    train.longAddress = train.control == TrainControl::kDcc && train.address > kHighestShortAddress;
     const std::optional<bool> isLong = reader.Truth("long-address", Need::kOptional);
     if (!isLong) {
         return;
