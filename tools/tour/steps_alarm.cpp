@@ -6,17 +6,26 @@ namespace zelvar::tour {
 
 namespace {
 
+/// The goods train runs into the block where the railcar still stands.
 void Overcurrent(Tour& tour) {
-    tour.Unit().Do("overcurrent 4");
-    tour.Unit().Do("fault on");
+    e2e::DrivenProgram& program = tour.Program();
+    program.ToFront("DCCSpeed");
+    program.Click("CheckDCCDirection");
+    program.Ask({"key", "DCCSpeed", "PgUp, PgUp"});
+    tour.Unit().Do(kFast);
     tour.AwaitWindow(kAlarmLog);
     tour.AwaitText("lblBarStatus", "System Status = Fault");
+    tour.AwaitText("lblTestSystemStatus", "System Status = Fault");
+    tour.AwaitThat("the overcurrent of block 2 is logged", [&program] {
+        return program.Text("txtAlarmLog").starts_with("Overcurrent block 2 detected");
+    });
+    tour.ExpectNoBox();
     tour.Picture({kMainWindow, kAlarmLog});
 }
 
 void MessageLog(Tour& tour) {
     // A program that has not polled yet: the toggle bit starts the same way every time.
-    tour.Start("default");
+    tour.Start(kClub);
     tour.Connect();
     tour.Program().Ask({"doubleclick", "lblCom"});
     tour.AwaitWindow(kMessageLog);

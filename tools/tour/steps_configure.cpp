@@ -13,6 +13,10 @@ void ConfigureVD(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
     program.Choose("cboVD", " 1");
     tour.AwaitText("lblVDtype", "VD-F");
+    for (const char* get : {"cmdSW(1)", "cmdAL(1)", "cmdDCShift(1)", "cmdPWMM(1)", "cmdOCD(1)",
+                            "cmdMS(1)", "cmdPC(1)"}) {
+        program.Click(get);
+    }
     program.Type("txtHFI", "9");
     program.Click("cmdHFI(0)");
     program.Type("txtHFI", "0");
@@ -20,6 +24,23 @@ void ConfigureVD(Tour& tour) {
     tour.AwaitText("txtHFI", "9");
     tour.AwaitColour("txtHFI", "Base", kGreen);
     tour.ExpectNoBox();
+    tour.Picture({kMainWindow});
+}
+
+void ConfigurePoint(Tour& tour) {
+    e2e::DrivenProgram& program = tour.Program();
+    program.ToFront("cboJS");
+    program.Choose("cboJS", " 8");
+    program.Type("txtJStime", "42");
+    program.Click("cmdTIME");
+    program.Type("txtJStime", "30");
+    program.Type("txtJSdevice", "5");
+    program.Click("cmdDeviceTime");
+    program.Click("optJSpower(2)");
+    program.Click("cmdDevicePower");
+    tour.ExpectNoBox();
+    tour.AwaitThat("the module keeps its times",
+                   [&tour] { return tour.Unit().Value("points.8.active") == "default:42,5:30/2"; });
     tour.Picture({kMainWindow});
 }
 
@@ -31,23 +52,6 @@ void MasterSlaveCheck(Tour& tour) {
     tour.AwaitBox("Your master/slave settings are OK");
     tour.Picture({kMainWindow, kBox});
     tour.Program().Answer("No");
-}
-
-void ConfigurePoint(Tour& tour) {
-    e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("cboJS");
-    program.Choose("cboJS", " 9");
-    program.Type("txtJStime", "42");
-    program.Click("cmdTIME");
-    program.Type("txtJStime", "30");
-    program.Type("txtJSdevice", "5");
-    program.Click("cmdDeviceTime");
-    program.Click("optJSpower(2)");
-    program.Click("cmdDevicePower");
-    tour.ExpectNoBox();
-    tour.AwaitThat("the module keeps its times",
-                   [&tour] { return tour.Unit().Value("points.9.active") == "default:42,5:30/2"; });
-    tour.Picture({kMainWindow});
 }
 
 void KbOptions(Tour& tour) {

@@ -7,7 +7,7 @@ namespace zelvar::tour {
 namespace {
 
 void Start(Tour& tour) {
-    tour.Start("default");
+    tour.Start(kClub);
     tour.AwaitText("lblBarDevice", "No port open");
     tour.Picture({kMainWindow});
 }
@@ -21,20 +21,22 @@ void Connected(Tour& tour) {
 }
 
 void ClassicView(Tour& tour) {
-    tour.Start("kbf");
+    tour.Start(kStarter);
     tour.Connect();
     tour.RequestStatus(kClassicView);
     tour.AwaitText("dlgZelvarStatus/txtSystem", "OK");
+    tour.AwaitText("dlgZelvarStatus/txtSysVer", "KB-F1.02");
     tour.Picture({kClassicView});
 }
 
 void Status(Tour& tour) {
-    tour.Start("default");
+    tour.Start(kClub);
     tour.Connect();
     tour.LetRun();
     tour.RequestStatus(kStatusView);
     tour.AwaitText("dlgZelvarStatus44/txtSystem", "OK");
     tour.AwaitText("dlgZelvarStatus44/txtSysVer", "KB-E 1.02");
+    tour.AwaitText("dlgZelvarStatus44/txtVDstatus(2)", "Fault");
     tour.Picture({kStatusView});
     tour.Program().Ask({"close", kStatusView});
     tour.Await({"window", kStatusView}, "hidden");

@@ -81,6 +81,20 @@ void Tour::AwaitThat(const std::string& what, const std::function<bool()>& holds
     }
 }
 
+void Tour::RunUntil(const std::string& what, const std::function<bool()>& holds) {
+    AwaitThat(what, [&] {
+        unit_->Do(kFast);
+        const bool held = e2e::Until(holds);
+        unit_->Do(kFrozen);
+        // It may have gone on between the look and the stop.
+        return held && holds();
+    });
+}
+
+bool Tour::IsOccupied(const std::string& section) {
+    return unit_->Value("section." + section).starts_with("occupied:1");
+}
+
 void Tour::ExpectNoBox() {
     const e2e::BoxText box = program_->Box();
     if (box != e2e::BoxText{}) {

@@ -30,6 +30,14 @@ inline constexpr char kMessageLog[] = "dlgMsgLog";
 /// The message box that is open.
 inline constexpr char kBox[] = "box";
 
+// Layouts that come with the simulated unit.
+inline constexpr char kClub[] = "club";
+inline constexpr char kStarter[] = "starter";
+
+// What the console is told about simulated time.
+inline constexpr char kFast[] = "time-factor 20";
+inline constexpr char kFrozen[] = "time-factor 0";
+
 /// The program and a simulated layout, and what a step does with them. Every routine that waits
 /// throws std::runtime_error when what it waits for does not come.
 class Tour {
@@ -63,6 +71,10 @@ class Tour {
     void AwaitBox(const std::string& part);
     /// Waits until a condition holds. @param what for the complaint when it never does
     void AwaitThat(const std::string& what, const std::function<bool()>& holds);
+    /// Lets trains run until a condition holds, and stops time there.
+    void RunUntil(const std::string& what, const std::function<bool()>& holds);
+    /// Whether a train is over a section of track.
+    bool IsOccupied(const std::string& section);
     /// A message box must not be open.
     void ExpectNoBox();
 

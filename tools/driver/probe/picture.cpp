@@ -53,6 +53,17 @@ QSize FrameSize(const QWidget& window) {
     return window.size() + QSize(2 * kEdge, 2 * kEdge + BarHeight());
 }
 
+/// What lies below the mouse is drawn in another shade, and a message box takes the mouse away
+/// earlier or later.
+void TakeMouseAway() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->underMouse()) {
+            widget->setAttribute(Qt::WA_UnderMouse, false);
+            widget->update();
+        }
+    }
+}
+
 std::vector<Placed> Place(const QStringList& names) {
     std::vector<Placed> placed;
     int x = kMargin;
@@ -87,6 +98,7 @@ void Paint(QPainter& painter, const Placed& window) {
 }  // namespace
 
 void SavePicture(const QString& file, const QStringList& windows) {
+    TakeMouseAway();
     const std::vector<Placed> placed = Place(windows);
     QRect desk;
     for (const Placed& window : placed) {
