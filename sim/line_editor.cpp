@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "line_editor.h"
 
-#include <algorithm>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <cwchar>
 #include <filesystem>
 #include <histedit.h>
 #include <poll.h>
@@ -25,6 +26,19 @@ constexpr char kEndOfInput = '\x04';  // what the editor makes of Ctrl-D on an e
 /// A key can send several bytes, which arrive together; after this long no more will come. The only
 /// time that the line has to wait for the console.
 constexpr int kKeyMs = 30;
+
+struct Key {
+    const char* key;
+    const char* function;
+};
+
+/// Beside the editor's own. Those that wait for another key would hold up the line: searching takes
+/// what stands in the line already, and the others do nothing.
+constexpr Key kKeys[] = {{"^I", "complete-word"},
+                         {"^R", "ed-search-prev-history"},
+                         {"^S", "ed-search-next-history"},
+                         {"^V", "ed-unassigned"},
+                         {"\\ex", "ed-unassigned"}};
 
 char* Prompt(EditLine*) {
     static std::string prompt = kPrompt;
@@ -67,6 +81,8 @@ LineEditor::LineEditor(Completer completer, std::string historyFile)
       historyFile_(std::move(historyFile)),
       editor_(el_init("zelvarsim", stdin, stdout, stderr)),
       history_(history_init()) {
+    // The characters of the user's alphabet; the form of numbers stays as it is.
+    std::setlocale(LC_CTYPE, "");
     HistEvent event{};
     ::history(history_, &event, H_SETSIZE, kHistoryLines);
     ::history(history_, &event, H_SETUNIQUE, 1);
@@ -79,7 +95,9 @@ LineEditor::LineEditor(Completer completer, std::string historyFile)
     el_set(editor_, EL_HIST, &::history, history_);
     el_set(editor_, EL_GETCFN, &LineEditor::NextCharacter);
     el_set(editor_, EL_ADDFN, "complete-word", "Completes the word", &LineEditor::CompleteKey);
-    el_set(editor_, EL_BIND, "^I", "complete-word", nullptr);
+    for (const Key& key : kKeys) {
+        el_set(editor_, EL_BIND, key.key, key.function, nullptr);
+    }
     Begin();
 }
 
@@ -102,23 +120,35 @@ void LineEditor::Suspend() {
     editing_ = false;
 }
 
+std::optional<char> LineEditor::NextByte() {
+    if (!input_.empty()) {
+        const char byte = input_.front();
+        input_.pop_front();
+        return byte;
+    }
+    // In the middle of a key: a lone Escape must not hold up the line.
+    pollfd entry{STDIN_FILENO, POLLIN, 0};
+    char byte = 0;
+    const bool more = ::poll(&entry, 1, kKeyMs) == 1 && read(STDIN_FILENO, &byte, 1) == 1;
+    return more ? std::optional(byte) : std::nullopt;
+}
+
 int LineEditor::NextCharacter(EditLine* editor, wchar_t* character) {
     void* client = nullptr;
     el_get(editor, EL_CLIENTDATA, &client);
     auto& self = *static_cast<LineEditor*>(client);
-    if (self.input_.empty()) {
-        // In the middle of a key: a lone Escape must not hold up the line.
-        pollfd entry{STDIN_FILENO, POLLIN, 0};
-        char byte = 0;
-        if (::poll(&entry, 1, kKeyMs) != 1 || read(STDIN_FILENO, &byte, 1) != 1) {
-            return 0;
+    constexpr auto kPartOfOne = static_cast<std::size_t>(-2);
+    constexpr auto kNone = static_cast<std::size_t>(-1);
+    std::mbstate_t state{};
+    while (const std::optional<char> byte = self.NextByte()) {
+        const std::size_t length = std::mbrtowc(character, &*byte, 1, &state);
+        if (length == kNone) {
+            state = {};  // passed over: no character of the user's alphabet
+        } else if (length != kPartOfOne) {
+            return 1;
         }
-        self.input_.push_back(byte);
     }
-    // Commands are plain ASCII; of anything else each byte is a character.
-    *character = static_cast<wchar_t>(static_cast<unsigned char>(self.input_.front()));
-    self.input_.pop_front();
-    return 1;
+    return 0;
 }
 
 LineEditor::Outcome LineEditor::Feed(std::string_view bytes,
@@ -158,7 +188,7 @@ void LineEditor::Accept(const std::string& line,
 }
 
 void LineEditor::HideLine() {
-    const LineInfo* line = el_line(editor_);
+    const LineInfoW* line = el_wline(editor_);
     const auto before =
         std::strlen(kPrompt) + static_cast<std::size_t>(line->cursor - line->buffer);
     const int rowsAbove = static_cast<int>(before) / TerminalColumns();

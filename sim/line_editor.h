@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,8 @@ class LineEditor {
     void Restore();
 
   private:
+    /// The next byte of a key; nothing when the key is over.
+    std::optional<char> NextByte();
     static int NextCharacter(editline* editor, wchar_t* character);
     static unsigned char CompleteKey(editline* editor, int key);
 

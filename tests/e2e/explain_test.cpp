@@ -29,15 +29,16 @@ class ExplainedLog : public Journey {
         program->Choose("cboVD", " 1");
         program->Click("cmdHFI(1)");
         ASSERT_TRUE(program->Shows("txtHFI", "6"));
+        program->ToFront("cmdConfig(1)");
         program->Click("cmdConfig(1)");
         program->ToFront("AnalogSpeed");
         program->Type("txtTestBlock", "5");
         program->Ask({"key", "AnalogSpeed", "End"});
         ASSERT_TRUE(Until([&] { return unit->Count("command.analog-speed") == 1; }));
-        program->Click("cmdEstopDCC");
-        program->Click("cmdEstopMCC");
-        program->Click("cmdTestJS70(1)");
-        program->Click("cmdTestYR70");
+        for (const char* button : {"cmdEstopDCC", "cmdEstopMCC", "cmdTestJS70(1)", "cmdTestYR70"}) {
+            program->ToFront(button);
+            program->Click(button);
+        }
         unit->Do("overcurrent 133");
         ASSERT_TRUE(program->Says({"window", "dlgAlarmLog"}, "visible"));
         unit->Do("silent on");

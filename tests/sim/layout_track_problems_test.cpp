@@ -28,9 +28,10 @@ ProblemCase WithA(const char* name, const std::string& rest,
     return {name, SectionA("3", "100", rest), problems};
 }
 
-/// Another section in one line.
-std::string Inline(const std::string& name, const std::string& rest) {
-    return "[[section]]\nname = \"" + name + "\"\nblock = 4\nlength = 100\n" + rest;
+/// Another section, in four lines and `rest`.
+std::string Another(const std::string& name, const std::string& rest, int block = 4) {
+    return "[[section]]\nname = \"" + name + "\"\nblock = " + std::to_string(block) +
+           "\nlength = 100\n" + rest;
 }
 
 const ProblemCase kSections[] = {
@@ -54,12 +55,12 @@ const ProblemCase kSections[] = {
           {"9: feedback: a whole number 0..2047 expected, found -1"}),
     WithA("FeedbackAbove", "feedback = 2048\n",
           {"9: feedback: a whole number 0..2047 expected, found 2048"}),
-    WithA("FeedbackTwice", "feedback = 7\n" + Inline("b", "feedback = 7\n"),
+    WithA("FeedbackTwice", "feedback = 7\n" + Another("b", "feedback = 7\n"),
           {"14: feedback: an input of its own expected, 7 is already used in line 9"}),
-    WithA("NameTwice", Inline("b", "") + Inline("a", ""),
+    WithA("NameTwice", Another("b", "") + Another("a", ""),
           {"14: name: another one expected, there is already a section \"a\" in line 6"}),
-    WithA("NameLongest", Inline(std::string(40, 'n'), ""), {}),
-    WithA("NameTooLong", Inline(std::string(41, 'n'), ""),
+    WithA("NameLongest", Another(std::string(40, 'n'), ""), {}),
+    WithA("NameTooLong", Another(std::string(41, 'n'), ""),
           {"10: name: a text of 1..40 characters expected, found \"" + std::string(41, 'n') + '"'}),
     WithA(
         "UnknownKey", "colour = 3\n",
@@ -84,31 +85,31 @@ const ProblemCase kWays[] = {
           {"9: next: at most 2 names expected, found 3"}),
     WithA("SameWayTwice", "next = [\"a\", \"a\"]\nnext-point = 1\n",
           {"9: next: different names expected, found \"a\" twice"}),
-    WithA("PointMissing", "next = [\"a\", \"b\"]\n" + Inline("b", ""),
+    WithA("PointMissing", "next = [\"a\", \"b\"]\n" + Another("b", ""),
           {"9: next: next-point expected beside two names"}),
     WithA("PointBeforeMissing",
-          "previous = [\"a\", \"b\"]\nnext = \"a\"\n" + Inline("b", "next = \"a\"\n"),
+          "previous = [\"a\", \"b\"]\nnext = \"a\"\n" + Another("b", "next = \"a\"\n"),
           {"9: previous: previous-point expected beside two names"}),
     WithA("PointWithOneWay", "next = \"a\"\nnext-point = 1\n",
           {"10: next-point: two names in next expected, straight on and thrown"}),
     WithA("PointWithoutWays", "previous-point = 1\n",
           {"9: previous-point: two names in previous expected, straight on and thrown"}),
-    WithA("PointBelow", "next = [\"a\", \"b\"]\nnext-point = -1\n" + Inline("b", ""),
+    WithA("PointBelow", "next = [\"a\", \"b\"]\nnext-point = -1\n" + Another("b", ""),
           {"10: next-point: a whole number 0..511 expected, found -1"}),
-    WithA("PointAbove", "next = [\"a\", \"b\"]\nnext-point = 512\n" + Inline("b", ""),
+    WithA("PointAbove", "next = [\"a\", \"b\"]\nnext-point = 512\n" + Another("b", ""),
           {"10: next-point: a whole number 0..511 expected, found 512"}),
-    WithA("PointMost", "next = [\"a\", \"b\"]\nnext-point = 511\n" + Inline("b", ""), {}),
-    WithA("TwoLeadHere", "next = \"c\"\n" + Inline("b", "next = \"c\"\n") + Inline("c", ""),
+    WithA("PointMost", "next = [\"a\", \"b\"]\nnext-point = 511\n" + Another("b", ""), {}),
+    WithA("TwoLeadHere", "next = \"c\"\n" + Another("b", "next = \"c\"\n") + Another("c", ""),
           {"15: section \"c\": previous and previous-point expected, since \"a\" and \"b\" lead "
            "here"}),
-    WithA("NoWayBackByNext", "next = \"b\"\n" + Inline("b", "previous = []\n"),
+    WithA("NoWayBackByNext", "next = \"b\"\n" + Another("b", "previous = []\n"),
           {"9: next: a section that leads back to \"a\" expected, \"b\" names it neither in next "
            "nor in previous"}),
-    WithA("NoWayBackByPrevious", "previous = \"b\"\n" + Inline("b", ""),
+    WithA("NoWayBackByPrevious", "previous = \"b\"\n" + Another("b", ""),
           {"9: previous: a section that leads back to \"a\" expected, \"b\" names it neither in "
            "next nor in previous"}),
     // The mistake is at the other section, and told once.
-    WithA("WrongWayBack", "next = \"b\"\n" + Inline("b", "previous = 7\n"),
+    WithA("WrongWayBack", "next = \"b\"\n" + Another("b", "previous = 7\n"),
           {"14: previous: a name or a list of names expected, found 7"}),
 };
 
@@ -181,6 +182,19 @@ const ProblemCase kTrains[] = {
           "[[train]]\nname = \"T\"\nsection = \"b\"\ncontrol = \"analog\"\nlength = 40\n"
           "top-speed = 30\n",
           {"11: section: the name of a section expected, found \"b\""}),
+    // A mistake in a section is told once, not again for its trains.
+    {"LengthOfItsSection",
+     SectionA("3", "0",
+              "[[train]]\nname = \"T\"\nsection = \"a\"\ncontrol = \"analog\"\nlength = 40\n"
+              "top-speed = 30\nposition = 50\n"),
+     {"8: length: a number 1..10000 expected, found 0"}},
+    {"BlockOfItsSection",
+     SectionA("-3", "100",
+              Another("b", "", 0) +
+                  "[[train]]\nname = \"T\"\nsection = \"a\"\ncontrol = \"analog\"\nlength = 40\n"
+                  "top-speed = 30\n[[train]]\nname = \"U\"\nsection = \"b\"\ncontrol = \"analog\"\n"
+                  "length = 40\ntop-speed = 30\n"),
+     {"7: block: a whole number 0..255 expected, found -3"}},
     Analog("NameAndBlockTwice",
            "[[train]]\nname = \"T\"\nsection = \"a\"\ncontrol = \"analog\"\nlength = 40\n"
            "top-speed = 30\n",

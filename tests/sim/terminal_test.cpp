@@ -36,6 +36,8 @@ constexpr const char* kUp = "\x1b[A";
 constexpr const char* kLeft = "\x1b[D";
 constexpr const char* kControlC = "\x03";
 constexpr const char* kControlD = "\x04";
+constexpr const char* kControlR = "\x12";
+constexpr const char* kControlV = "\x16";
 constexpr const char* kControlU = "\x15";
 constexpr const char* kEscape = "\x1b";
 
@@ -79,6 +81,7 @@ class TerminalTest : public testing::Test {
             dup2(fd, standard);
         }
         setenv("TERM", "xterm", 1);
+        setenv("LC_ALL", "C.UTF-8", 1);
         setenv("XDG_STATE_HOME", folder_.c_str(), 1);
         execl(ZELVARSIM_PROGRAM, "zelvarsim", "--link", link.c_str(), "--no-pacing", nullptr);
         _exit(127);
@@ -239,6 +242,42 @@ TEST_F(TerminalTest, ALoneEscapeDoesNotHoldUpTheLine) {
     EXPECT_EQ(::poll(&entry, 1, static_cast<int>(kLimit.count())), 1);
     close(line);
     EXPECT_THAT(Enter(std::string(kControlU) + "fault on"), HasSubstr("\r\nok\r\n"));
+}
+
+TEST_F(TerminalTest, ControlRBringsBackTheLineThatBeginsAsTyped) {
+    Enter("fault on");
+    Enter("hold on");
+    EXPECT_THAT(Enter(std::string("fau") + kControlR), HasSubstr("\r\nok\r\n"));
+    EXPECT_TRUE(History().starts_with("_HiStOrY_V2_\nfault"));
+    EXPECT_THAT(Enter("dump"), HasSubstr("\r\nfault=1\r\nhold=1\r\n"));
+}
+
+TEST_F(TerminalTest, KeysThatWouldWaitForAnotherOneDoNothing) {
+    for (const char* keys : {kControlV, "\x1bx"}) {
+        Type(keys);
+        EXPECT_THAT(Enter("fault on"), HasSubstr("\r\nok\r\n"));
+    }
+}
+
+TEST_F(TerminalTest, BytesThatAreNoCharacterAreNotTaken) {
+    EXPECT_THAT(Enter("fault \xFFon"), HasSubstr("\r\nok\r\n"));
+}
+
+TEST_F(TerminalTest, LettersOfTheUsersAlphabetCanBeTyped) {
+    EXPECT_THAT(Enter("\xC3\xA9t\xC3\xA9"),
+                HasSubstr("error unknown command \xC3\xA9t\xC3\xA9\r\n"));
+}
+
+TEST_F(TerminalTest, AProgramThatWasStoppedShowsItsLineAgain) {
+    Type("fault o");
+    ASSERT_TRUE(Shows("fault o"));
+    kill(process_, SIGSTOP);
+    int status = 0;
+    ASSERT_EQ(waitpid(process_, &status, WUNTRACED), process_);
+    Clear();
+    kill(process_, SIGCONT);
+    EXPECT_TRUE(Shows("zelvarsim> fault o")) << screen_;
+    EXPECT_THAT(Enter("n"), HasSubstr("\r\nok\r\n"));
 }
 
 TEST_F(TerminalTest, SeveralLinesAtOnceAreAllCarriedOut) {

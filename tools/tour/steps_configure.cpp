@@ -31,6 +31,7 @@ void ConfigurePoint(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
     program.ToFront("cboJS");
     program.Choose("cboJS", " 8");
+    program.Click("chkJSperm");
     program.Type("txtJStime", "42");
     program.Click("cmdTIME");
     program.Type("txtJStime", "30");
@@ -40,7 +41,7 @@ void ConfigurePoint(Tour& tour) {
     program.Click("cmdDevicePower");
     tour.ExpectNoBox();
     tour.AwaitThat("the module keeps its times",
-                   [&tour] { return tour.Unit().Value("points.8.active") == "default:42,5:30/2"; });
+                   [&tour] { return tour.Unit().Value("points.8.permanent") == "default:42,5:30/2"; });
     tour.Picture({kMainWindow});
 }
 
