@@ -14,8 +14,14 @@ namespace {
 constexpr std::string_view kFence = "```";
 constexpr std::string_view kIndent = "    ";
 
+/// A block in a list is indented.
+std::string Trimmed(const std::string& text) {
+    const std::size_t from = text.find_first_not_of(' ');
+    return from == std::string::npos ? std::string() : text.substr(from);
+}
+
 bool IsFence(const DocumentLine& line) {
-    return line.text.starts_with(kFence);
+    return Trimmed(line.text).starts_with(kFence);
 }
 
 }  // namespace
@@ -44,7 +50,7 @@ std::vector<FencedBlock> FencedBlocksOf(const std::vector<DocumentLine>& documen
         if (IsFence(line)) {
             inside = !inside;
             if (inside) {
-                blocks.push_back({line.text.substr(kFence.size()), {}});
+                blocks.push_back({Trimmed(line.text).substr(kFence.size()), {}});
             }
         } else if (inside) {
             blocks.back().lines.push_back(line);
@@ -56,12 +62,16 @@ std::vector<FencedBlock> FencedBlocksOf(const std::vector<DocumentLine>& documen
 std::vector<DocumentLine> ProseOf(const std::vector<DocumentLine>& document) {
     std::vector<DocumentLine> prose;
     bool inside = false;
+    // Behind an empty line an indented one is code; elsewhere it goes on with a list.
+    bool canIndent = true;
     for (const DocumentLine& line : document) {
+        const bool indented = canIndent && line.text.starts_with(kIndent);
         if (IsFence(line)) {
             inside = !inside;
-        } else if (!inside && !line.text.starts_with(kIndent)) {
+        } else if (!inside && !indented) {
             prose.push_back(line);
         }
+        canIndent = indented || line.text.empty();
     }
     return prose;
 }
