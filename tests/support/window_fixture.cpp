@@ -35,6 +35,7 @@ WindowFixture::WindowFixture() {
         Platform{port, timer, clock, messageBox, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    window->BuildHiddenTabs();
 }
 
 WindowFixture::~WindowFixture() = default;
