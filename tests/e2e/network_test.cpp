@@ -76,6 +76,13 @@ std::vector<std::string> Words(const std::string& line) {
     return {std::istream_iterator<std::string>(in), {}};
 }
 
+/// One of the two programs that make the line longer.
+class Relay : public ChildProcess {
+  public:
+    Relay(const std::vector<std::string>& arguments, const std::string& errorFile)
+        : ChildProcess(arguments, {}, errorFile) {}
+};
+
 /// The program reaches the unit through ser2net and socat, set up as the manual says.
 class Network : public Journey {
   protected:
@@ -97,7 +104,7 @@ class Network : public Journey {
         // Without -u a server that a test kills would leave the lock of its device behind.
         server_.emplace(std::vector<std::string>{ser2net_, "-n", "-d", "-u", "-c", path, "-P",
                                                  folder.Path("pid")},
-                        std::map<std::string, std::string>{}, folder.Path("ser2net.err"));
+                        folder.Path("ser2net.err"));
     }
 
     /// Returns when the line is up. The server may still be starting.
@@ -106,7 +113,7 @@ class Network : public Journey {
         const std::vector<std::string> addresses = Words(command_);
         client_.emplace(std::vector<std::string>{socat_, "-d", "-d", addresses[0],
                                                  addresses[1] + ",retry=100,interval=0.1"},
-                        std::map<std::string, std::string>{}, log);
+                        log);
         ASSERT_TRUE(Until([&] {
             std::ifstream in(log);
             const std::string text(std::istreambuf_iterator<char>(in), {});
@@ -134,8 +141,8 @@ class Network : public Journey {
     std::string link_ = folder.Path("line");
     std::string configuration_ = BlockOfManual("yaml", "%YAML");
     std::string command_ = BlockOfManual("sh", "socat ");
-    std::optional<ChildProcess> server_;
-    std::optional<ChildProcess> client_;
+    std::optional<Relay> server_;
+    std::optional<Relay> client_;
     int clients_ = 0;
 };
 
