@@ -117,8 +117,8 @@ Link::Sent Link::SendFrame(const Command& command, std::string& line) {
     if (checksum < kNotHeader) {
         checksum += kNotHeader;
     }
+    // The frame goes out when the wait for its reply begins.
     SendByte(static_cast<std::uint8_t>(checksum), line);
-    port_.Flush();
     for (std::size_t i = sent; i < kMaxDataBytes; ++i) {
         line += kUnusedPlace;
     }

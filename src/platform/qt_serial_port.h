@@ -41,8 +41,6 @@ class QtSerialPort : public SerialPort {
     bool lost_ = false;
     /// Written but not yet handed over.
     QByteArray held_;
-    /// A frame has just gone out: nothing can have come back that `WaitForByte` would not find.
-    bool justSent_ = false;
     std::function<void()> onLost_;
 };
 

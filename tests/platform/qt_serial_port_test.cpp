@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
@@ -151,6 +152,35 @@ TEST_F(QtSerialPortTest, BytesGoOutInOrderAndUnchanged) {
     }
     port.Flush();
     EXPECT_EQ(line.Receive(bytes.size()), bytes);
+}
+
+TEST_F(QtSerialPortTest, TheWaitSendsWhatWasHeldBack) {
+    ASSERT_TRUE(port.Open());
+    port.WriteByte(0x08);
+    port.WriteByte(0xF8);
+    port.WaitForByte(0);
+    EXPECT_EQ(line.Receive(2), (Bytes{0x08, 0xF8}));
+}
+
+TEST_F(QtSerialPortTest, WhatTheSystemDoesNotTakeAtOnceFollowsWithLaterWaits) {
+    ASSERT_TRUE(port.Open());
+    Bytes bytes(100'000);  // more than a pseudo-terminal buffers
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        bytes[i] = static_cast<std::uint8_t>(i % 251);
+        port.WriteByte(bytes[i]);
+    }
+    port.WaitForByte(0);
+    Bytes got;
+    std::atomic<bool> done{false};
+    std::thread reader([&] {
+        got = line.Receive(bytes.size());
+        done = true;
+    });
+    while (!done) {
+        port.WaitForByte(0.01);
+    }
+    reader.join();
+    EXPECT_EQ(got, bytes);
 }
 
 TEST_F(QtSerialPortTest, BytesComeInOrderAndUnchanged) {
