@@ -22,6 +22,7 @@ TwinPort::TwinPort(testing::FakeClock& clock, const sim::Layout& layout) : clock
 }
 
 void TwinPort::Connect(const sim::Layout& layout) {
+    connectedAt_ = clock_.now;
     unit_ = std::make_unique<sim::CentralUnit>(layout);
     faults_ = std::make_unique<sim::Faults>();
     line_ = std::make_unique<sim::LineEngine>(*unit_, *faults_, kUnitDelay);
@@ -66,7 +67,8 @@ void TwinPort::WriteByte(std::uint8_t byte) {
 void TwinPort::WaitForByte(double seconds) {
     const double until = clock_.now + seconds;
     const std::optional<sim::Time> due = line_->NextDue();
-    const double arrival = due ? static_cast<double>(due->count()) / kNanoseconds : until;
+    const double arrival =
+        due ? connectedAt_ + static_cast<double>(due->count()) / kNanoseconds : until;
     // Waiting for nothing takes a little more than asked, so that a limit is passed.
     constexpr double kOversleep = 0.001;
     clock_.now = due && arrival <= until ? std::max(clock_.now, arrival) : until + kOversleep;
@@ -106,10 +108,13 @@ void TwinPort::ExpectNothingMisunderstood() {
 }
 
 sim::Time TwinPort::Now() const {
-    return sim::Time(std::llround(clock_.now * kNanoseconds));
+    return sim::Time(std::llround((clock_.now - connectedAt_) * kNanoseconds));
 }
 
 void TwinPort::Note(const std::vector<std::uint8_t>& bytes) {
+    if (bytes.size() != (bytes.front() & kHeaderCountMask) + std::size_t{2}) {
+        return;  // the next frame has cut it off
+    }
     Received command;
     command.stop = (bytes.front() & sim::kHeaderStopBit) != 0;
     for (std::size_t i = 1; i + 1 < bytes.size(); ++i) {

@@ -16,6 +16,7 @@
 #include "faults.h"
 #include "layout.h"
 #include "line_engine.h"
+#include "link/frame.h"
 #include "platform/serial_port.h"
 #include "support/doubles.h"
 
@@ -72,6 +73,7 @@ class TwinPort : public SerialPort {
     void ExpectNothingMisunderstood();
 
   private:
+    /// The unit's clock begins when it is connected.
     sim::Time Now() const;
     void Note(const std::vector<std::uint8_t>& bytes);
 
@@ -82,6 +84,7 @@ class TwinPort : public SerialPort {
     std::deque<std::uint8_t> incoming_;
     std::vector<Received> commands_;
     int polls_ = 0;
+    double connectedAt_ = 0;
     int number_ = 0;
     bool open_ = false;
 };
