@@ -92,6 +92,25 @@ TEST_F(SystemForms, TheCheckOfMastersAndClocksReportsWhatTheUnitHolds) {
                      {clocks, BoxIcon::Plain, BoxButtons::Ok}};
 }
 
+TEST_F(SystemForms, AnswersMayComeWithTheReplyOrWithAnyPollAfterIt) {
+    RequestStatus();
+    Choose("cboVD", QStringLiteral(" 31"));
+    for (const int polls : {0, 1, 2, 3, 7}) {
+        port.state().answerDelay = polls;
+        for (int parameter = 4; parameter <= 7; ++parameter) {
+            const int value = (polls + parameter) % 8;
+            port.state().memories.traction[31].active[static_cast<std::size_t>(parameter)] =
+                static_cast<std::uint8_t>(value);
+            Enter(Member("txtSW", parameter - 4), 7 - value);
+        }
+        Press("cmdSW(1)");
+        Poll(polls);
+        for (int parameter = 4; parameter <= 7; ++parameter) {
+            EXPECT_EQ(NumberIn(Member("txtSW", parameter - 4)), (polls + parameter) % 8) << polls;
+        }
+    }
+}
+
 TEST_F(SystemForms, TheFaultIsShownAndReset) {
     const auto shown = [this] { return TextOf("lblTestSystemStatus").toStdString(); };
     Press("cmdReset");
