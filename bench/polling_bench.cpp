@@ -38,7 +38,8 @@ void RunFor(int milliseconds) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const zelvar::bench::Simulator simulator(ZELVARSIM_PROGRAM, {"--no-pacing"});
+    const zelvar::bench::Simulator simulator(
+        ZELVARSIM_PROGRAM, {"--no-pacing", "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"});
     setenv("ZELVARCONFIG_PORTS", simulator.Path().c_str(), 1);
     QApplication application(argc, argv);
     zelvar::Program program;

@@ -34,9 +34,10 @@ class EndWhenPainted : public QObject {
             return false;
         }
         seen_ = true;
-        watched->event(event);
+        // Queued before anything that the window may put off until it is painted.
         QMetaObject::invokeMethod(
             qApp, [] { _exit(0); }, Qt::QueuedConnection);
+        watched->event(event);
         return true;
     }
 

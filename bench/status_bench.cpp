@@ -50,8 +50,9 @@ class CountingPort : public zelvar::QtSerialPort {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const zelvar::bench::Simulator simulator(ZELVARSIM_PROGRAM,
-                                             {"--unit-delay", kUnitDelayMilliseconds});
+    const zelvar::bench::Simulator simulator(
+        ZELVARSIM_PROGRAM,
+        {"--unit-delay", kUnitDelayMilliseconds, "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"});
     QApplication application(argc, argv);
     CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Path()));
     zelvar::HandlerGate gate;

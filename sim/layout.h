@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
 #include "track_plan.h"
 
@@ -60,14 +59,8 @@ struct Layout {
     const ModuleSlot& At(int address) const { return modules[static_cast<std::size_t>(address)]; }
 };
 
-/// All families on both channels, VD60 pairs (one at channel 1 module 3), every state.
-Layout DefaultLayout();
-/// The default modules behind a KB-F whose protocol is 3.10, too old to report modules singly.
-Layout KbfLayout();
-/// The default central unit with no module at all.
+/// A KB-E with no module and no track.
 Layout EmptyLayout();
-/// By the name given on the command line: "default", "kbf" or "none".
-std::optional<Layout> LayoutByName(std::string_view name);
 
 /// Address of a traction line's status: 0..31 are primary units, 32..63 secondary ones.
 int LineAddress(int line);

@@ -40,17 +40,19 @@ bool TakeBaud(Options& options, std::string_view value) {
 }
 
 bool TakeLayout(Options& options, std::string_view value) {
-    const std::optional<Layout> layout = LayoutByName(value);
-    if (layout) {
-        options.layout = *layout;
-    }
-    return layout.has_value();
+    options.layoutName = value;
+    return !value.empty();
 }
 
 bool TakeUnitDelay(Options& options, std::string_view value) {
     const std::optional<int> delay = ParseNumber(value, 0, kLongestUnitDelayMs);
     options.unitDelay = std::chrono::milliseconds(delay.value_or(0));
     return delay.has_value();
+}
+
+bool TakeListLayouts(Options& options, std::string_view) {
+    options.listLayouts = true;
+    return true;
 }
 
 bool TakeHelp(Options& options, std::string_view) {
@@ -65,15 +67,24 @@ bool TakeVersion(Options& options, std::string_view) {
 
 struct Option {
     std::string_view name;
-    bool hasValue;
+    std::string_view value;  // as the help calls it; empty: it takes none
     TakeValue take;
+    std::string_view help;  // a line feed begins another line of its column
 };
 
 constexpr Option kOptions[] = {
-    {"--link", true, &TakeLink},           {"--device", true, &TakeDevice},
-    {"--no-pacing", false, &TakeNoPacing}, {"--baud", true, &TakeBaud},
-    {"--layout", true, &TakeLayout},       {"--unit-delay", true, &TakeUnitDelay},
-    {"--help", false, &TakeHelp},          {"--version", false, &TakeVersion},
+    {"--link", "PATH", &TakeLink, "a link to the pseudo-terminal, removed at the end"},
+    {"--device", "PATH", &TakeDevice, "serve this serial device instead"},
+    {"--baud", "N", &TakeBaud, "19200 (default) or 38400, until the other end sets its own"},
+    {"--no-pacing", "", &TakeNoPacing, "bytes take no time on the pseudo-terminal"},
+    {"--layout", "NAME|FILE", &TakeLayout,
+     "the central unit, its modules and its track: a shipped\n"
+     "layout (\"club\" is the default), or a file by a path with a\n"
+     "slash or ending in .toml, or \"none\": a unit alone"},
+    {"--list-layouts", "", &TakeListLayouts, "lists the shipped layouts and ends"},
+    {"--unit-delay", "MS", &TakeUnitDelay, "between a command and its reply; 1 by default"},
+    {"--help", "", &TakeHelp, "shows this and ends"},
+    {"--version", "", &TakeVersion, "shows the version and ends"},
 };
 
 const Option* FindOption(std::string_view name) {
@@ -96,7 +107,7 @@ std::variant<Options, std::string> ParseOptions(std::span<const std::string_view
             return "unknown option " + name;
         }
         std::string_view value;
-        if (option->hasValue) {
+        if (!option->value.empty()) {
             ++index;
             if (index == arguments.size()) {
                 return "missing value of " + name;
@@ -113,20 +124,38 @@ std::variant<Options, std::string> ParseOptions(std::span<const std::string_view
     return options;
 }
 
-std::string_view UsageText() {
-    return R"(usage: zelvarsim [options]
-A simulated central unit with its layout, behind a pseudo-terminal or a serial device.
+std::string UsageText() {
+    constexpr std::size_t kHelpColumn = 24;
+    std::string text =
+        "usage: zelvarsim [options]\n"
+        "A simulated central unit with its layout, behind a pseudo-terminal or a serial device.\n"
+        "\n";
+    for (const Option& option : kOptions) {
+        std::string line = "  " + std::string(option.name);
+        if (!option.value.empty()) {
+            line.append(" ").append(option.value);
+        }
+        line.resize(kHelpColumn, ' ');
+        for (const char c : option.help) {
+            line += c;
+            if (c == '\n') {
+                line.append(kHelpColumn, ' ');
+            }
+        }
+        text += line + '\n';
+    }
+    return text + '\n' +
+           "Prints \"ready PATH\" when it can be opened; then takes commands on its standard "
+           "input\n"
+           "(\"help\" lists them). man zelvarsim tells more.\n";
+}
 
-  --link PATH                 a link to the pseudo-terminal, removed at the end
-  --device PATH               serve this serial device instead
-  --baud N                    19200 (default) or 38400, until the other end sets its own
-  --no-pacing                 bytes take no time on the pseudo-terminal
-  --layout default|kbf|none   the modules and the central unit
-  --unit-delay MS             between a command and its reply; 1 by default
-  --help, --version
-
-Prints "ready PATH" when it can be opened; then takes commands on its standard input ("help").
-)";
+std::vector<std::string> OptionNames() {
+    std::vector<std::string> names;
+    for (const Option& option : kOptions) {
+        names.emplace_back(option.name);
+    }
+    return names;
 }
 
 }  // namespace zelvar::sim

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "layout.h"
 
@@ -18,8 +19,10 @@ struct Options {
     std::string device;  // empty: a pseudo-terminal of its own
     bool pacing = true;
     int baud = 19200;
-    Layout layout = DefaultLayout();
+    std::string layoutName = "club";
+    Layout layout;  // what the name stands for; reading it is not left to ParseOptions
     std::chrono::milliseconds unitDelay{1};
+    bool listLayouts = false;
     bool help = false;
     bool version = false;
 };
@@ -28,6 +31,9 @@ struct Options {
 std::variant<Options, std::string> ParseOptions(std::span<const std::string_view> arguments);
 
 /// The text of `--help`.
-std::string_view UsageText();
+std::string UsageText();
+
+/// "--link" and all the others.
+std::vector<std::string> OptionNames();
 
 }  // namespace zelvar::sim

@@ -35,10 +35,12 @@ MainWindow::MainWindow(const Platform& platform)
       services_{link_, platform.messageBox, *statusBar_, platform.clock, platform.gate},
       portBar_(new PortBar(this)),
       tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
-      vdTab_(new VDTab(services_, registry_, this)),
-      jsTab_(new JSTab(services_, this)),
-      kbTab_(new KBTab(services_, this)),
-      testTab_(new TestTab(services_, this)),
+      vdTab_(tabs_, QStringLiteral("VDxx / QLRX-s"),
+             [this](QWidget* page) { return new VDTab(services_, registry_, page); }),
+      jsTab_(tabs_, QStringLiteral("JS70"), [this](QWidget* page) { return MakeJSTab(page); }),
+      kbTab_(tabs_, QStringLiteral("KB-x"),
+             [this](QWidget* page) { return new KBTab(services_, page); }),
+      testTab_(tabs_, QStringLiteral("TEST"), [this](QWidget* page) { return MakeTestTab(page); }),
       dlgMsgLog_(LazyWindow<LogWindow>::OnClose::Unload,
                  [] { return new LogWindow(MessageLogKind()); }),
       dlgAlarmLog_(LazyWindow<LogWindow>::OnClose::Unload,
@@ -51,7 +53,7 @@ MainWindow::MainWindow(const Platform& platform)
                          [this] { return new DlgZelvarFeedback(platform_.gate); }) {
     setObjectName(QStringLiteral("frmZelvarConfig"));
     setWindowTitle(QStringLiteral("ZelvarConfig 1.40B"));
-    BuildTabs();
+    BuildFrame();
     platform_.gate.SetBeginHandler([this] { link_.BeginHandler(); });
     platform_.port.SetLostHandler([this] { PortLost(); });
     ConnectControls();
@@ -66,11 +68,34 @@ MainWindow::~MainWindow() {
     Form_Unload();
 }
 
-void MainWindow::BuildTabs() {
-    tabs_->addTab(vdTab_, QStringLiteral("VDxx / QLRX-s"));
-    tabs_->addTab(jsTab_, QStringLiteral("JS70"));
-    tabs_->addTab(kbTab_, QStringLiteral("KB-x"));
-    tabs_->addTab(testTab_, QStringLiteral("TEST"));
+JSTab* MainWindow::MakeJSTab(QWidget* page) {
+    auto* tab = new JSTab(services_, page);
+    tab->Fill({});
+    return tab;
+}
+
+TestTab* MainWindow::MakeTestTab(QWidget* page) {
+    auto* tab = new TestTab(services_, page);
+    connect(tab, &TestTab::FeedbackMonitorWanted, this,
+            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
+    return tab;
+}
+
+void MainWindow::BuildHiddenTabs() {
+    jsTab_.Get();
+    kbTab_.Get();
+    testTab_.Get();
+}
+
+void MainWindow::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (!isPainted_) {
+        isPainted_ = true;
+        QTimer::singleShot(0, this, &MainWindow::BuildHiddenTabs);
+    }
+}
+
+void MainWindow::BuildFrame() {
     auto* centre = new QWidget(this);
     auto* layout = new QVBoxLayout(centre);
     layout->addWidget(portBar_);
@@ -82,6 +107,7 @@ void MainWindow::BuildTabs() {
 
 void MainWindow::ConnectControls() {
     HandlerGate& gate = platform_.gate;
+    connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::BuildHiddenTabs);
     connect(portBar_->cboPort, &DropDownList::Chosen, this,
             gate.Handler([this] { cboPort_Click(); }));
     connect(portBar_->cmdRefresh, &QPushButton::clicked, this,
@@ -104,10 +130,10 @@ void MainWindow::ConnectControls() {
 
 void MainWindow::ConnectReplies() {
     link_.Handlers().SetHandler(ReplyKind::VDConfig, [this](const ReplyBuffer& reply) {
-        vdTab_->ShowVDConfigReply(reply);
+        vdTab_.Get().ShowVDConfigReply(reply);
     });
     link_.Handlers().SetHandler(ReplyKind::KBConfig, [this](const ReplyBuffer& reply) {
-        kbTab_->ShowKBConfigReply(reply);
+        kbTab_.Get().ShowKBConfigReply(reply);
     });
     link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
@@ -116,7 +142,7 @@ void MainWindow::ConnectReplies() {
         log.BringIntoView(false);
     });
     link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const ReplyBuffer& reply) {
-        testTab_->ShowBlockSpeed(ReadBlockSpeedReport(reply));
+        testTab_.Get().ShowBlockSpeed(ReadBlockSpeedReport(reply));
     });
     // A report loads the monitor without showing it; a tick asks it only when it is loaded.
     link_.Handlers().SetHandler(ReplyKind::Feedback, [this](const ReplyBuffer& reply) {
@@ -126,8 +152,6 @@ void MainWindow::ConnectReplies() {
         DlgZelvarFeedback* monitor = dlgZelvarFeedback_.Peek();
         return monitor == nullptr ? kNoFeedbackWanted : monitor->fbRequestState();
     });
-    connect(testTab_, &TestTab::FeedbackMonitorWanted, this,
-            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -138,8 +162,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::Form_Load() {
     platform_.port.SetSettings(kSettings[0]);
     ScanPorts();
-    vdTab_->Fill({});
-    jsTab_->Fill({});
+    vdTab_.Get().Fill({});
 }
 
 void MainWindow::Form_Unload() {
@@ -237,9 +260,9 @@ void MainWindow::cmdStatus_MouseDown(int button, int shift) {
 }
 
 void MainWindow::ShowStatus(const SystemStatus& status) {
-    kbTab_->ShowUnit(status.unit);
-    vdTab_->Fill(TractionModuleList(registry_, status.classic));
-    jsTab_->Fill(PointMotorModuleList(registry_, status.classic));
+    kbTab_.Get().ShowUnit(status.unit);
+    vdTab_.Get().Fill(TractionModuleList(registry_, status.classic));
+    jsTab_.Get().Fill(PointMotorModuleList(registry_, status.classic));
     if (status.classic) {
         dlgZelvarStatus_.Get().Show(status);
         dlgZelvarStatus_.Get().BringIntoView(true);
@@ -265,7 +288,7 @@ void MainWindow::ShowSystemState(SystemState state) {
         return;
     }
     shownState_ = state;
-    testTab_->ShowSystemState(state);
+    testTab_.Get().ShowSystemState(state);
     statusBar_->ShowSystemState(state);
 }
 

@@ -10,6 +10,7 @@
 #include "config/js_tab.h"
 #include "config/kb_tab.h"
 #include "config/vd_tab.h"
+#include "controls/late_page.h"
 #include "controls/secondary_window.h"
 #include "link/link.h"
 #include "link/poller.h"
@@ -55,11 +56,17 @@ class MainWindow : public QMainWindow, private LinkView {
 
     StatusBar& Bar() { return *statusBar_; }
 
+    /// Builds the tabs behind the first one, which happens by itself once the window is painted.
+    void BuildHiddenTabs();
+
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void BuildTabs();
+    JSTab* MakeJSTab(QWidget* page);
+    TestTab* MakeTestTab(QWidget* page);
+    void BuildFrame();
     void ConnectControls();
     void ConnectReplies();
     void Form_Load();
@@ -92,10 +99,11 @@ class MainWindow : public QMainWindow, private LinkView {
     Services services_;
     PortBar* portBar_;
     QTabWidget* tabs_;
-    VDTab* vdTab_;
-    JSTab* jsTab_;
-    KBTab* kbTab_;
-    TestTab* testTab_;
+    LatePage<VDTab> vdTab_;
+    LatePage<JSTab> jsTab_;
+    LatePage<KBTab> kbTab_;
+    LatePage<TestTab> testTab_;
+    bool isPainted_ = false;
 
     LazyWindow<LogWindow> dlgMsgLog_;
     LazyWindow<LogWindow> dlgAlarmLog_;

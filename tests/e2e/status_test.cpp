@@ -25,7 +25,7 @@ struct TractionModule {
     std::string type;
 };
 
-// The modules of the simulated default layout, as a person reads them.
+// The modules of the simulated mixed layout, as a person reads them.
 const std::vector<TractionModule> kTractionModules{
     {0, "VD-F"},   {1, "VD-F"},   {2, "VD-F"},  {4, "VD60"},  {5, "VD60"},   {6, "VD60"},
     {8, "QLRX-s"}, {9, "QLRX-s"}, {16, "VD-F"}, {19, "VD60"}, {24, "QLRX-s"}};
@@ -61,7 +61,7 @@ class StatusViews : public Journey {
         }
     }
 
-    void ExpectDefaultLayout() {
+    void ExpectMixedLayout() {
         for (int line = 0; line < 32; ++line) {
             std::string type = kNone;
             for (const TractionModule& module : kTractionModules) {
@@ -104,7 +104,7 @@ TEST_F(StatusViews, TheNewViewShowsTheWholeLayout) {
     ExpectField(kNewView, "txtSystem", "OK");
     ExpectField(kNewView, "txtSysVer", "KB-E 1.02");
     ExpectField(kNewView, "txtProtVer", "3.11 B");
-    ExpectDefaultLayout();
+    ExpectMixedLayout();
     EXPECT_NE(program->Window(kClassicView), "visible");
     EXPECT_EQ(program->BoxesShown().size(), 0U);
 
@@ -171,7 +171,7 @@ TEST_F(StatusViews, ShiftAndTheLeftButtonOpenTheClassicView) {
 }
 
 TEST_F(StatusViews, AnOldProtocolOpensTheClassicViewOnAPlainClick) {
-    StartAndOpen({"--layout", "kbf"});
+    StartAndOpen({"--layout", ZELVAR_TEST_LAYOUTS "/old-unit.toml"});
     RequestStatus(kClassicView);
     EXPECT_NE(program->Window(kNewView), "visible");
     ExpectField(kClassicView, "txtSysVer", "KB-F1.02");

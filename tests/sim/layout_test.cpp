@@ -60,58 +60,14 @@ INSTANTIATE_TEST_SUITE_P(Rows, StatusByteTest,
                                          StatusCase{"PointsHold", 0, ModuleState::kHold, 0x28}),
                          [](const auto& row) { return row.param.name; });
 
-TEST(LayoutTest, TheDefaultHasEveryFamilyOnBothChannelsAndEveryState) {
-    const Layout layout = DefaultLayout();
-    std::set<int> families;
-    std::set<int> types;
-    std::set<int> states;
-    int masters = 0;
-    for (int address = 0; address < kModuleAddresses; ++address) {
-        const ModuleSlot& slot = layout.At(address);
-        if (!slot.Present()) {
-            continue;
-        }
-        families.insert(address / kModulesPerChannel);  // family and channel
-        states.insert(slot.status & (kIdleBit | kFaultBit));
-        masters += slot.masterSlave == 1 ? 1 : 0;
-        if (address / kTractionFamily == 1) {
-            types.insert(slot.status & kTypeMask);
-        }
-    }
-    EXPECT_EQ(families, (std::set<int>{0, 1, 2, 3, 4, 5, 6, 7}));
-    EXPECT_EQ(types, (std::set<int>{0, 1, 2}));
-    EXPECT_EQ(states, (std::set<int>{0, kIdleBit, kFaultBit}));
-    EXPECT_EQ(masters, 1);
-}
-
-TEST(LayoutTest, TheDefaultHasAVd60PairAtChannel1Module3) {
-    const Layout layout = DefaultLayout();
-    EXPECT_EQ(layout.At(LineAddress(19)).status & (kTypeMask | kPresentBit), 0x09);
-    EXPECT_EQ(layout.At(LineAddress(51)).status & (kTypeMask | kPresentBit), 0x09);
-}
-
-TEST(LayoutTest, TheDefaultVersionsAllFitTwoBytes) {
-    for (const Layout& layout : {DefaultLayout(), KbfLayout(), EmptyLayout()}) {
-        EXPECT_TRUE(EncodeVersion(layout.protocolVersion));
-        EXPECT_TRUE(EncodeVersion(layout.systemVersion));
-        for (const ModuleSlot& slot : layout.modules) {
-            EXPECT_TRUE(EncodeVersion(slot.version)) << slot.version;
-        }
-    }
-}
-
-TEST(LayoutTest, AreFoundByName) {
-    ASSERT_TRUE(LayoutByName("kbf"));
-    EXPECT_EQ(LayoutByName("kbf")->protocolVersion, 3100);
-    EXPECT_EQ(LayoutByName("kbf")->unitType, 1);
-    ASSERT_TRUE(LayoutByName("none"));
-    const Layout none = LayoutByName("none").value();
-    for (const ModuleSlot& slot : none.modules) {
+TEST(LayoutTest, AnEmptyUnitHasNoModulesAndNoTrack) {
+    const Layout layout = EmptyLayout();
+    for (const ModuleSlot& slot : layout.modules) {
         EXPECT_FALSE(slot.Present());
     }
-    EXPECT_TRUE(LayoutByName("default"));
-    EXPECT_FALSE(LayoutByName("Default"));
-    EXPECT_FALSE(LayoutByName(""));
+    EXPECT_TRUE(layout.track.sections.empty());
+    EXPECT_TRUE(EncodeVersion(layout.protocolVersion));
+    EXPECT_TRUE(EncodeVersion(layout.systemVersion));
 }
 
 TEST(LineAddressTest, PrimaryLinesComeBeforeSecondaryOnes) {

@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "test_layouts.h"
+
 namespace zelvar::sim {
 namespace {
 
@@ -17,7 +19,7 @@ constexpr int kMillisecondAByte = 11'000;  // the rate at which a byte takes a m
 
 class LineEngineTest : public testing::Test {
   protected:
-    LineEngineTest() : unit_(DefaultLayout()), engine_(unit_, faults_, milliseconds(1)) {}
+    LineEngineTest() : unit_(MixedLayout()), engine_(unit_, faults_, milliseconds(1)) {}
 
     /// Every byte that is due until `end`, with the time it was due at.
     std::vector<std::pair<Time, std::uint8_t>> RunUntil(Time end) {

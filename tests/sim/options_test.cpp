@@ -26,19 +26,21 @@ TEST(OptionsTest, WithoutAnyTheDefaultsHold) {
     EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(1));
     EXPECT_TRUE(options.link.empty());
     EXPECT_TRUE(options.device.empty());
-    EXPECT_TRUE(options.layout.At(kTractionFamily).Present());
+    EXPECT_EQ(options.layoutName, "club");
 }
 
 TEST(OptionsTest, TakesAllOfThem) {
-    const Options options = Right({"--link", "/x/y", "--no-pacing", "--baud", "38400", "--layout",
-                                   "none", "--unit-delay", "0", "--help", "--version"});
+    const Options options =
+        Right({"--link", "/x/y", "--no-pacing", "--baud", "38400", "--layout", "none",
+               "--unit-delay", "0", "--help", "--version", "--list-layouts"});
     EXPECT_EQ(options.link, "/x/y");
     EXPECT_FALSE(options.pacing);
     EXPECT_EQ(options.baud, 38400);
-    EXPECT_FALSE(options.layout.At(kTractionFamily).Present());
+    EXPECT_EQ(options.layoutName, "none");
     EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(0));
     EXPECT_TRUE(options.help);
     EXPECT_TRUE(options.version);
+    EXPECT_TRUE(options.listLayouts);
     EXPECT_EQ(Right({"--device", "/dev/x"}).device, "/dev/x");
 }
 
@@ -63,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongCase{"MissingValue", {"--no-pacing", "--link"}, "missing value of --link"},
                     WrongCase{"EmptyLink", {"--link", ""}, "wrong value of --link: "},
                     WrongCase{"Baud", {"--baud", "9600"}, "wrong value of --baud: 9600"},
-                    WrongCase{"Layout", {"--layout", "big"}, "wrong value of --layout: big"},
+                    WrongCase{"Layout", {"--layout", ""}, "wrong value of --layout: "},
                     WrongCase{"Delay", {"--unit-delay", "-1"}, "wrong value of --unit-delay: -1"},
                     WrongCase{
                         "DelayText", {"--unit-delay", "5ms"}, "wrong value of --unit-delay: 5ms"},

@@ -88,7 +88,8 @@ class ProgramTest : public testing::Test {
         for (const int fd : {in[0], in[1], out[0], out[1]}) {
             fcntl(fd, F_SETFD, FD_CLOEXEC);
         }
-        std::vector<std::string> words = {ZELVARSIM_PROGRAM};
+        std::vector<std::string> words = {ZELVARSIM_PROGRAM, "--layout",
+                                          ZELVAR_TEST_LAYOUTS "/mixed.toml"};
         words.insert(words.end(), options.begin(), options.end());
         std::vector<char*> arguments;
         arguments.reserve(words.size() + 1);

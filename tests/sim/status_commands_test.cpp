@@ -17,7 +17,7 @@ TEST_F(StatusCommands, UnitTypeAndVersion) {
 }
 
 TEST_F(StatusCommands, TheOldUnitTellsItsOldProtocol) {
-    unit_ = CentralUnit(KbfLayout());
+    unit_ = CentralUnit(OldUnitLayout());
     EXPECT_EQ(Ask({1, 2}), (Payload{1, 2, 3 << 3 | 1, 0}));
     EXPECT_EQ(Ask({1, 10})[2], 1);
 }
@@ -63,7 +63,7 @@ TEST_F(StatusCommands, EveryAddressAnswersWithItself) {
     }
 }
 
-TEST_F(StatusCommands, ClassicTablesOfTheDefaultLayout) {
+TEST_F(StatusCommands, ClassicTablesOfTheMixedLayout) {
     // Modules 0, 1, 2, 4, 5, 6, 8, 9 of channel 0; those of channel 1 are not in these tables.
     EXPECT_EQ(Ask({1, 3, 2}), (Payload{1, 3, 0x27, 0x07, 0x03, 0}));
     EXPECT_EQ(Ask({1, 3, 4}), (Payload{1, 3, 0x40, 0, 0x03, 0}));
@@ -73,7 +73,7 @@ TEST_F(StatusCommands, ClassicTablesOfTheDefaultLayout) {
 }
 
 TEST_F(StatusCommands, ClassicDipSwitchesAreActiveLow) {
-    unit_ = CentralUnit(KbfLayout());
+    unit_ = CentralUnit(OldUnitLayout());
     EXPECT_EQ(Ask({1, 3, 0}), (Payload{1, 3, 0x0A}));
 }
 

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "central_unit.h"
+#include "test_layouts.h"
 
 namespace zelvar::sim {
 
@@ -28,7 +29,7 @@ inline void PrintTo(const Payload& data, std::ostream* out) {
 /// A unit to talk to, with a clock that the test moves.
 class UnitFixture : public testing::Test {
   protected:
-    UnitFixture() : unit_(DefaultLayout()) {}
+    UnitFixture() : unit_(MixedLayout()) {}
 
     std::optional<Reply> Send(const Payload& data, std::uint8_t bits = 0) {
         toggle_ = toggle_ == 0 ? kHeaderToggleBit : std::uint8_t{0};

@@ -39,6 +39,7 @@ void WindowHands::ShowWindowOn(SerialPort& line) {
         Platform{line, timer, clock, messageBox, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    window->BuildHiddenTabs();
 }
 
 void WindowHands::ShowTabOf(QWidget& control) {

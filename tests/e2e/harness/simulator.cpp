@@ -13,7 +13,9 @@ constexpr std::string_view kTraceMark = "trace ";
 
 std::vector<std::string> CommandLine(const std::string& device,
                                      const std::vector<std::string>& options) {
-    std::vector<std::string> words{ZELVARSIM_PROGRAM, "--link", device, "--no-pacing"};
+    std::vector<std::string> words{
+        ZELVARSIM_PROGRAM, "--link",   device,
+        "--no-pacing",     "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"};
     words.insert(words.end(), options.begin(), options.end());
     return words;
 }

@@ -13,7 +13,8 @@ namespace zelvar::e2e {
 /// The simulated central unit on a pseudo-terminal, without the time that a real line takes.
 class Simulator {
   public:
-    /// @param options command-line options, such as "--layout", "kbf"
+    /// @param options command-line options, such as "--layout", "none": without, the modules are
+    /// those of tests/layouts/mixed.toml
     explicit Simulator(const TempFolder& folder, const std::vector<std::string>& options = {});
 
     /// The device that the program can open.
