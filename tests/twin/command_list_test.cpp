@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <map>
 #include <set>
 
 #include "commands.h"

@@ -27,51 +27,71 @@ struct SendingControl {
     std::string commands;
 };
 
+const SendingControl kPlainControls[] = {
+    {"cmdReset", "", "fault-reset"},
+    {"cmdErase", " 0", "traction-erase"},
+    {"cmdTIME", "", "points-set-default-time"},
+    {"cmdDeviceTime", "", "points-set-device-time"},
+    {"cmdDevicePower", "", "points-set-device-power"},
+    {"cmdJSerase", "", "points-erase"},
+    {"cmdConfig(0)", "", "unit-set-configuration"},
+    {"cmdConfig(1)", "", "unit-get-configuration"},
+    {"cmdOptions", "", "unit-set-options"},
+    {"cmdJS70dm", "", "unit-set-device-mode"},
+    {"AnalogSpeed", "", "analog-speed"},
+    {"CheckAnalogDirection", "", "analog-speed"},
+    {"CheckAnalogLight", "", "analog-light"},
+    {"CommandSetHFI", "", "set-hfi"},
+    {"cmdEstopAnalog", "", "analog-speed"},
+    {"DCCSpeed", "", "dcc-speed-28"},
+    // The slider falls back to 0, in the new step mode.
+    {"CheckDCC126", "", "dcc-speed-126"},
+    {"CheckDCCDirection", "", "dcc-speed-126"},
+    {"cmdEstopDCC", "", "dcc-speed-126"},
+    {"Command1(0)", "", "dcc-f0-f4"},
+    {"Command1(1)", "", "dcc-f5-f8"},
+    {"Command1(2)", "", "dcc-f9-f12"},
+    {"Command1(3)", "", "dcc-f13-f20"},
+    {"Command1(4)", "", "dcc-f21-f28"},
+    {"CommandTestClearBlock", "", "clear-block"},
+    {"MCCspeed", "", "mcc-speed"},
+    // The slider falls back to 0, and speed 0 follows in the new step mode.
+    {"CheckMCC30", "", "mcc-speed mcc-speed"},
+    {"cmdEstopMCC", "", "mcc-speed"},
+    {"cmdTestMCCfunction", "", "mcc-functions"},
+    {"cmdTestJS70(0)", "", "point"},
+    {"cmdTestJS70(1)", "", "point"},
+    {"cmdTestYR70", "", "signal-aspect"},
+    {"cmdTestGW70", "", "output"},
+    {"CommandTestLink(0)", "", "link"},
+    {"CommandTestLink(1)", "", "link"},
+    {"CommandTestLink(2)", "", "unlink"},
+    {"CommandTestLink(3)", "", "unlink"},
+    {"cmdTM(0)", "", "transparent-channel-0"},
+    {"cmdTM(1)", "", "transparent-channel-1"},
+    {"cmdTM(2)", "", "transparent-boot-loader"},
+};
+
+struct SettingButtons {
+    const char* set;
+    /// None for a QLRX-s: it takes settings and gives none back.
+    const char* get;
+    /// The modules that they are pressed for.
+    const char* module;
+    const char* moduleThatTells;
+    int commands;
+};
+
+const SettingButtons kSettingButtons[] = {
+    {"cmdSW(0)", "cmdSW(1)", " 0", " 0", 4},     {"cmdHFI(0)", "cmdHFI(1)", " 0", " 5.0", 1},
+    {"cmdAL(0)", "cmdAL(1)", " 5.1", " 5.1", 2}, {"cmdDCShift(0)", "cmdDCShift(1)", " 0", " 0", 1},
+    {"cmdPWMM(0)", "cmdPWMM(1)", " 0", " 0", 1}, {"cmdOCD(0)", "cmdOCD(1)", " 0", " 0", 1},
+    {"cmdMS(0)", "cmdMS(1)", " 0", " 5.0", 1},   {"cmdPC(0)", "cmdPC(1)", " 0", " 0", 1},
+    {"cmdLC(0)", nullptr, " 8", nullptr, 1},     {"cmdAD(0)", nullptr, " 8", nullptr, 1},
+};
+
 std::vector<SendingControl> SendingControls() {
-    std::vector<SendingControl> all{
-        {"cmdReset", "", "fault-reset"},
-        {"cmdErase", " 0", "traction-erase"},
-        {"cmdTIME", "", "points-set-default-time"},
-        {"cmdDeviceTime", "", "points-set-device-time"},
-        {"cmdDevicePower", "", "points-set-device-power"},
-        {"cmdJSerase", "", "points-erase"},
-        {"cmdConfig(0)", "", "unit-set-configuration"},
-        {"cmdConfig(1)", "", "unit-get-configuration"},
-        {"cmdOptions", "", "unit-set-options"},
-        {"cmdJS70dm", "", "unit-set-device-mode"},
-        {"AnalogSpeed", "", "analog-speed"},
-        {"CheckAnalogDirection", "", "analog-speed"},
-        {"CheckAnalogLight", "", "analog-light"},
-        {"CommandSetHFI", "", "set-hfi"},
-        {"cmdEstopAnalog", "", "analog-speed"},
-        {"DCCSpeed", "", "dcc-speed-28"},
-        // The slider falls back to 0, in the new step mode.
-        {"CheckDCC126", "", "dcc-speed-126"},
-        {"CheckDCCDirection", "", "dcc-speed-126"},
-        {"cmdEstopDCC", "", "dcc-speed-126"},
-        {"Command1(0)", "", "dcc-f0-f4"},
-        {"Command1(1)", "", "dcc-f5-f8"},
-        {"Command1(2)", "", "dcc-f9-f12"},
-        {"Command1(3)", "", "dcc-f13-f20"},
-        {"Command1(4)", "", "dcc-f21-f28"},
-        {"CommandTestClearBlock", "", "clear-block"},
-        {"MCCspeed", "", "mcc-speed"},
-        // The slider falls back to 0, and speed 0 follows in the new step mode.
-        {"CheckMCC30", "", "mcc-speed mcc-speed"},
-        {"cmdEstopMCC", "", "mcc-speed"},
-        {"cmdTestMCCfunction", "", "mcc-functions"},
-        {"cmdTestJS70(0)", "", "point"},
-        {"cmdTestJS70(1)", "", "point"},
-        {"cmdTestYR70", "", "signal-aspect"},
-        {"cmdTestGW70", "", "output"},
-        {"CommandTestLink(0)", "", "link"},
-        {"CommandTestLink(1)", "", "link"},
-        {"CommandTestLink(2)", "", "unlink"},
-        {"CommandTestLink(3)", "", "unlink"},
-        {"cmdTM(0)", "", "transparent-channel-0"},
-        {"cmdTM(1)", "", "transparent-channel-1"},
-        {"cmdTM(2)", "", "transparent-boot-loader"},
-    };
+    std::vector<SendingControl> all(std::begin(kPlainControls), std::end(kPlainControls));
     // What a status request asks for: 32 traction modules and three second units, 16 point-motor
     // modules and 32 signal controllers.
     all.push_back({"cmdStatus", "", "protocol-version unit-type " + Times("module-status", 83)});
@@ -79,28 +99,10 @@ std::vector<SendingControl> SendingControls() {
     const std::string memory =
         "points-get-default-time " + Times("points-get-device", sim::kPointDevices);
     all.push_back({"cmdGetJSConfig", "", memory + ' ' + memory});
-    struct Setting {
-        const char* set;
-        const char* get;
-        const char* module;
-        const char* moduleThatTells;
-        int commands;
-    };
-    for (const auto& [set, get, module, moduleThatTells, commands] :
-         {Setting{"cmdSW(0)", "cmdSW(1)", " 0", " 0", 4},
-          {"cmdHFI(0)", "cmdHFI(1)", " 0", " 5.0", 1},
-          {"cmdAL(0)", "cmdAL(1)", " 5.1", " 5.1", 2},
-          {"cmdDCShift(0)", "cmdDCShift(1)", " 0", " 0", 1},
-          {"cmdPWMM(0)", "cmdPWMM(1)", " 0", " 0", 1},
-          {"cmdOCD(0)", "cmdOCD(1)", " 0", " 0", 1},
-          {"cmdMS(0)", "cmdMS(1)", " 0", " 5.0", 1},
-          {"cmdPC(0)", "cmdPC(1)", " 0", " 0", 1},
-          // A QLRX-s takes settings and gives none back: their Get buttons never show.
-          {"cmdLC(0)", nullptr, " 8", nullptr, 1},
-          {"cmdAD(0)", nullptr, " 8", nullptr, 1}}) {
-        all.push_back({set, module, Times("traction-set", commands)});
-        if (get != nullptr) {
-            all.push_back({get, moduleThatTells, Times("traction-get", commands)});
+    for (const SettingButtons& row : kSettingButtons) {
+        all.push_back({row.set, row.module, Times("traction-set", row.commands)});
+        if (row.get != nullptr) {
+            all.push_back({row.get, row.moduleThatTells, Times("traction-get", row.commands)});
         }
     }
     return all;

@@ -82,8 +82,8 @@ std::set<std::string> BuildersIn(const Source& source) {
     // if the name begins as constants do. A trailing return type stands behind an arrow.
     static const std::regex kBefore(
         R"(\b(?:Module)?Command\b(?:\s|>|&|\*|\bconst\b)*((?:\w+::)*(\w+))\s*(\(|[{=;]|\[))");
-    static const std::regex kBehind(
-        R"((\w+)\s*\([^()]*\)\s*(?:const\s*)?(?:noexcept\s*)?->\s*(?:std::\w+<\s*)*(?:Module)?Command\b)");
+    static const std::regex kBehind(R"((\w+)\s*\([^()]*\)\s*(?:const\s*)?(?:noexcept\s*)?->\s*)"
+                                    R"((?:std::\w+<\s*)*(?:Module)?Command\b)");
     std::set<std::string> builders;
     for (std::sregex_iterator match(source.text.begin(), source.text.end(), kBefore), end;
          match != end; ++match) {
