@@ -42,7 +42,10 @@ TEST_P(AnalogForm, TheBlockRunsAsTheFormSaysAndTheReadOutFollows) {
     const int sign = forward ? 1 : -1;
     EXPECT_EQ(EffectOf([&] { SlideTo("AnalogSpeed", speed); }),
               (Changes{{prefix + ".target", sign * speed}}));
-    port.Pass(std::chrono::milliseconds(10) * acceleration * speed);
+    const auto step = acceleration * std::chrono::milliseconds(10);
+    port.Pass(step * speed - step / 2);
+    EXPECT_EQ(SpeedOf(block), sign * (acceleration == 0 ? speed : speed - 1));
+    port.Pass(step / 2);
     EXPECT_EQ(SpeedOf(block), sign * speed);
     Poll(2);
     EXPECT_EQ(ReadOut(), QString::fromUtf8(forward ? ">>%1" : "<<%1").arg(speed));
