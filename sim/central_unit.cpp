@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "commands.h"
+#include "railway_unit.h"
 #include "state_listing.h"
 
 namespace zelvar::sim {
@@ -28,8 +29,16 @@ void CentralUnit::NoteHeader(const CommandFrame& command) {
 }
 
 void CentralUnit::Advance(Time now) {
-    state_.now = now;
-    state_.drive.Advance(now, state_.reports);
+    const Time simulated = clock_.At(now);
+    if (RunRailway(state_, simulated) < simulated) {
+        // Nobody has looked for so long that the rest of that time is dropped.
+        clock_.GoOn(now, state_.now, clock_.factor());
+    }
+}
+
+void CentralUnit::SetTimeFactor(int factor, Time now) {
+    Advance(now);
+    clock_.GoOn(now, state_.now, factor);
 }
 
 std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) {
@@ -58,9 +67,10 @@ std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) 
 }
 
 void CentralUnit::Reboot(Time now) {
-    state_.now = now;
+    Advance(now);
     state_.memories.Restart();
     state_.drive.Restart();
+    state_.railway.Halt();
     state_.transparent = false;
     state_.fault = false;
     state_.hold = false;
@@ -74,6 +84,9 @@ std::string CentralUnit::Describe(Time now) {
     Advance(now);
     std::ostringstream out;
     ListUnit(out, state_);
+    out << "time-factor=" << clock_.factor() << '\n'
+        << "simulated-ms="
+        << std::chrono::duration_cast<std::chrono::milliseconds>(state_.now).count() << '\n';
     out << "frames=" << frames_ << '\n'
         << "broken-frames=" << brokenFrames_ << '\n'
         << "passed-through=" << passedThrough_ << '\n'
@@ -83,8 +96,36 @@ std::string CentralUnit::Describe(Time now) {
         out << "command." << name << '=' << times << '\n';
     }
     ListDrive(out, state_);
+    ListRailway(out, state_);
     ListMemories(out, state_);
     return out.str();
+}
+
+std::vector<TableSection> CentralUnit::Sections(Time now) {
+    Advance(now);
+    std::vector<TableSection> sections = StateSections(state_);
+    if (!state_.railway.trains().empty()) {
+        sections.push_back(
+            {"Simulated time",
+             {},
+             {{"passed", std::to_string(state_.now / std::chrono::seconds(1)) + " s"},
+              {"factor", std::to_string(clock_.factor())}}});
+    }
+    TableSection frames{"Frames", {}, {{"received", std::to_string(frames_)}}};
+    const auto mention = [&](const char* what, std::uint64_t count) {
+        if (count > 0) {
+            frames.rows.push_back({what, std::to_string(count)});
+        }
+    };
+    mention("broken", brokenFrames_);
+    mention("passed through", passedThrough_);
+    mention("unknown commands", unknownCommands_);
+    mention("repeated toggles", repeatedToggles_);
+    for (const auto& [name, times] : carriedOut_) {
+        frames.rows.push_back({std::string(name), std::to_string(times)});
+    }
+    sections.push_back(frames);
+    return sections;
 }
 
 }  // namespace zelvar::sim

@@ -7,7 +7,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "simulated_clock.h"
+#include "state_table.h"
 #include "unit_state.h"
 #include "wire.h"
 
@@ -24,7 +27,10 @@ struct Reply {
 /// The central unit with the layout behind it: one right command frame in, at most one reply out.
 class CentralUnit {
   public:
-    explicit CentralUnit(const Layout& layout) : state_(layout) {}
+    /// @param seed of the little differences between engines; 0: none
+    explicit CentralUnit(const Layout& layout, int timeFactor = kUsualTimeFactor,
+                         std::uint32_t seed = 0)
+        : state_(layout, seed), clock_(timeFactor) {}
 
     /// Whether the unit has a command of this shape; the others are only acknowledged.
     static bool IsKnown(const Payload& command);
@@ -36,8 +42,11 @@ class CentralUnit {
     /// A frame whose checksum was wrong or whose header was none; it gets no reply.
     void NoteBrokenFrame() { ++brokenFrames_; }
 
-    /// Lets time pass up to `now`; `Handle` and `Describe` do so on their own.
+    /// Lets time pass up to `now`, of the caller's clock; `Handle`, `Describe` and `Reboot` do so
+    /// on their own.
     void Advance(Time now);
+    /// Simulated seconds in each second from `now` on, 0 to `kMostTimeFactor`.
+    void SetTimeFactor(int factor, Time now);
     /// Switched off and on: permanent settings hold again, transparent mode ends, and so do fault,
     /// hold and what waited to be reported.
     void Reboot(Time now);
@@ -46,6 +55,8 @@ class CentralUnit {
 
     /// Several lines "name=value", each ended by a line feed.
     std::string Describe(Time now);
+    /// The same for people, without what is not there.
+    std::vector<TableSection> Sections(Time now);
 
     UnitState& state() { return state_; }
 
@@ -53,6 +64,7 @@ class CentralUnit {
     void NoteHeader(const CommandFrame& command);
 
     UnitState state_;
+    SimulatedClock clock_;
     std::map<std::string_view, std::uint64_t> carriedOut_;
     std::uint64_t frames_ = 0;
     std::uint64_t brokenFrames_ = 0;

@@ -12,6 +12,8 @@ namespace {
 constexpr int kDecimal = 10;
 constexpr int kHexadecimal = 16;
 
+}  // namespace
+
 std::vector<std::string> SplitWords(std::string_view line) {
     std::istringstream in{std::string(line)};
     std::vector<std::string> words;
@@ -20,8 +22,6 @@ std::vector<std::string> SplitWords(std::string_view line) {
     }
     return words;
 }
-
-}  // namespace
 
 std::optional<int> ParseNumber(std::string_view text, int least, int most) {
     int base = kDecimal;
@@ -73,26 +73,40 @@ std::string CommandForm(const ConsoleCommand& command) {
     return form;
 }
 
+std::span<const std::span<const ConsoleCommand>> ConsoleTables() {
+    static const std::span<const ConsoleCommand> kTables[] = {
+        LayoutConsoleCommands(), RailwayConsoleCommands(), FaultConsoleCommands(),
+        ProgramConsoleCommands()};
+    return kTables;
+}
+
+const ConsoleCommand* FindConsoleCommand(std::string_view name) {
+    for (const std::span<const ConsoleCommand> table : ConsoleTables()) {
+        for (const ConsoleCommand& command : table) {
+            if (command.name == name) {
+                return &command;
+            }
+        }
+    }
+    return nullptr;
+}
+
 ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line) {
     const std::vector<std::string> words = SplitWords(line);
     if (words.empty()) {
         return {};
     }
-    const ConsoleArguments arguments = ConsoleArguments(words).subspan(1);
-    for (const auto table :
-         {LayoutConsoleCommands(), FaultConsoleCommands(), ProgramConsoleCommands()}) {
-        for (const ConsoleCommand& command : table) {
-            if (command.name != words.front()) {
-                continue;
-            }
-            if (arguments.size() < command.leastArguments ||
-                arguments.size() > command.mostArguments) {
-                return Error(std::string("usage: ").append(CommandForm(command)));
-            }
-            return command.run(context, arguments);
-        }
+    const ConsoleCommand* command = FindConsoleCommand(words.front());
+    if (command == nullptr) {
+        return Error(std::string("unknown command ").append(words.front()));
     }
-    return Error(std::string("unknown command ").append(words.front()));
+    const ConsoleArguments arguments = ConsoleArguments(words).subspan(1);
+    if (arguments.size() < command->leastArguments || arguments.size() > command->mostArguments) {
+        return Error(std::string("usage: ").append(CommandForm(*command)));
+    }
+    // What it changes holds from now on, not since somebody last looked.
+    context.unit.Advance(context.now);
+    return command->run(context, arguments);
 }
 
 }  // namespace zelvar::sim

@@ -91,15 +91,23 @@ ConsoleResult Drip(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"silent", "on|off", 1, 1, &Silent},
-    {"silent-after", "N", 1, 1, &SilentAfter},
-    {"late", "MS [N]", 1, 2, &Late},
-    {"bad-checksum", "N", 1, 1, &BadChecksum},
-    {"short", "N", 1, 1, &Short},
-    {"double", "N", 1, 1, &Double},
-    {"stray", "HEX...", 1, kAnyNumberOfArguments, &Stray},
-    {"drip", "MS", 1, 1, &Drip},
-    {"defer", "N", 1, 1, &Defer},
+    {"silent", "on|off", 1, 1, &Silent, "Answers nothing, or everything again.", "silent on"},
+    {"silent-after", "N", 1, 1, &SilentAfter,
+     "Answers the next N frames, then nothing until \"silent off\".", "silent-after 3"},
+    {"late", "MS [N]", 1, 2, &Late,
+     "Delays the next N replies by MS milliseconds; without N all of them, until \"late 0\".",
+     "late 500 2"},
+    {"bad-checksum", "N", 1, 1, &BadChecksum, "Sends the next N replies with a wrong checksum.",
+     "bad-checksum 1"},
+    {"short", "N", 1, 1, &Short, "Sends the next N replies without their checksum.", "short 1"},
+    {"double", "N", 1, 1, &Double, "Sends the next N replies twice.", "double 1"},
+    {"stray", "HEX...", 1, kAnyNumberOfArguments, &Stray,
+     "Sends these bytes before the next reply.", "stray FF 08"},
+    {"drip", "MS", 1, 1, &Drip, "Leaves MS milliseconds more between two bytes; 0 ends it.",
+     "drip 50"},
+    {"defer", "N", 1, 1, &Defer,
+     "Empties the next N replies that carry something; later polls bring their content.",
+     "defer 1"},
 };
 
 }  // namespace

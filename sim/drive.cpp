@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "drive.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -15,6 +16,12 @@ constexpr int kHalvesPerStep = 2;
 
 }  // namespace
 
+int MccHalfSteps(int code) {
+    const bool even = (code & kMccEvenBit) != 0;
+    const int full = code & kMccFullMask;
+    return full == 0 ? 0 : kHalvesPerStep * full - (even ? 0 : 1);
+}
+
 void Drive::Advance(std::chrono::nanoseconds now, ReportQueue& reports) {
     now_ = now;
     for (int number = 0; number < kBlocks; ++number) {
@@ -27,6 +34,15 @@ void Drive::Advance(std::chrono::nanoseconds now, ReportQueue& reports) {
     for (auto& [decoder, locomotive] : mcc_) {
         locomotive.halfSteps.Advance(now);
     }
+}
+
+bool Drive::Settled() const {
+    return std::all_of(
+               blocks_.begin(), blocks_.end(),
+               [](const Block& block) { return block.speed.speed() == block.speed.target(); }) &&
+           std::all_of(mcc_.begin(), mcc_.end(), [](const auto& entry) {
+               return entry.second.halfSteps.speed() == entry.second.halfSteps.target();
+           });
 }
 
 void Drive::Restart() {
@@ -54,6 +70,7 @@ void Drive::ClearBlock(int block) {
             locomotive.speed = 0;
             locomotive.forward = true;
             locomotive.functions.reset();
+            locomotive.cleared = true;
         }
     }
 }
@@ -89,10 +106,7 @@ void Drive::Unlink(int block, bool up, bool clearOthers) {
 void Drive::SetMccSpeed(int decoder, int code, int acceleration) {
     MccLocomotive& locomotive = mcc_[decoder];
     locomotive.emergencyStop = code == 0;
-    const bool even = (code & kMccEvenBit) != 0;
-    const int full = code & kMccFullMask;
-    const int halfSteps = full == 0 ? 0 : kHalvesPerStep * full - (even ? 0 : 1);
-    locomotive.halfSteps.Set(halfSteps, now_, acceleration * kMccHalfStep);
+    locomotive.halfSteps.Set(MccHalfSteps(code), now_, acceleration * kMccHalfStep);
 }
 
 std::map<int, bool> Drive::Together(int block) const {

@@ -46,6 +46,7 @@ struct DccLocomotive {
     bool emergencyStop = false;
     int block = 0;
     std::bitset<kDccFunctions> functions;  // 0 is the light
+    bool cleared = false;                  // stopped with its block, until its next speed
 };
 
 struct MccLocomotive {
@@ -53,6 +54,9 @@ struct MccLocomotive {
     bool emergencyStop = false;
     int functions = 0;  // eight bits
 };
+
+/// The half steps 0..30 that a speed code of an MCC command means; code 0, the emergency stop, too.
+int MccHalfSteps(int code);
 
 /// What an output module was told for one of its outputs.
 struct OutputSetting {
@@ -74,6 +78,8 @@ class Drive {
     /// Lets time pass up to `now`. Each block whose speed changed, also by a command since the last
     /// call, is reported.
     void Advance(std::chrono::nanoseconds now, ReportQueue& reports);
+    /// Whether no speed is on its way to another one.
+    bool Settled() const;
     /// The unit starts afresh: everything stands, nothing is linked, nothing is reported.
     void Restart();
 

@@ -52,6 +52,7 @@ Answer DccSpeed28(UnitState& state, const Payload& command) {
     const int speed = command[2] & kDccSpeedMask;
     locomotive.block = Split(command, 0);
     locomotive.steps = kDccSteps28;
+    locomotive.cleared = false;
     locomotive.forward = (command[2] & kDccForwardBit) != 0;
     locomotive.emergencyStop = speed == kDccStop28;
     locomotive.speed = locomotive.emergencyStop ? 0 : speed;
@@ -62,6 +63,7 @@ Answer DccSpeed126(UnitState& state, const Payload& command) {
     DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, 4));
     locomotive.block = Split(command, 0);
     locomotive.steps = kDccSteps126;
+    locomotive.cleared = false;
     locomotive.forward = command[2] != 0;
     locomotive.emergencyStop = command[3] == kDccStop126;
     locomotive.speed = locomotive.emergencyStop ? 0 : command[3];

@@ -20,6 +20,10 @@ void LineEngine::Receive(std::span<const std::uint8_t> bytes, Time now) {
     for (const std::uint8_t byte : bytes) {
         const Time received = inbound_.Pass(now);
         if (byte < kFirstDataByte || partial_.size() == kLongestFrame) {
+            // A frame that was cut off, or bytes that belong to none.
+            if (!partial_.empty()) {
+                Trace(false, partial_);
+            }
             partial_.clear();
         }
         partial_.push_back(byte);

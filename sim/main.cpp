@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <fstream>
 #include <iostream>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "explain.h"
 #include "layout_choice.h"
 #include "options.h"
 #include "server.h"
@@ -13,6 +15,27 @@
 namespace {
 
 constexpr int kWrongUsage = 2;
+
+int Explain(const std::string& path) {
+    std::ifstream file;
+    if (path != "-") {
+        file.open(path);
+        // A folder opens, but cannot be read.
+        if (!file || file.peek() == std::ifstream::traits_type::eof()) {
+            if (!file.eof()) {
+                std::cerr << "zelvarsim: cannot read " << path << '\n';
+                return 1;
+            }
+        }
+    }
+    const zelvar::sim::LogCount count =
+        zelvar::sim::ExplainLog(path == "-" ? std::cin : file, std::cout);
+    if (count.unknown > 0) {
+        std::cerr << "zelvarsim: " << count.unknown << " of " << count.lines
+                  << " lines not understood, marked with ?\n";
+    }
+    return 0;
+}
 
 }  // namespace
 
@@ -31,6 +54,9 @@ int main(int argc, char** argv) {
     if (options.version) {
         std::cout << "zelvarsim " ZELVAR_SIM_VERSION "\n";
         return 0;
+    }
+    if (!options.explain.empty()) {
+        return Explain(options.explain);
     }
     const auto folder = zelvar::sim::LayoutFolder(argv[0]);
     if (options.listLayouts) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "options.h"
 
+#include <limits>
+
 #include "console.h"
 
 namespace zelvar::sim {
@@ -50,6 +52,28 @@ bool TakeUnitDelay(Options& options, std::string_view value) {
     return delay.has_value();
 }
 
+bool TakeTimeFactor(Options& options, std::string_view value) {
+    const std::optional<int> factor = ParseNumber(value, 0, kMostTimeFactor);
+    options.timeFactor = factor.value_or(kUsualTimeFactor);
+    return factor.has_value();
+}
+
+bool TakeSeed(Options& options, std::string_view value) {
+    const std::optional<int> seed = ParseNumber(value, 0, std::numeric_limits<int>::max());
+    options.seed = seed.value_or(0);
+    return seed.has_value();
+}
+
+bool TakeTrace(Options& options, std::string_view) {
+    options.trace = true;
+    return true;
+}
+
+bool TakeExplain(Options& options, std::string_view value) {
+    options.explain = value;
+    return !value.empty();
+}
+
 bool TakeListLayouts(Options& options, std::string_view) {
     options.listLayouts = true;
     return true;
@@ -83,6 +107,16 @@ constexpr Option kOptions[] = {
      "slash or ending in .toml, or \"none\": a unit alone"},
     {"--list-layouts", "", &TakeListLayouts, "lists the shipped layouts and ends"},
     {"--unit-delay", "MS", &TakeUnitDelay, "between a command and its reply; 1 by default"},
+    {"--time-factor", "N", &TakeTimeFactor,
+     "simulated seconds a second, 0..100: trains run N times as\n"
+     "fast, and at 0 they stand; 1 by default"},
+    {"--seed", "N", &TakeSeed,
+     "engines differ a little, otherwise for each N; by default\n"
+     "(0) all run as described"},
+    {"--trace", "", &TakeTrace, "prints every frame with its time, its bytes and its meaning"},
+    {"--explain", "FILE", &TakeExplain,
+     "tells what the lines of a message log or a trace mean, and\n"
+     "ends; \"-\": of standard input"},
     {"--help", "", &TakeHelp, "shows this and ends"},
     {"--version", "", &TakeVersion, "shows the version and ends"},
 };

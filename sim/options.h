@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "layout.h"
+#include "simulated_clock.h"
 
 namespace zelvar::sim {
 
@@ -22,6 +23,10 @@ struct Options {
     std::string layoutName = "club";
     Layout layout;  // what the name stands for; reading it is not left to ParseOptions
     std::chrono::milliseconds unitDelay{1};
+    int timeFactor = kUsualTimeFactor;
+    int seed = 0;
+    bool trace = false;
+    std::string explain;  // a log to explain instead of serving; "-": standard input
     bool listLayouts = false;
     bool help = false;
     bool version = false;

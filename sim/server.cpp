@@ -5,11 +5,15 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <ctime>
 #include <iostream>
 #include <sys/select.h>
 #include <unistd.h>
+
+#include "console_completion.h"
 
 namespace zelvar::sim {
 
@@ -19,26 +23,42 @@ constexpr std::size_t kConsoleChunk = 1024;
 constexpr std::size_t kLongestLine = 65'536;  // what is longer is no command
 
 volatile std::sig_atomic_t endRequested = 0;
+volatile std::sig_atomic_t terminalChanged = 0;
 
 extern "C" void RequestEnd(int) {
     endRequested = 1;
 }
 
+extern "C" void NoteTerminal(int) {
+    terminalChanged = 1;
+}
+
+struct Caught {
+    int number;
+    void (*handler)(int);
+};
+
+constexpr Caught kSignals[] = {{SIGTERM, &RequestEnd},
+                               {SIGINT, &RequestEnd},
+                               {SIGHUP, &RequestEnd},
+                               {SIGWINCH, &NoteTerminal},
+                               {SIGCONT, &NoteTerminal}};
+
 /// Signals end the wait, and nothing but the wait: they stay blocked everywhere else.
 sigset_t CatchSignals() {
-    struct sigaction action {};
-    action.sa_handler = &RequestEnd;
     sigset_t blocked;
     sigset_t original;
     sigemptyset(&blocked);
-    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        sigaction(number, &action, nullptr);
-        sigaddset(&blocked, number);
+    for (const Caught& caught : kSignals) {
+        struct sigaction action {};
+        action.sa_handler = caught.handler;
+        sigaction(caught.number, &action, nullptr);
+        sigaddset(&blocked, caught.number);
     }
     std::signal(SIGPIPE, SIG_IGN);
     sigprocmask(SIG_BLOCK, &blocked, &original);
-    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        sigdelset(&original, number);
+    for (const Caught& caught : kSignals) {
+        sigdelset(&original, caught.number);
     }
     return original;
 }
@@ -55,20 +75,28 @@ timespec ToTimespec(Time duration) {
     return result;
 }
 
-void PrintTrace(bool sent, std::span<const std::uint8_t> bytes) {
-    std::string text = sent ? "trace tx" : "trace rx";
-    for (const std::uint8_t byte : bytes) {
-        std::array<char, 4> hex{};
-        std::snprintf(hex.data(), hex.size(), " %02X", static_cast<unsigned>(byte));
-        text += hex.data();
-    }
-    std::cout << text << std::endl;
+/// The time of day, to the millisecond: "12:00:03.120".
+std::string TimeOfDay() {
+    const auto now = std::chrono::system_clock::now();
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
+    const auto milliseconds =
+        std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() %
+        1000;
+    std::tm local{};
+    localtime_r(&seconds, &local);
+    std::array<char, 16> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), "%H:%M:%S", &local);
+    std::snprintf(text.data() + length, text.size() - length, ".%03d",
+                  static_cast<int>(milliseconds));
+    return text.data();
 }
 
 }  // namespace
 
 Server::Server(const Options& options)
-    : options_(options), unit_(options.layout), engine_(unit_, faults_, options.unitDelay) {}
+    : options_(options),
+      unit_(options.layout, options.timeFactor, static_cast<std::uint32_t>(options.seed)),
+      engine_(unit_, faults_, options.unitDelay) {}
 
 bool Server::OpenLine() {
     const std::optional<std::string> error =
@@ -78,7 +106,7 @@ bool Server::OpenLine() {
         std::cerr << "zelvarsim: " << *error << std::endl;
         return false;
     }
-    std::cout << "ready " << line_.path() << std::endl;
+    Print("ready " + line_.path() + "\n");
     return true;
 }
 
@@ -87,6 +115,13 @@ int Server::Run() {
     const sigset_t whileWaiting = CatchSignals();
     if (!OpenLine()) {
         return 1;
+    }
+    SetTrace(options_.trace);
+    if (isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0) {
+        const auto complete = [this](std::string_view line) {
+            return CompleteLine(unit_.state(), line);
+        };
+        editor_ = std::make_unique<LineEditor>(complete, HistoryPath());
     }
     while (!done_ && endRequested == 0) {
         fd_set readable;
@@ -109,6 +144,10 @@ int Server::Run() {
         }
         const int ready = pselect(highest + 1, &readable, nullptr, nullptr,
                                   due ? &timeout : nullptr, &whileWaiting);
+        if (terminalChanged != 0 && editor_) {
+            terminalChanged = 0;
+            editor_->Restore();
+        }
         if (ready < 0) {
             continue;  // a signal; nothing else can fail here
         }
@@ -124,6 +163,7 @@ int Server::Run() {
             line_.Write(bytes);
         }
     }
+    editor_.reset();  // gives the terminal back
     line_.Close();
     return exitCode_;
 }
@@ -155,10 +195,16 @@ void Server::ServeConsole() {
     }
     if (count <= 0) {
         consoleOpen_ = false;
-        done_ = isatty(STDIN_FILENO) != 0;
+        done_ = editor_ || isatty(STDIN_FILENO) != 0;
         return;
     }
-    input_.append(chunk.data(), static_cast<std::size_t>(count));
+    const std::string_view bytes(chunk.data(), static_cast<std::size_t>(count));
+    if (editor_) {
+        const auto run = [this](const std::string& line) { RunLine(line); };
+        done_ = editor_->Feed(bytes, run) == LineEditor::Outcome::kGone || done_;
+        return;
+    }
+    input_.append(bytes);
     for (std::size_t end = input_.find('\n'); end != std::string::npos; end = input_.find('\n')) {
         const std::string line = input_.substr(0, end);
         input_.erase(0, end + 1);
@@ -173,7 +219,7 @@ void Server::RunLine(const std::string& line) {
     ConsoleContext context{unit_, faults_, Now(), line_.IsOpen() ? line_.Baud() : 0};
     const ConsoleResult result = RunConsoleLine(context, line);
     if (!result.text.empty() && result.action != ConsoleAction::kReconnect) {
-        std::cout << result.text << std::endl;
+        Print(result.text + "\n");
     }
     Act(result.action);
 }
@@ -183,10 +229,10 @@ void Server::Act(ConsoleAction action) {
         case ConsoleAction::kNone:
             break;
         case ConsoleAction::kTraceOn:
-            engine_.SetTrace(&PrintTrace);
+            SetTrace(true);
             break;
         case ConsoleAction::kTraceOff:
-            engine_.SetTrace(nullptr);
+            SetTrace(false);
             break;
         case ConsoleAction::kHangUp:
             line_.Close();
@@ -194,11 +240,30 @@ void Server::Act(ConsoleAction action) {
             break;
         case ConsoleAction::kReconnect:
             engine_.Reset();
-            std::cout << (OpenLine() ? "ok" : "error cannot open the line") << std::endl;
+            Print(OpenLine() ? "ok\n" : "error cannot open the line\n");
             break;
         case ConsoleAction::kQuit:
             done_ = true;
             break;
+    }
+}
+
+void Server::SetTrace(bool on) {
+    if (!on) {
+        engine_.SetTrace(nullptr);
+        return;
+    }
+    engine_.SetTrace([this](bool sent, std::span<const std::uint8_t> bytes) {
+        const std::string meaning = sent ? explainer_.Reply(bytes) : explainer_.Command(bytes);
+        Print(TraceLine(TimeOfDay(), sent, bytes, meaning) + "\n");
+    });
+}
+
+void Server::Print(const std::string& text) {
+    if (editor_) {
+        editor_->Print(text);
+    } else {
+        std::cout << text << std::flush;
     }
 }
 

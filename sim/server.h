@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "central_unit.h"
 #include "console.h"
+#include "explain.h"
 #include "faults.h"
+#include "line_editor.h"
 #include "line_engine.h"
 #include "options.h"
 #include "serial_line.h"
@@ -27,13 +30,18 @@ class Server {
     void ServeConsole();
     void RunLine(const std::string& line);
     void Act(ConsoleAction action);
+    void SetTrace(bool on);
+    /// Text that ends with a line feed.
+    void Print(const std::string& text);
 
     Options options_;
     CentralUnit unit_;
     Faults faults_;
     LineEngine engine_;
     SerialLine line_;
-    std::string input_;  // of the console, up to the next line feed
+    Explainer explainer_;
+    std::unique_ptr<LineEditor> editor_;  // only with a person at a terminal
+    std::string input_;                   // of the console, up to the next line feed
     bool consoleOpen_ = true;
     bool done_ = false;
     int exitCode_ = 0;

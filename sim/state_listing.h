@@ -12,6 +12,8 @@ namespace zelvar::sim {
 void ListUnit(std::ostream& out, const UnitState& state);
 /// Blocks that run, are lit or head backwards, links, decoders and accessories.
 void ListDrive(std::ostream& out, const UnitState& state);
+/// Where the trains are, and what stands in each section.
+void ListRailway(std::ostream& out, const UnitState& state);
 /// Both memories of every module that is there.
 void ListMemories(std::ostream& out, const UnitState& state);
 

@@ -61,7 +61,7 @@ std::optional<int> ParseVersion(std::string_view text) {
 
 }  // namespace
 
-std::string Joined(std::span<const std::string> parts, std::string_view last) {
+std::string JoinedWith(std::span<const std::string> parts, std::string_view last) {
     std::string text;
     for (std::size_t index = 0; index < parts.size(); ++index) {
         if (index > 0) {
@@ -138,7 +138,7 @@ std::optional<int> TableReader::WordValue(std::string_view key, const TomlValue&
         }
         choices.push_back(Quoted(word.text));
     }
-    Wrong(key, found, Joined(choices, "or"));
+    Wrong(key, found, JoinedWith(choices, "or"));
     return std::nullopt;
 }
 
@@ -239,8 +239,8 @@ std::optional<int> TableReader::Version(std::string_view key, bool mayBeNone, Ne
     // The two bytes that carry a version have no room for every number.
     if (!version || !EncodeVersion(*version)) {
         Wrong(key, *found,
-              std::string(R"(a version "0.00".."9.85", with a letter as in "1.02 C" or without)") +
-                  (mayBeNone ? R"(, or "none",)" : ""));
+              std::string(R"(a version like "1.02" or "1.02 C", up to "9.85 G",)") +
+                  (mayBeNone ? R"( or "none")" : ""));
         return std::nullopt;
     }
     return version;
@@ -280,8 +280,8 @@ void TableReader::RejectOtherKeys() {
     std::vector<std::string> names(known_.begin(), known_.end());
     for (const TomlEntry& entry : table_) {
         if (std::find(known_.begin(), known_.end(), entry.key) == known_.end()) {
-            Problem(entry.line,
-                    "unknown key " + Quoted(entry.key) + ": " + Joined(names, "or") + " expected");
+            Problem(entry.line, "unknown key " + Quoted(entry.key) + ": " +
+                                    JoinedWith(names, "or") + " expected");
         }
     }
 }

@@ -100,6 +100,6 @@ class TableReader {
 };
 
 /// `"a"`, `"b"` and `"c"`, joined for a message.
-std::string Joined(std::span<const std::string> parts, std::string_view last);
+std::string JoinedWith(std::span<const std::string> parts, std::string_view last);
 
 }  // namespace zelvar::sim

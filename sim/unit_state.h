@@ -8,6 +8,7 @@
 #include "drive.h"
 #include "layout.h"
 #include "memories.h"
+#include "railway.h"
 #include "reports.h"
 
 namespace zelvar::sim {
@@ -17,11 +18,17 @@ using Time = std::chrono::nanoseconds;
 
 /// Everything the commands and the console work on.
 struct UnitState {
-    explicit UnitState(const Layout& described) : layout(described), memories(described) {}
+    /// Engines differ a little by `seed`; not at all when it is 0.
+    explicit UnitState(const Layout& described, std::uint32_t seed = 0)
+        : layout(described),
+          memories(described),
+          railway(described.track, seed),
+          feedback(railway.detected()) {}
 
     Layout layout;
     Memories memories;
-    Time now{0};
+    Railway railway;
+    Time now{0};  // simulated
     bool fault = false;
     bool hold = false;
     bool stopRequested = false;

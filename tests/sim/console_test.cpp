@@ -200,23 +200,60 @@ INSTANTIATE_TEST_SUITE_P(
                     ActionCase{"Wrong", "quit now", ConsoleAction::kNone}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(ConsoleTest, StateEndsWithOk) {
-    const std::string text = Answer("state");
+TEST_F(ConsoleTest, DumpEndsWithOk) {
+    const std::string text = Answer("dump");
     EXPECT_TRUE(text.starts_with("unit-type=2\n"));
     EXPECT_NE(text.find("\nsilent=0\n"), std::string::npos);
     EXPECT_TRUE(text.ends_with("\nok"));
 }
 
-TEST_F(ConsoleTest, HelpListsEveryCommandAndEndsWithOk) {
-    const std::string text = std::string("\n").append(Answer("help"));
-    for (const auto table :
-         {LayoutConsoleCommands(), FaultConsoleCommands(), ProgramConsoleCommands()}) {
+TEST_F(ConsoleTest, StateShowsTablesAndTheLine) {
+    const std::string text = Answer("state");
+    EXPECT_TRUE(text.starts_with("Unit\n  type             KB-E\n")) << text;
+    EXPECT_TRUE(text.ends_with("Line\n  rate     no line\n  answers  every command\n\nok")) << text;
+    Answer("silent on");
+    EXPECT_NE(Answer("state").find("answers  nothing\n"), std::string::npos);
+}
+
+TEST_F(ConsoleTest, HelpTellsOfEveryCommandInAlignedColumnsAndEndsWithOk) {
+    std::istringstream lines(Answer("help"));
+    std::size_t column = 0;
+    for (const auto table : ConsoleTables()) {
         for (const ConsoleCommand& command : table) {
-            EXPECT_NE(text.find(std::string("\n").append(CommandForm(command)).append("\n")),
-                      std::string::npos);
+            std::string line;
+            std::getline(lines, line);
+            EXPECT_TRUE(line.starts_with(CommandForm(command) + " ")) << line;
+            ASSERT_TRUE(line.ends_with(command.help)) << line;
+            const std::size_t start = line.size() - command.help.size();
+            column = column == 0 ? start : column;
+            EXPECT_EQ(start, column) << line;
         }
     }
-    EXPECT_TRUE(text.ends_with("\nok"));
+    std::string last;
+    std::getline(lines, last);
+    EXPECT_EQ(last, "ok");
+}
+
+TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRight) {
+    Layout layout = MixedLayout();
+    layout.track.sections.push_back({"platform-1", 1, 100, {}, {}, {}});
+    layout.track.trains.push_back({"red", TrainControl::kAnalog, 0, false, 0, 50, 20, 30, 0});
+    unit_ = CentralUnit(layout);
+    for (const auto table : ConsoleTables()) {
+        for (const ConsoleCommand& command : table) {
+            EXPECT_TRUE(command.help.ends_with('.')) << command.name;
+            EXPECT_EQ(command.help.find(". "), std::string_view::npos) << command.name;
+            const std::string answer = Answer(command.example);
+            EXPECT_EQ(SplitWords(command.example).at(0), command.name);
+            EXPECT_TRUE(answer.ends_with("ok")) << command.example << ": " << answer;
+        }
+    }
+}
+
+TEST_F(ConsoleTest, HelpOfOneCommandHasItsExample) {
+    EXPECT_EQ(Answer("help silent"),
+              "silent on|off\n  Answers nothing, or everything again.\n  Example: silent on\nok");
+    EXPECT_EQ(Answer("help nonsense"), "error unknown command nonsense");
 }
 
 TEST(ParseNumberTest, TakesDecimalAndHexadecimalOnly) {

@@ -102,6 +102,17 @@ TEST_F(LineEngineTest, TracesFramesAsTheyWere) {
                           {false, {0x08, 0xF8}}, {true, {0x08, 0xF8}}, {false, {0x08, 0xF9}}}));
 }
 
+TEST_F(LineEngineTest, TracesAFrameThatWasCutOffAndBytesWithoutAHeader) {
+    std::vector<Bytes> traced;
+    engine_.SetTrace([&](bool sent, std::span<const std::uint8_t> bytes) {
+        if (!sent) {
+            traced.emplace_back(bytes.begin(), bytes.end());
+        }
+    });
+    engine_.Receive(Bytes{0x81, 0x0B, 0xA2, 0x08, 0xF8}, milliseconds(0));
+    EXPECT_EQ(traced, (std::vector<Bytes>{{0x81}, {0x0B, 0xA2}, {0x08, 0xF8}}));
+}
+
 TEST_F(LineEngineTest, EndlessBytesOutsideAFrameAreNotKept) {
     std::size_t longest = 0;
     engine_.SetTrace([&](bool, std::span<const std::uint8_t> bytes) {
@@ -109,7 +120,8 @@ TEST_F(LineEngineTest, EndlessBytesOutsideAFrameAreNotKept) {
     });
     engine_.Receive(Bytes(100'000, 0xFF), milliseconds(0));
     engine_.Receive(Bytes{0x08, 0xF8}, milliseconds(0));
-    EXPECT_EQ(longest, 2U);
+    constexpr std::size_t kLongestFrame = 9;
+    EXPECT_EQ(longest, kLongestFrame);
     EXPECT_EQ(engine_.TakeDue(milliseconds(1)).size(), 2U);
 }
 

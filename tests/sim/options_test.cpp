@@ -24,20 +24,24 @@ TEST(OptionsTest, WithoutAnyTheDefaultsHold) {
     EXPECT_TRUE(options.pacing);
     EXPECT_EQ(options.baud, 19200);
     EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(1));
+    EXPECT_EQ(options.timeFactor, 1);
+    EXPECT_EQ(options.seed, 0);
     EXPECT_TRUE(options.link.empty());
     EXPECT_TRUE(options.device.empty());
     EXPECT_EQ(options.layoutName, "club");
 }
 
 TEST(OptionsTest, TakesAllOfThem) {
-    const Options options =
-        Right({"--link", "/x/y", "--no-pacing", "--baud", "38400", "--layout", "none",
-               "--unit-delay", "0", "--help", "--version", "--list-layouts"});
+    const Options options = Right({"--link", "/x/y", "--no-pacing", "--baud", "38400", "--layout",
+                                   "none", "--unit-delay", "0", "--time-factor", "100", "--seed",
+                                   "2147483647", "--help", "--version", "--list-layouts"});
     EXPECT_EQ(options.link, "/x/y");
     EXPECT_FALSE(options.pacing);
     EXPECT_EQ(options.baud, 38400);
     EXPECT_EQ(options.layoutName, "none");
     EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(0));
+    EXPECT_EQ(options.timeFactor, 100);
+    EXPECT_EQ(options.seed, 2147483647);
     EXPECT_TRUE(options.help);
     EXPECT_TRUE(options.version);
     EXPECT_TRUE(options.listLayouts);
@@ -60,18 +64,23 @@ TEST_P(WrongOptions, SayWhatIsWrong) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, WrongOptions,
-    testing::Values(WrongCase{"Unknown", {"--lnk", "x"}, "unknown option --lnk"},
-                    WrongCase{"BareWord", {"x"}, "unknown option x"},
-                    WrongCase{"MissingValue", {"--no-pacing", "--link"}, "missing value of --link"},
-                    WrongCase{"EmptyLink", {"--link", ""}, "wrong value of --link: "},
-                    WrongCase{"Baud", {"--baud", "9600"}, "wrong value of --baud: 9600"},
-                    WrongCase{"Layout", {"--layout", ""}, "wrong value of --layout: "},
-                    WrongCase{"Delay", {"--unit-delay", "-1"}, "wrong value of --unit-delay: -1"},
-                    WrongCase{
-                        "DelayText", {"--unit-delay", "5ms"}, "wrong value of --unit-delay: 5ms"},
-                    WrongCase{"LinkAndDevice",
-                              {"--link", "a", "--device", "b"},
-                              "--link and --device exclude each other"}),
+    testing::Values(
+        WrongCase{"Unknown", {"--lnk", "x"}, "unknown option --lnk"},
+        WrongCase{"BareWord", {"x"}, "unknown option x"},
+        WrongCase{"MissingValue", {"--no-pacing", "--link"}, "missing value of --link"},
+        WrongCase{"EmptyLink", {"--link", ""}, "wrong value of --link: "},
+        WrongCase{"Baud", {"--baud", "9600"}, "wrong value of --baud: 9600"},
+        WrongCase{"Layout", {"--layout", ""}, "wrong value of --layout: "},
+        WrongCase{"Delay", {"--unit-delay", "-1"}, "wrong value of --unit-delay: -1"},
+        WrongCase{"DelayText", {"--unit-delay", "5ms"}, "wrong value of --unit-delay: 5ms"},
+        WrongCase{"TimeFactor", {"--time-factor", "101"}, "wrong value of --time-factor: 101"},
+        WrongCase{
+            "TimeFactorNegative", {"--time-factor", "-1"}, "wrong value of --time-factor: -1"},
+        WrongCase{"Seed", {"--seed", "-1"}, "wrong value of --seed: -1"},
+        WrongCase{"SeedTooHigh", {"--seed", "2147483648"}, "wrong value of --seed: 2147483648"},
+        WrongCase{"LinkAndDevice",
+                  {"--link", "a", "--device", "b"},
+                  "--link and --device exclude each other"}),
     [](const auto& row) { return row.param.name; });
 
 }  // namespace

@@ -5,10 +5,13 @@
 // here it is the line, the link, the console and the ends of all three.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
 #include <poll.h>
 #include <signal.h>  // NOLINT: kill() is not in <csignal>
 #include <string>
@@ -303,10 +306,56 @@ TEST_F(ProgramTest, TracePrintsTheFrames) {
     StartOnLink();
     EXPECT_EQ(Command("trace on"), "ok");
     SendFrame({1, 0});
-    EXPECT_EQ(ReadLine(), "trace rx 0A 81 80 F5");
-    EXPECT_EQ(ReadLine(), "trace tx 08 F8");
+    const auto withoutTime = [](const std::string& line) {
+        constexpr std::size_t kTime = 12;
+        return line.substr(std::min(kTime, line.size()));
+    };
+    EXPECT_EQ(withoutTime(ReadLine()), "  > 0A 81 80 F5                 reset the fault");
+    EXPECT_EQ(withoutTime(ReadLine()), "  < 08 F8                       acknowledged");
     EXPECT_EQ(Command("trace off"), "ok");
     EXPECT_EQ(Receive(2), kEmptyReply);
+}
+
+TEST_F(ProgramTest, TracesFromTheStartWithTheTimeOfDay) {
+    StartOnLink({"--no-pacing", "--unit-delay", "0", "--trace"});
+    SendFrame({});
+    EXPECT_THAT(ReadLine(),
+                testing::ContainsRegex(
+                    "^[0-2][0-9]:[0-5][0-9]:[0-6][0-9].[0-9][0-9][0-9]  > 08 F8 .*poll$"));
+}
+
+TEST_F(ProgramTest, ExplainsALogFromItsStandardInput) {
+    Start({"--explain", "-"});
+    Type(">> 0B A2 85 CC 82              << 08 F8");
+    input_.Close();
+    EXPECT_EQ(ReadLine(),
+              ">> 0B A2 85 CC 82              << 08 F8                       "
+              "analog speed: block 5, speed 12 forward -> acknowledged");
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+TEST_F(ProgramTest, ExplainsALogFromAFileAndKeepsTheStrangeLines) {
+    const std::filesystem::path log = folder_ / "log";
+    std::ofstream(log) << ">> 28 D8                       << 0A B3 85 BE\nhello\n";
+    Start({"--explain", log.string()});
+    EXPECT_THAT(ReadLine(),
+                testing::EndsWith("poll [stop] -> report: overcurrent in block 133 detected"));
+    EXPECT_EQ(ReadLine(), "? line 2: hello");
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
+TEST_F(ProgramTest, RefusesToExplainWhatItCannotRead) {
+    for (const std::filesystem::path& path : {folder_ / "none", folder_}) {
+        Start({"--explain", path.string()});
+        EXPECT_EQ(WaitForEnd(), 1) << path;
+    }
+}
+
+TEST_F(ProgramTest, ExplainsAnEmptyFile) {
+    const std::filesystem::path log = folder_ / "log";
+    std::ofstream(log).flush();
+    Start({"--explain", log.string()});
+    EXPECT_EQ(WaitForEnd(), 0);
 }
 
 TEST_F(ProgramTest, ServesADevice) {
@@ -342,6 +391,24 @@ TEST_F(ProgramTest, TellsItsVersionAndItsOptions) {
     Start({"--help"});
     EXPECT_EQ(ReadLine(), "usage: zelvarsim [options]");
     EXPECT_EQ(WaitForEnd(), 0);
+}
+
+TEST_F(ProgramTest, FindsTheShippedLayouts) {
+    Start({"--list-layouts"});
+    EXPECT_TRUE(ReadLine().starts_with("club "));
+    EXPECT_TRUE(ReadLine().starts_with("largest "));
+    EXPECT_TRUE(ReadLine().starts_with("starter "));
+    EXPECT_EQ(WaitForEnd(), 0);
+    Start({"--link", link_.string(), "--layout", "starter"});
+    EXPECT_EQ(ReadLine(), "ready " + link_.string());
+}
+
+TEST_F(ProgramTest, RefusesALayoutThatIsWrong) {
+    for (const char* layout : {"big", "/nowhere/attic.toml", "/"}) {
+        Start({"--link", link_.string(), "--layout", layout});
+        EXPECT_EQ(WaitForEnd(), 2) << layout;
+        EXPECT_FALSE(std::filesystem::exists(link_));
+    }
 }
 
 }  // namespace

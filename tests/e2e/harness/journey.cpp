@@ -58,7 +58,7 @@ void Journey::TearDown() {
     if (HasFailure() && program && unit) {
         std::cout << program->Process().Describe() << '\n';
         if (unit->Process().IsRunning()) {
-            for (const std::string& line : unit->Do("state")) {
+            for (const std::string& line : unit->Do("dump")) {
                 if (line.starts_with("frames=") || line.starts_with("command.")) {
                     std::cout << "unit: " << line << '\n';
                 }

@@ -3,13 +3,23 @@
 #include "harness/simulator.h"
 
 #include <cstdlib>
+#include <regex>
 #include <stdexcept>
 
 namespace zelvar::e2e {
 
 namespace {
 
-constexpr std::string_view kTraceMark = "trace ";
+/// "rx 28 D8" of a line of the trace, "12:00:03.120  > 28 D8                       poll"; empty for
+/// any other line.
+std::string TracedFrame(const std::string& line) {
+    static const std::regex kLine("[0-9:.]{12}  ([<>])(( [0-9A-F]{2})+)  .*");
+    std::smatch parts;
+    if (!std::regex_match(line, parts, kLine)) {
+        return {};
+    }
+    return (parts[1] == ">" ? "rx" : "tx") + parts[2].str();
+}
 
 std::vector<std::string> CommandLine(const std::string& device,
                                      const std::vector<std::string>& options) {
@@ -35,8 +45,8 @@ std::vector<std::string> Simulator::Do(const std::string& command) {
     process_.Console().Send(command);
     std::vector<std::string> lines;
     while (const std::optional<std::string> line = process_.Console().Receive()) {
-        if (line->starts_with(kTraceMark)) {
-            trace_.push_back(line->substr(kTraceMark.size()));
+        if (const std::string frame = TracedFrame(*line); !frame.empty()) {
+            trace_.push_back(frame);
             continue;
         }
         lines.push_back(*line);
@@ -51,7 +61,7 @@ std::vector<std::string> Simulator::Do(const std::string& command) {
 }
 
 std::string Simulator::Value(const std::string& name) {
-    for (const std::string& line : Do("state")) {
+    for (const std::string& line : Do("dump")) {
         if (line.starts_with(name + "=")) {
             return line.substr(name.size() + 1);
         }
@@ -65,7 +75,7 @@ int Simulator::Count(const std::string& name) {
 
 const std::vector<std::string>& Simulator::Trace() {
     // Whatever was traced before the answer has come in with it.
-    Do("state");
+    Do("dump");
     return trace_;
 }
 

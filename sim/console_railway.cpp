@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <cmath>
+
+#include "console.h"
+#include "railway_unit.h"
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr int kMostPoint = 511;
+
+/// Takes a name off the front of the arguments; names can have blanks, and the longest one counts.
+template <typename Find>
+std::optional<std::size_t> TakeName(ConsoleArguments& arguments, Find find) {
+    std::optional<std::size_t> found;
+    std::size_t taken = 0;
+    std::string name;
+    for (std::size_t count = 1; count <= arguments.size(); ++count) {
+        name.append(count == 1 ? "" : " ").append(arguments[count - 1]);
+        if (const std::optional<std::size_t> index = find(name)) {
+            found = index;
+            taken = count;
+        }
+    }
+    arguments = arguments.subspan(taken);
+    return found;
+}
+
+ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
+    UnitState& state = context.unit.state();
+    const Railway& railway = state.railway;
+    const auto train =
+        TakeName(arguments, [&](const std::string& name) { return railway.FindTrain(name); });
+    if (!train) {
+        return Error("unknown train " + arguments[0]);
+    }
+    if (arguments.empty()) {
+        return Error("a section expected");
+    }
+    const auto section =
+        TakeName(arguments, [&](const std::string& name) { return railway.FindSection(name); });
+    if (!section) {
+        return Error("unknown section " + arguments[0]);
+    }
+    if (arguments.size() > 1) {
+        return Error("one number expected behind the section");
+    }
+    const double length = state.railway.plan().sections[*section].length;
+    // In the middle, or with its nose at the end when it is longer than the section.
+    const double trainLength = state.railway.trains()[*train].described.length;
+    double position = std::min(length, (length + trainLength) / 2);
+    if (!arguments.empty()) {
+        const int most = static_cast<int>(std::floor(length));
+        const std::optional<int> given = ParseNumber(arguments[0], 0, most);
+        if (!given) {
+            return RangeError("CM", 0, most);
+        }
+        position = *given;
+    }
+    state.railway.Place(*train, *section, position, state.accessories.points);
+    context.unit.Advance(context.now);
+    return Ok();
+}
+
+ConsoleResult Point(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> device = ParseNumber(arguments[0], 0, kMostPoint);
+    const bool thrown = arguments[1] == "thrown";
+    if (!device) {
+        return RangeError("D", 0, kMostPoint);
+    }
+    if (!thrown && arguments[1] != "straight") {
+        return Error("straight or thrown expected");
+    }
+    context.unit.state().accessories.points[*device] = thrown;
+    return Ok();
+}
+
+ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> factor = ParseNumber(arguments[0], 0, kMostTimeFactor);
+    if (!factor) {
+        return RangeError("N", 0, kMostTimeFactor);
+    }
+    context.unit.SetTimeFactor(*factor, context.now);
+    return Ok();
+}
+
+constexpr ConsoleCommand kCommands[] = {
+    {"place", "TRAIN SECTION [CM]", 2, kAnyNumberOfArguments, &Place,
+     "Puts TRAIN into SECTION, standing, its nose CM from the section's back or in the middle.",
+     "place red platform-1 40"},
+    {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 4 thrown"},
+    {"time-factor", "N", 1, 1, &TimeFactor,
+     "Lets N simulated seconds (0..100) pass in each second.", "time-factor 5"},
+};
+
+}  // namespace
+
+std::span<const ConsoleCommand> RailwayConsoleCommands() {
+    return kCommands;
+}
+
+}  // namespace zelvar::sim

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zelvar::sim {
+
+struct UnitState;
+
+/// A table for people: a heading, the columns' names (none: rows of a name and a value), the rows.
+struct TableSection {
+    std::string_view heading;
+    std::vector<std::string> columns;
+    std::vector<std::vector<std::string>> rows;
+};
+
+/// What there is of the unit and its layout. Adding a section is adding a row to a table.
+std::vector<TableSection> StateSections(const UnitState& state);
+
+/// The sections that have rows, with aligned columns and a blank line behind each.
+std::string RenderSections(std::span<const TableSection> sections);
+
+}  // namespace zelvar::sim
