@@ -56,9 +56,9 @@ std::variant<Layout, std::string> ChooseLayout(const std::string& name, const fs
         std::vector<std::string> known = ShippedNames(folder);
         if (std::find(known.begin(), known.end(), name) == known.end()) {
             known.emplace_back(kEmpty);
-            return "no layout \"" + name + "\": " + JoinedWith(known, "or") +
-                   ", or the path of a .toml file expected (shipped ones are looked for in " +
-                   folder.string() + ")";
+            known.emplace_back("the path of a .toml file");
+            return "--layout: " + JoinedWith(known, "or") + " expected, found \"" + name +
+                   "\" (the shipped ones are looked for in " + folder.string() + ")";
         }
         path = PathOf(name, folder).string();
     }

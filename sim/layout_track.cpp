@@ -37,6 +37,8 @@ struct DescribedEnd {
 
 struct DescribedSection {
     int line = 0;
+    bool hasBlock = false;   // a right one
+    bool hasLength = false;  // a right one
     DescribedEnd next;
     DescribedEnd previous;
 };
@@ -115,8 +117,12 @@ void TrackReader::ReadSection(const TomlValue& table) {
     DescribedSection described;
     described.line = table.line;
     section.name = reader.Name("name", Need::kRequired).value_or("");
-    section.block = reader.Whole("block", kBlockNumbers, Need::kRequired).value_or(0);
-    section.length = reader.Number("length", kSectionLength, Need::kRequired).value_or(0);
+    const auto block = reader.Whole("block", kBlockNumbers, Need::kRequired);
+    const auto length = reader.Number("length", kSectionLength, Need::kRequired);
+    section.block = block.value_or(0);
+    section.length = length.value_or(0);
+    described.hasBlock = block.has_value();
+    described.hasLength = length.has_value();
     section.feedback = reader.Whole("feedback", kFeedbackNumbers, Need::kOptional);
     described.next = ReadEnd(reader, kNext, section.front);
     described.previous = ReadEnd(reader, kPrevious, section.back);
@@ -227,7 +233,7 @@ void TrackReader::ReadAddress(TableReader& reader, Train& train) {
                 .value_or(0);
     }
     // Above this number there is no short address.
-    train.longAddress = train.address > kHighestShortAddress;
+    train.longAddress = train.control == TrainControl::kDcc && train.address > kHighestShortAddress;
     const std::optional<bool> isLong = reader.Truth("long-address", Need::kOptional);
     if (!isLong) {
         return;
@@ -252,6 +258,14 @@ void TrackReader::PlaceTrain(TableReader& reader, Train& train, const std::strin
     }
     train.section = *index;
     const TrackSection& place = plan.sections[*index];
+    if (described_[*index].hasBlock) {
+        TakeOnce(occupiedLines_, place.block, reader.LineOf("section"),
+                 "section: one in another block expected, a train begins in block " +
+                     std::to_string(place.block) + " already");
+    }
+    if (!described_[*index].hasLength) {
+        return;  // told already, and nothing fits what is not known
+    }
     const std::string room =
         Shown({place.length, 0}) + " cm of section " + Quoted(place.name) + " expected";
     if (train.length > place.length) {
@@ -266,9 +280,6 @@ void TrackReader::PlaceTrain(TableReader& reader, Train& train, const std::strin
         Problem(reader.LineOf("position"),
                 "position: at least the train's length and at most the " + room);
     }
-    TakeOnce(occupiedLines_, place.block, reader.LineOf("section"),
-             "section: one in another block expected, a train begins in block " +
-                 std::to_string(place.block) + " already");
 }
 
 void TrackReader::ReadTrain(const TomlValue& table) {

@@ -239,8 +239,8 @@ std::optional<int> TableReader::Version(std::string_view key, bool mayBeNone, Ne
     // The two bytes that carry a version have no room for every number.
     if (!version || !EncodeVersion(*version)) {
         Wrong(key, *found,
-              std::string(R"(a version "0.00".."9.85", with a letter as in "1.02 C" or without)") +
-                  (mayBeNone ? R"(, or "none",)" : ""));
+              std::string(R"(a version like "1.02" or "1.02 C", up to "9.85 G",)") +
+                  (mayBeNone ? R"( or "none")" : ""));
         return std::nullopt;
     }
     return version;

@@ -393,5 +393,23 @@ TEST_F(ProgramTest, TellsItsVersionAndItsOptions) {
     EXPECT_EQ(WaitForEnd(), 0);
 }
 
+TEST_F(ProgramTest, FindsTheShippedLayouts) {
+    Start({"--list-layouts"});
+    EXPECT_TRUE(ReadLine().starts_with("club "));
+    EXPECT_TRUE(ReadLine().starts_with("largest "));
+    EXPECT_TRUE(ReadLine().starts_with("starter "));
+    EXPECT_EQ(WaitForEnd(), 0);
+    Start({"--link", link_.string(), "--layout", "starter"});
+    EXPECT_EQ(ReadLine(), "ready " + link_.string());
+}
+
+TEST_F(ProgramTest, RefusesALayoutThatIsWrong) {
+    for (const char* layout : {"big", "/nowhere/attic.toml", "/"}) {
+        Start({"--link", link_.string(), "--layout", layout});
+        EXPECT_EQ(WaitForEnd(), 2) << layout;
+        EXPECT_FALSE(std::filesystem::exists(link_));
+    }
+}
+
 }  // namespace
 }  // namespace zelvar::sim
