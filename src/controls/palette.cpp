@@ -29,8 +29,10 @@ double Contrast(const QColor& a, const QColor& b) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// What WCAG 2 asks of large or bold text.
-constexpr double kReadableContrast = 3.0;
+/// What WCAG 2 asks of large or bold text, and of other text. Light letters on a dark ground look
+/// thinner than they are, so there the higher one counts.
+constexpr double kReadableOnLight = 3.0;
+constexpr double kReadableOnDark = 4.5;
 
 }  // namespace
 
@@ -49,7 +51,9 @@ QColor ReadableOn(const QColor& ground) {
 void SetTextColour(QWidget* control, std::uint32_t bgr) {
     const QColor colour = ColourOf(bgr);
     const QColor ground = QApplication::palette(control).color(QPalette::Window);
-    const bool readable = Contrast(colour, ground) >= kReadableContrast;
+    const double needed =
+        ReadableOn(ground) == QColor(Qt::white) ? kReadableOnDark : kReadableOnLight;
+    const bool readable = Contrast(colour, ground) >= needed;
     QPalette palette;
     palette.setColor(QPalette::WindowText, colour);
     palette.setColor(QPalette::Text, colour);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "status/dlg_zelvar_status.h"
 
+#include <QFontMetrics>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -19,6 +20,18 @@ QFrame* NewPanel(QWidget* parent) {
     auto* frame = new QFrame(parent);
     frame->setFrameShape(QFrame::StyledPanel);
     return frame;
+}
+
+/// A display field that a small screen cannot squeeze until its text is cut.
+QLineEdit* NewWideField(const QString& name, const QString& inWords, QWidget* parent) {
+    QLineEdit* field = NewDisplayField(name, inWords, parent);
+    // A line edit asks for so many of these, and what its frame and margins take.
+    constexpr int kPreferredLetters = 17;
+    const QFontMetrics metrics = field->fontMetrics();
+    const int letter = metrics.horizontalAdvance(QLatin1Char('x'));
+    field->setMinimumWidth(field->sizeHint().width() - kPreferredLetters * letter +
+                           metrics.horizontalAdvance(field->text()));
+    return field;
 }
 
 }  // namespace
@@ -70,8 +83,8 @@ QWidget* DlgZelvarStatus::BuildPointMotorModules() {
     grid->addWidget(NewLabel(QStringLiteral("lblJSstatus"), QStringLiteral("Status"), panel), 0, 1);
     for (int j = 0; j < kClassicJsModules; ++j) {
         const QString module = QStringLiteral("JS#%1").arg(j);
-        QLineEdit* field = NewDisplayField(IndexedName("txtJSstatus", j),
-                                           QStringLiteral("Status of %1").arg(module), panel);
+        QLineEdit* field = NewWideField(IndexedName("txtJSstatus", j),
+                                        QStringLiteral("Status of %1").arg(module), panel);
         grid->addWidget(NewLabel(IndexedName("lblJS", j), module, panel), j + 1, 0);
         grid->addWidget(field, j + 1, 1);
         txtJSstatus_[static_cast<std::size_t>(j)] = field;
@@ -89,10 +102,10 @@ QWidget* DlgZelvarStatus::BuildTractionModules() {
     for (int m = 0; m < kClassicVDLines; ++m) {
         const auto index = static_cast<std::size_t>(m);
         const QString module = QStringLiteral("VD#%1").arg(m);
-        txtVDtype_[index] = NewDisplayField(IndexedName("txtVDtype", m),
-                                            QStringLiteral("Type of %1").arg(module), panel);
-        txtVDstatus_[index] = NewDisplayField(IndexedName("txtVDstatus", m),
-                                              QStringLiteral("Status of %1").arg(module), panel);
+        txtVDtype_[index] = NewWideField(IndexedName("txtVDtype", m),
+                                         QStringLiteral("Type of %1").arg(module), panel);
+        txtVDstatus_[index] = NewWideField(IndexedName("txtVDstatus", m),
+                                           QStringLiteral("Status of %1").arg(module), panel);
         grid->addWidget(NewLabel(IndexedName("lblVD", m), module, panel), m + 1, 0);
         grid->addWidget(txtVDtype_[index], m + 1, 1);
         grid->addWidget(txtVDstatus_[index], m + 1, 2);

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace zelvar::testing {
 namespace {
@@ -67,6 +68,22 @@ TEST_P(Themes, LeaveEveryStatusColourReadable) {
         EXPECT_EQ(label.autoFillBackground(),
                   label.palette().color(QPalette::Window) != QColor(GetParam().window));
     }
+}
+
+/// Red reaches 3.2 on the ground of a dark theme, and 4.0 on white.
+TEST(ColourTest, RedGetsAWhiteGroundInADarkThemeOnly) {
+    const QPalette before = QApplication::palette();
+    for (const auto& [window, white] :
+         {std::pair(0xFFEFEFEF, false), std::pair(0xFF323232, true)}) {
+        QPalette theme;
+        theme.setColor(QPalette::Window, QColor(QRgb(window)));
+        QApplication::setPalette(theme);
+        QLabel label;
+        SetTextColour(&label, 0x0000FFU);
+        EXPECT_EQ(label.autoFillBackground(), white) << std::hex << window;
+        EXPECT_EQ(label.palette().color(QPalette::Window) == QColor(Qt::white), white);
+    }
+    QApplication::setPalette(before);
 }
 
 TEST_P(Themes, FollowAChangeOfColour) {

@@ -17,6 +17,16 @@ std::string Indexed(const char* name, int index) {
     return std::string(name) + '(' + std::to_string(index) + ')';
 }
 
+/// Pixels that a text field has for its text.
+int RoomForText(const QLineEdit& field) {
+    constexpr int kPadding = 2;  // on both sides, for the cursor
+    QStyleOptionFrame option;
+    option.initFrom(&field);
+    option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+    return field.style()->subElementRect(QStyle::SE_LineEditContents, &option, &field).width() -
+           2 * kPadding;
+}
+
 class ClassicView : public LinkFixture {
   protected:
     std::string Field(const std::string& name) {
@@ -35,6 +45,19 @@ class ClassicView : public LinkFixture {
     ModuleRegistry registry;
     DlgZelvarStatus view;
 };
+
+TEST_F(ClassicView, CutsNoTextOnASmallScreen) {
+    for (const char* name : {"txtVDtype(0)", "txtVDstatus(15)", "txtJSstatus(7)"}) {
+        auto& field = FindBelow<QLineEdit>(view, name);
+        // What its own minimum leaves: that of its font alone may be narrower than a type.
+        field.resize(field.minimumWidth(), field.height());
+        for (const char* text : {"QLRX-s", "Error", "Unknown"}) {
+            EXPECT_GE(RoomForText(field),
+                      field.fontMetrics().horizontalAdvance(QString::fromLatin1(text)))
+                << name << " cuts " << text;
+        }
+    }
+}
 
 TEST_F(ClassicView, HasItsCaptionAndNames) {
     EXPECT_EQ(view.objectName(), QStringLiteral("dlgZelvarStatus"));

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+#include <sys/file.h>
+#include <unistd.h>
+#include <vector>
+
+#include "comparison.h"
+#include "tour.h"
+
+namespace zelvar::tour {
+
+namespace {
+
+constexpr int kWrongUsage = 2;
+/// Beside the pictures: what their looks depend on beside the program.
+constexpr char kLooksFile[] = "made-with.txt";
+
+constexpr char kUsage[] = R"(usage: zelvartour [options] FOLDER
+Takes the program through a tour on a simulated layout, without a display, and leaves numbered
+pictures in FOLDER. Fails when a step does not show what it should.
+
+  --palette light|dark   one palette only; both by default
+  --compare FOLDER       also fails when the pictures there show something else
+)";
+
+struct Options {
+    std::vector<std::string> palettes{"light", "dark"};
+    std::string folder;
+    std::string compareWith;
+};
+
+bool Parse(const std::vector<std::string>& words, Options& options) {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const bool hasValue = i + 1 < words.size();
+        if (words[i] == "--palette" && hasValue) {
+            options.palettes = {words[++i]};
+        } else if (words[i] == "--compare" && hasValue) {
+            options.compareWith = words[++i];
+        } else if (options.folder.empty() && !words[i].starts_with("-")) {
+            options.folder = words[i];
+        } else {
+            return false;
+        }
+    }
+    const std::string& palette = options.palettes.front();
+    return !options.folder.empty() && (palette == "light" || palette == "dark");
+}
+
+std::string FirstLine(const std::string& file) {
+    std::ifstream in(file);
+    std::string line;
+    std::getline(in, line);
+    return line;
+}
+
+/// @return whether the pictures of the palette are as they were
+bool Compare(const Options& options, const std::string& palette, const std::string& looks) {
+    const std::string before = FirstLine(options.compareWith + "/" + kLooksFile);
+    if (before != looks) {
+        std::cout << "The pictures in " << options.compareWith << " were made with " << before
+                  << ", these with " << looks << ": not compared." << std::endl;
+        return true;
+    }
+    const std::vector<std::string> complaints =
+        ComparePictures(options.compareWith, options.folder, PictureNames(), palette);
+    for (const std::string& complaint : complaints) {
+        std::cerr << complaint << '\n';
+    }
+    return complaints.empty();
+}
+
+/// Two tours at once would open devices of one name, and Qt locks a serial port by its name for the
+/// whole computer. @return what holds the others off while it is open
+int WaitForOtherTours() {
+    constexpr mode_t kEverybody = 0666;
+    const std::string file = std::filesystem::temp_directory_path() / "zelvartour.lock";
+    const int lock = open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kEverybody);
+    if (lock < 0 || flock(lock, LOCK_EX) != 0) {
+        throw std::runtime_error("cannot lock " + file);
+    }
+    return lock;
+}
+
+int Run(const Options& options) {
+    const int lock = WaitForOtherTours();
+    const std::string folder = std::filesystem::absolute(options.folder);
+    std::filesystem::create_directories(folder);
+    bool alike = true;
+    for (const std::string& palette : options.palettes) {
+        Tour tour({folder, palette});
+        if (const std::optional<std::string> complaint = tour.Run()) {
+            std::cerr << "The tour fails at " << *complaint << '\n';
+            return 1;
+        }
+        std::ofstream(folder + "/" + kLooksFile) << tour.Looks() << '\n';
+        alike = (options.compareWith.empty() || Compare(options, palette, tour.Looks())) && alike;
+    }
+    close(lock);
+    if (!alike) {
+        std::cerr << "Look at the pictures; tools/pictures takes them over.\n";
+    }
+    return alike ? 0 : 1;
+}
+
+}  // namespace
+
+}  // namespace zelvar::tour
+
+int main(int argc, char** argv) {
+    zelvar::tour::Options options;
+    if (!zelvar::tour::Parse({argv + 1, argv + argc}, options)) {
+        std::cerr << zelvar::tour::kUsage;
+        return zelvar::tour::kWrongUsage;
+    }
+    try {
+        return zelvar::tour::Run(options);
+    } catch (const std::exception& error) {
+        std::cerr << "zelvartour: " << error.what() << '\n';
+        return 1;
+    }
+}
