@@ -25,9 +25,6 @@ constexpr int kStartHeight = 640;
 /// In milliseconds: the window is painted by then.
 constexpr int kDescribeDelay = 100;
 
-/// Data values 1, 0: the fault reset.
-constexpr Command kResetFault{2, {1, 0}};
-
 }  // namespace
 
 MainWindow::MainWindow(const Platform& platform)

@@ -49,6 +49,9 @@ struct Command {
 /// The command without data, with which the unit is asked for news.
 constexpr Command kEmptyTransaction{};
 
+/// Ends the unit's fault state.
+constexpr Command kResetFault{2, {1, 0}};
+
 /// The last valid reply: index 0 the header as received, index k the k-th data value with bit 7
 /// cleared, then the checksum with bit 7 cleared; 0 elsewhere.
 using ReplyBuffer = std::array<std::uint8_t, 10>;

@@ -26,21 +26,23 @@ QWidget* FindWindow(const char* name) {
     return nullptr;
 }
 
-WindowFixture::WindowFixture() {
+WindowHands::WindowHands() = default;
+
+WindowHands::~WindowHands() = default;
+
+void WindowHands::ShowWindowOn(SerialPort& line) {
     const auto path = [](int number) { return QStringLiteral("/dev/port%1").arg(number); };
     const auto description = [path](int number) {
         return path(number) + QStringLiteral(" (Adapter)");
     };
     window = std::make_unique<MainWindow>(
-        Platform{port, timer, clock, messageBox, gate, path, description});
+        Platform{line, timer, clock, messageBox, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     window->BuildHiddenTabs();
 }
 
-WindowFixture::~WindowFixture() = default;
-
-void WindowFixture::ShowTabOf(QWidget& control) {
+void WindowHands::ShowTabOf(QWidget& control) {
     for (QWidget* widget = &control; widget->parentWidget() != nullptr;
          widget = widget->parentWidget()) {
         QWidget* stack = widget->parentWidget();
@@ -53,7 +55,7 @@ void WindowFixture::ShowTabOf(QWidget& control) {
     }
 }
 
-void WindowFixture::Click(const char* name) {
+void WindowHands::Click(const char* name) {
     auto& button = Find<QAbstractButton>(name);
     ShowTabOf(button);
     ASSERT_TRUE(button.isVisible()) << name << " is hidden";
@@ -63,7 +65,7 @@ void WindowFixture::Click(const char* name) {
     QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, place);
 }
 
-void WindowFixture::Choose(const char* list, const QString& entry) {
+void WindowHands::Choose(const char* list, const QString& entry) {
     auto& combo = Find<QComboBox>(list);
     const int index = combo.findText(entry);
     ASSERT_GE(index, 0) << list << " has no entry '" << entry.toStdString() << "'";
@@ -74,7 +76,7 @@ void WindowFixture::Choose(const char* list, const QString& entry) {
     QTest::keyClick(combo.view(), Qt::Key_Return);
 }
 
-void WindowFixture::Type(const char* field, const QString& text) {
+void WindowHands::Type(const char* field, const QString& text) {
     auto& edit = Find<QLineEdit>(field);
     ShowTabOf(edit);
     edit.setFocus();
@@ -86,7 +88,7 @@ void WindowFixture::Type(const char* field, const QString& text) {
     }
 }
 
-QString WindowFixture::TextOf(const char* name) {
+QString WindowHands::TextOf(const char* name) {
     auto& control = Find<QWidget>(name);
     return control.property("text").toString();
 }
@@ -97,7 +99,7 @@ void WindowFixture::OpenPort() {
     port.history.clear();
 }
 
-void WindowFixture::Tick() {
+void WindowHands::Tick() {
     if (timer.enabled && !gate.IsBusy()) {
         const HandlerGate::Scope scope(gate);
         window->Timer1_Timer();

@@ -39,12 +39,14 @@ Control& FindBelow(QWidget& root, const char* name) {
 /// A window of the program, shown or not; null while it is not loaded.
 QWidget* FindWindow(const char* name);
 
-/// The main window with everything around it doubled: the line, the clock, the timer and the
-/// message boxes.
-class WindowFixture : public ::testing::Test {
+/// The main window and hands to work it with, on a line that the fixture behind it brings along.
+class WindowHands : public ::testing::Test {
   protected:
-    WindowFixture();
-    ~WindowFixture() override;
+    WindowHands();
+    ~WindowHands() override;
+
+    /// Makes the window and shows it. @param line outlives the window
+    void ShowWindowOn(SerialPort& line);
 
     template <typename Control = QWidget>
     Control& Find(const char* name) {
@@ -62,9 +64,6 @@ class WindowFixture : public ::testing::Test {
 
     QString TextOf(const char* name);
 
-    /// Chooses port 1, which opens it, and forgets how that went.
-    void OpenPort();
-
     /// One tick of the poll timer, if it is enabled.
     void Tick();
 
@@ -73,10 +72,22 @@ class WindowFixture : public ::testing::Test {
 
     FakeClock clock;
     FakeTimer timer;
-    ScriptedPort port{clock};
     FakeMessageBox messageBox;
     HandlerGate gate;
     std::unique_ptr<MainWindow> window;
+};
+
+/// The main window with everything around it doubled: the line, the clock, the timer and the
+/// message boxes.
+class WindowFixture : public WindowHands {
+  protected:
+    WindowFixture() { ShowWindowOn(port); }
+    ~WindowFixture() override { window.reset(); }
+
+    /// Chooses port 1, which opens it, and forgets how that went.
+    void OpenPort();
+
+    ScriptedPort port{clock};
 };
 
 }  // namespace zelvar::testing

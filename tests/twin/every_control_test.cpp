@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include <QRadioButton>
+
+#include <map>
+#include <set>
+
+#include "test/drive_fixture.h"
+#include "twin/twin_window.h"
+
+namespace zelvar::twin {
+namespace {
+
+std::string Times(const std::string& name, int times) {
+    std::string text;
+    for (int i = 0; i < times; ++i) {
+        text += (i == 0 ? "" : " ") + name;
+    }
+    return text;
+}
+
+/// A control that makes the program send, and what the unit calls it. A new one needs a row here.
+struct SendingControl {
+    const char* control;
+    /// The module that it is pressed for.
+    const char* module;
+    std::string commands;
+};
+
+const SendingControl kPlainControls[] = {
+    {"cmdReset", "", "fault-reset"},
+    {"cmdErase", " 0", "traction-erase"},
+    {"cmdTIME", "", "points-set-default-time"},
+    {"cmdDeviceTime", "", "points-set-device-time"},
+    {"cmdDevicePower", "", "points-set-device-power"},
+    {"cmdJSerase", "", "points-erase"},
+    {"cmdConfig(0)", "", "unit-set-configuration"},
+    {"cmdConfig(1)", "", "unit-get-configuration"},
+    {"cmdOptions", "", "unit-set-options"},
+    {"cmdJS70dm", "", "unit-set-device-mode"},
+    {"AnalogSpeed", "", "analog-speed"},
+    {"CheckAnalogDirection", "", "analog-speed"},
+    {"CheckAnalogLight", "", "analog-light"},
+    {"CommandSetHFI", "", "set-hfi"},
+    {"cmdEstopAnalog", "", "analog-speed"},
+    {"DCCSpeed", "", "dcc-speed-28"},
+    // The slider falls back to 0, in the new step mode.
+    {"CheckDCC126", "", "dcc-speed-126"},
+    {"CheckDCCDirection", "", "dcc-speed-126"},
+    {"cmdEstopDCC", "", "dcc-speed-126"},
+    {"Command1(0)", "", "dcc-f0-f4"},
+    {"Command1(1)", "", "dcc-f5-f8"},
+    {"Command1(2)", "", "dcc-f9-f12"},
+    {"Command1(3)", "", "dcc-f13-f20"},
+    {"Command1(4)", "", "dcc-f21-f28"},
+    {"CommandTestClearBlock", "", "clear-block"},
+    {"MCCspeed", "", "mcc-speed"},
+    // The slider falls back to 0, and speed 0 follows in the new step mode.
+    {"CheckMCC30", "", "mcc-speed mcc-speed"},
+    {"cmdEstopMCC", "", "mcc-speed"},
+    {"cmdTestMCCfunction", "", "mcc-functions"},
+    {"cmdTestJS70(0)", "", "point"},
+    {"cmdTestJS70(1)", "", "point"},
+    {"cmdTestYR70", "", "signal-aspect"},
+    {"cmdTestGW70", "", "output"},
+    {"CommandTestLink(0)", "", "link"},
+    {"CommandTestLink(1)", "", "link"},
+    {"CommandTestLink(2)", "", "unlink"},
+    {"CommandTestLink(3)", "", "unlink"},
+    {"cmdTM(0)", "", "transparent-channel-0"},
+    {"cmdTM(1)", "", "transparent-channel-1"},
+    {"cmdTM(2)", "", "transparent-boot-loader"},
+};
+
+struct SettingButtons {
+    const char* set;
+    /// None for a QLRX-s: it takes settings and gives none back.
+    const char* get;
+    /// The modules that they are pressed for.
+    const char* module;
+    const char* moduleThatTells;
+    int commands;
+};
+
+const SettingButtons kSettingButtons[] = {
+    {"cmdSW(0)", "cmdSW(1)", " 0", " 0", 4},     {"cmdHFI(0)", "cmdHFI(1)", " 0", " 5.0", 1},
+    {"cmdAL(0)", "cmdAL(1)", " 5.1", " 5.1", 2}, {"cmdDCShift(0)", "cmdDCShift(1)", " 0", " 0", 1},
+    {"cmdPWMM(0)", "cmdPWMM(1)", " 0", " 0", 1}, {"cmdOCD(0)", "cmdOCD(1)", " 0", " 0", 1},
+    {"cmdMS(0)", "cmdMS(1)", " 0", " 5.0", 1},   {"cmdPC(0)", "cmdPC(1)", " 0", " 0", 1},
+    {"cmdLC(0)", nullptr, " 8", nullptr, 1},     {"cmdAD(0)", nullptr, " 8", nullptr, 1},
+};
+
+std::vector<SendingControl> SendingControls() {
+    std::vector<SendingControl> all(std::begin(kPlainControls), std::end(kPlainControls));
+    // What a status request asks for: 32 traction modules and three second units, 16 point-motor
+    // modules and 32 signal controllers.
+    all.push_back({"cmdStatus", "", "protocol-version unit-type " + Times("module-status", 83)});
+    // Both memories, each with a default time and 64 devices.
+    const std::string memory =
+        "points-get-default-time " + Times("points-get-device", sim::kPointDevices);
+    all.push_back({"cmdGetJSConfig", "", memory + ' ' + memory});
+    for (const SettingButtons& row : kSettingButtons) {
+        all.push_back({row.set, row.module, Times("traction-set", row.commands)});
+        if (row.get != nullptr) {
+            all.push_back({row.get, row.moduleThatTells, Times("traction-get", row.commands)});
+        }
+    }
+    return all;
+}
+
+/// Buttons that send nothing, or that nobody can press.
+const std::set<std::string> kQuietButtons{"cmdRefresh", "CommandTestFBM", "cmdHideJSConfig",
+                                          "cmdCancel",  "cmdLC(1)",       "cmdAD(1)"};
+
+class EveryControl : public TwinWindow {
+  protected:
+    EveryControl() { RequestStatus(); }
+
+    /// The controls of a kind; one without a name would not be found by its name.
+    template <typename Control>
+    std::vector<Control*> All() {
+        const QList<Control*> found = window->findChildren<Control*>();
+        return {found.begin(), found.end()};
+    }
+
+    void Use(const std::string& name) {
+        if (auto* slider = window->findChild<QSlider*>(QString::fromStdString(name))) {
+            SlideTo(name.c_str(), slider->value() == 0 ? 5 : 0);
+        } else {
+            Press(name);
+        }
+    }
+
+    std::string Sent() {
+        std::string text;
+        for (const std::string& name : port.TakeNames()) {
+            text += (text.empty() ? "" : " ") + name;
+        }
+        return text;
+    }
+};
+
+TEST_F(EveryControl, ThatSendsIsUnderstoodAsMeant) {
+    for (const SendingControl& row : SendingControls()) {
+        SCOPED_TRACE(row.control);
+        if (*row.module != '\0') {
+            Choose("cboVD", QString::fromUtf8(row.module));
+        }
+        if (std::string(row.control).find("rase") != std::string::npos) {
+            messageBox.answers = {BoxAnswer::Ok};
+        }
+        port.TakeCommands();
+        Use(row.control);
+        EXPECT_EQ(Sent(), row.commands);
+        if (port.state().transparent) {
+            port.Reboot();
+        }
+    }
+    for (const testing::ShownBox& box : messageBox.shown) {
+        EXPECT_TRUE(box.text.find("erase") != std::string::npos ||
+                    box.text.find("Transparent") != std::string::npos)
+            << box.text;
+    }
+    expectedBoxes = messageBox.shown;
+}
+
+TEST_F(EveryControl, IsEitherListedOrQuiet) {
+    std::set<std::string> sending;
+    for (const SendingControl& row : SendingControls()) {
+        sending.insert(row.control);
+    }
+    std::set<std::string> buttons;
+    for (const auto* button : All<QPushButton>()) {
+        buttons.insert(button->objectName().toStdString());
+    }
+    for (const auto* slider : All<QSlider>()) {
+        buttons.insert(slider->objectName().toStdString());
+    }
+    std::set<std::string> listed = kQuietButtons;
+    for (const std::string& name : sending) {
+        if (name.rfind("Check", 0) != 0) {
+            listed.insert(name);
+        }
+    }
+    EXPECT_EQ(buttons, listed);
+}
+
+TEST_F(EveryControl, ABoxOrOptionThatIsNotListedSendsNothing) {
+    std::set<std::string> sending;
+    for (const SendingControl& row : SendingControls()) {
+        sending.insert(row.control);
+    }
+    int pressed = 0;
+    for (const char* module : {" 0", " 8"}) {
+        Choose("cboVD", QString::fromUtf8(module));
+        for (auto* button : All<QAbstractButton>()) {
+            const std::string name = button->objectName().toStdString();
+            const bool isBox = qobject_cast<QCheckBox*>(button) != nullptr ||
+                               qobject_cast<QRadioButton*>(button) != nullptr;
+            ShowTabOf(*button);
+            if (!isBox || sending.count(name) == 1 || !button->isVisible()) {
+                continue;
+            }
+            port.TakeCommands();
+            Press(name);
+            testing::Settle();
+            EXPECT_EQ(Sent(), "") << name;
+            ++pressed;
+        }
+    }
+    // 29 functions, 8 of MCC, 24 of the unit, and those of the settings.
+    EXPECT_GT(pressed, 2 * 61);
+}
+
+}  // namespace
+}  // namespace zelvar::twin

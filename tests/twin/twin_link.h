@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "link/link.h"
+#include "link/services.h"
+#include "support/doubles.h"
+#include "twin/twin_layout.h"
+#include "twin/twin_port.h"
+#include "twin/unit_image.h"
+
+namespace zelvar::twin {
+
+/// The program's link on a line to the simulated unit.
+class TwinLink : public ::testing::Test {
+  protected:
+    TwinLink() {
+        port.SetPortNumber(TwinPort::kNumber);
+        port.Open();
+    }
+
+    void TearDown() override {
+        port.ExpectNothingMisunderstood();
+        EXPECT_EQ(messageBox.shown, expectedBoxes);
+    }
+
+    /// One exchange, which has to succeed.
+    void Do(const Command& command) { EXPECT_TRUE(link.Transact(command)); }
+
+    /// The same; what it has changed in the unit.
+    Changes EffectOf(const Command& command) {
+        const UnitImage before(port.state());
+        Do(command);
+        return before.ChangesTo(port.state());
+    }
+
+    testing::FakeClock clock;
+    testing::FakeTimer timer;
+    TwinPort port{clock, EveryKind()};
+    testing::FakeMessageBox messageBox;
+    testing::FakeLinkView view;
+    testing::FakeProgress progress;
+    Link link{port, timer, clock, messageBox, view};
+    HandlerGate gate;
+    Services services{link, messageBox, progress, clock, gate};
+    std::vector<testing::ShownBox> expectedBoxes;
+};
+
+/// The name of a table's row, for its test.
+template <typename Row>
+std::string NameOf(const ::testing::TestParamInfo<Row>& info) {
+    return info.param.name;
+}
+
+}  // namespace zelvar::twin
