@@ -3,6 +3,7 @@
 #include "console_completion.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "console.h"
 
@@ -82,13 +83,8 @@ Words ValuesOf(const UnitState& state, std::string_view word) {
     return IsPlaceholder(word) ? Words{} : Words{std::string(word)};
 }
 
-/// What argument number `index` can be, by the usage: "ADDRESS on|off".
-Words ArgumentWords(const UnitState& state, std::string_view usage, std::size_t index) {
-    const std::vector<std::string> forms = SplitWords(usage);
-    if (index >= forms.size()) {
-        return {};
-    }
-    std::string_view form = forms[index];
+/// What an argument can be, by its place in the usage: "on|off".
+Words ArgumentWords(const UnitState& state, std::string_view form) {
     form.remove_prefix(form.starts_with('[') ? 1 : 0);
     form.remove_suffix(form.ends_with(']') ? 1 : 0);
     Words words;
@@ -101,26 +97,63 @@ Words ArgumentWords(const UnitState& state, std::string_view usage, std::size_t 
     return words;
 }
 
-}  // namespace
-
-std::string_view LastWord(std::string_view line) {
-    return line.substr(line.find_last_of(" \t") + 1);
+/// The words that begin with `begun`.
+Completion Fitting(Words words, std::string_view begun) {
+    std::erase_if(words, [&](const std::string& word) { return !word.starts_with(begun); });
+    return {std::string(begun), words};
 }
 
-std::vector<std::string> CompleteLine(const UnitState& state, std::string_view line) {
-    const std::string_view last = LastWord(line);
-    const Words before = SplitWords(line.substr(0, line.size() - last.size()));
-    Words words;
-    if (before.empty()) {
-        words = CommandNames(state);
-    } else if (const ConsoleCommand* command = FindConsoleCommand(before.front())) {
-        words = ArgumentWords(state, command->usage, before.size() - 1);
+/// The length of the finished argument at the front of the text; none when it is still begun.
+std::optional<std::size_t> FinishedArgument(const Words& words, std::string_view text) {
+    const std::size_t blank = text.find(' ');
+    const auto begun = [&](const std::string& word) { return word.starts_with(text); };
+    if (blank == std::string_view::npos || std::any_of(words.begin(), words.end(), begun)) {
+        return std::nullopt;
     }
-    std::erase_if(words, [&](const std::string& word) { return !word.starts_with(last); });
-    if (before.empty()) {
-        std::sort(words.begin(), words.end());
+    std::size_t length = blank;
+    for (const std::string& word : words) {
+        if (text.starts_with(word + " ")) {
+            length = std::max(length, word.size());
+        }
     }
-    return words;
+    return length;
+}
+
+/// One blank between two words, and behind the last one when there is one.
+std::string Spaced(std::string_view line) {
+    std::string spaced;
+    for (const std::string& word : SplitWords(line)) {
+        spaced.append(spaced.empty() ? "" : " ").append(word);
+    }
+    const bool behind = !spaced.empty() && (line.ends_with(' ') || line.ends_with('\t'));
+    return behind ? spaced + " " : spaced;
+}
+
+}  // namespace
+
+Completion CompleteLine(const UnitState& state, std::string_view line) {
+    const std::string spaced = Spaced(line);
+    std::string_view rest = spaced;
+    const std::size_t blank = rest.find(' ');
+    if (blank == std::string_view::npos) {
+        Completion commands = Fitting(CommandNames(state), rest);
+        std::sort(commands.words.begin(), commands.words.end());
+        return commands;
+    }
+    const ConsoleCommand* command = FindConsoleCommand(rest.substr(0, blank));
+    if (command == nullptr) {
+        return {};
+    }
+    rest.remove_prefix(blank + 1);
+    for (const std::string& form : SplitWords(command->usage)) {
+        const Words words = ArgumentWords(state, form);
+        const std::optional<std::size_t> finished = FinishedArgument(words, rest);
+        if (!finished) {
+            return Fitting(words, rest);
+        }
+        rest.remove_prefix(*finished + 1);
+    }
+    return {};
 }
 
 std::string CommonBeginning(const std::vector<std::string>& words) {

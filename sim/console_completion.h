@@ -10,12 +10,15 @@
 
 namespace zelvar::sim {
 
-/// What the last word of a line can become, in order; the word is empty behind a blank. Commands,
-/// then what their usage says: the words of a choice, and names for the placeholders that have any.
-std::vector<std::string> CompleteLine(const UnitState& state, std::string_view line);
+/// What a line can go on with at its end.
+struct Completion {
+    std::string begun;               // the word or name at the end, as far as it is there
+    std::vector<std::string> words;  // what it can become
+};
 
-/// The last word of a line; empty when the line is or ends with a blank.
-std::string_view LastWord(std::string_view line);
+/// Commands, then what their usage says: the words of a choice, and names for the placeholders that
+/// have any. Names can have blanks.
+Completion CompleteLine(const UnitState& state, std::string_view line);
 
 /// What all words begin with.
 std::string CommonBeginning(const std::vector<std::string>& words);

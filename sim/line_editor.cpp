@@ -14,8 +14,6 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "console_completion.h"
-
 namespace zelvar::sim {
 
 namespace {
@@ -94,7 +92,8 @@ LineEditor::LineEditor(Completer completer, std::string historyFile)
     el_set(editor_, EL_EDITOR, "emacs");
     el_set(editor_, EL_HIST, &::history, history_);
     el_set(editor_, EL_GETCFN, &LineEditor::NextCharacter);
-    el_set(editor_, EL_ADDFN, "complete-word", "Completes the word", &LineEditor::CompleteKey);
+    // Wide: of narrow texts the library makes copies that it never gives back.
+    el_wset(editor_, EL_ADDFN, L"complete-word", L"Completes the word", &LineEditor::CompleteKey);
     for (const Key& key : kKeys) {
         el_set(editor_, EL_BIND, key.key, key.function, nullptr);
     }
@@ -228,12 +227,11 @@ unsigned char LineEditor::CompleteKey(EditLine* editor, int) {
 unsigned char LineEditor::Complete() {
     const LineInfo* info = el_line(editor_);
     const std::string line(info->buffer, info->cursor);
-    const std::string last(LastWord(line));
-    const std::vector<std::string> words = completer_(line);
+    const auto [begun, words] = completer_(line);
     if (words.empty()) {
         return CC_REFRESH_BEEP;
     }
-    std::string rest = CommonBeginning(words).substr(last.size());
+    std::string rest = CommonBeginning(words).substr(begun.size());
     if (words.size() == 1) {
         rest += " ";
     }

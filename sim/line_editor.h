@@ -7,7 +7,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+
+#include "console_completion.h"
 
 struct editline;
 struct history;
@@ -18,8 +19,7 @@ namespace zelvar::sim {
 /// over from its making to its end, and never waits: whoever has it waits for standard input.
 class LineEditor {
   public:
-    /// The words that the last word of the line can become.
-    using Completer = std::function<std::vector<std::string>(std::string_view line)>;
+    using Completer = std::function<Completion(std::string_view line)>;
 
     enum class Outcome { kGone, kOpen };
 

@@ -31,6 +31,7 @@ std::string ControlName(const Train& train) {
 
 std::string NamesIn(const TrackPlan& plan, const std::vector<std::size_t>& trains) {
     std::vector<std::string> names;
+    names.reserve(trains.size());
     for (const std::size_t train : trains) {
         names.push_back(plan.trains[train].name);
     }

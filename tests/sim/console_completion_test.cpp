@@ -16,59 +16,74 @@ struct CompletionCase {
     Words words;
 };
 
-class Completion : public testing::TestWithParam<CompletionCase> {
+class CompletionOf : public testing::TestWithParam<CompletionCase> {
   protected:
-    Completion() : state_(Described()) {}
+    CompletionOf() : state_(Described()) {}
 
     static Layout Described() {
         Layout layout;
         layout.At(32).status = StatusByte(0, ModuleState::kOk);
         layout.At(4).status = StatusByte(1, ModuleState::kOk);
         layout.At(64).status = StatusByte(0, ModuleState::kOk);
+        for (const char* name : {"Goods train", "Goods van", "Tram"}) {
+            Train train;
+            train.name = name;
+            layout.track.trains.push_back(train);
+        }
+        for (const char* name : {"west", "north east"}) {
+            TrackSection section;
+            section.name = name;
+            layout.track.sections.push_back(section);
+        }
         return layout;
     }
 
     UnitState state_;
 };
 
-TEST_P(Completion, Offers) {
-    EXPECT_EQ(CompleteLine(state_, GetParam().line), GetParam().words);
+TEST_P(CompletionOf, Offers) {
+    EXPECT_EQ(CompleteLine(state_, GetParam().line).words, GetParam().words);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Lines, Completion,
-    testing::Values(CompletionCase{"Command", "fa", {"fault"}},
-                    CompletionCase{"CommandBehindBlanks", "  fa", {"fault"}},
-                    CompletionCase{"CommandsInOrder",
-                                   "s",
-                                   {"short", "silent", "silent-after", "speed", "state", "stray"}},
-                    CompletionCase{"NoCommand", "xyz", {}},
-                    CompletionCase{"Choice", "fault ", {"on", "off"}},
-                    CompletionCase{"ChoiceBegun", "fault of", {"off"}},
-                    CompletionCase{"NothingBehindTheLastArgument", "fault on ", {}},
-                    CompletionCase{"ThirdArgument", "speed 5 12 r", {"reverse"}},
-                    CompletionCase{"Digits", "feedback 5 ", {"0", "1"}},
-                    CompletionCase{"PlaceholderWithoutNames", "overcurrent ", {}},
-                    CompletionCase{"PresentModules", "module ", {"4", "32", "64"}},
-                    CompletionCase{"BehindAModule", "module 32 ", {"absent", "status"}},
-                    CompletionCase{"TractionUnits", "ms ", {"0", "36"}},
-                    CompletionCase{"OptionalArgument", "help sil", {"silent", "silent-after"}},
-                    CompletionCase{"OfAnUnknownCommand", "nonsense o", {}}),
+    Lines, CompletionOf,
+    testing::Values(
+        CompletionCase{"Command", "fa", {"fault"}},
+        CompletionCase{"CommandBehindBlanks", "  fa", {"fault"}},
+        CompletionCase{
+            "CommandsInOrder", "s", {"short", "silent", "silent-after", "speed", "state", "stray"}},
+        CompletionCase{"NoCommand", "xyz", {}}, CompletionCase{"Choice", "fault ", {"on", "off"}},
+        CompletionCase{"ChoiceBegun", "fault of", {"off"}},
+        CompletionCase{"NothingBehindTheLastArgument", "fault on ", {}},
+        CompletionCase{"ThirdArgument", "speed 5 12 r", {"reverse"}},
+        CompletionCase{"Digits", "feedback 5 ", {"0", "1"}},
+        CompletionCase{"PlaceholderWithoutNames", "overcurrent ", {}},
+        CompletionCase{"PresentModules", "module ", {"4", "32", "64"}},
+        CompletionCase{"BehindAModule", "module 32 ", {"absent", "status"}},
+        CompletionCase{"TractionUnits", "ms ", {"0", "36"}},
+        CompletionCase{"OptionalArgument", "help sil", {"silent", "silent-after"}},
+        CompletionCase{"Trains", "place ", {"Goods train", "Goods van", "Tram"}},
+        CompletionCase{"NamesWithBlanks", "place Goods ", {"Goods train", "Goods van"}},
+        CompletionCase{"BehindABlankOfAName", "place Goods v", {"Goods van"}},
+        CompletionCase{"SectionsBehindATrain", "place Goods van ", {"west", "north east"}},
+        CompletionCase{"SectionBehindATrain", "place Tram no", {"north east"}},
+        CompletionCase{"NothingBehindBoth", "place Goods train north east ", {}},
+        CompletionCase{"OfAnUnknownCommand", "nonsense o", {}}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(Completion, EmptyLineOffersEveryCommand) {
+TEST_F(CompletionOf, EmptyLineOffersEveryCommand) {
     std::size_t commands = 0;
     for (const auto table : ConsoleTables()) {
         commands += table.size();
     }
-    EXPECT_EQ(CompleteLine(state_, "").size(), commands);
+    EXPECT_EQ(CompleteLine(state_, "").words.size(), commands);
 }
 
-TEST(CompletionWords, LastWordEndsTheLine) {
-    EXPECT_EQ(LastWord("speed 5 fo"), "fo");
-    EXPECT_EQ(LastWord("speed"), "speed");
-    EXPECT_EQ(LastWord("speed "), "");
-    EXPECT_EQ(LastWord(""), "");
+TEST_F(CompletionOf, TellsWhatIsBegunAlready) {
+    EXPECT_EQ(CompleteLine(state_, "speed 5 12 fo").begun, "fo");
+    EXPECT_EQ(CompleteLine(state_, "spe").begun, "spe");
+    EXPECT_EQ(CompleteLine(state_, "fault ").begun, "");
+    EXPECT_EQ(CompleteLine(state_, "place  Goods  v").begun, "Goods v");
 }
 
 TEST(CompletionWords, CommonBeginningOfAll) {

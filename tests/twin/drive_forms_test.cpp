@@ -162,6 +162,7 @@ TEST_F(DriveForms, AnMccLocomotiveRunsInBothStepModesAndStops) {
                   (Changes{{name + ".half-steps", 29}}));
         EXPECT_EQ(EffectOfPress("cmdEstopMCC"),
                   (Changes{{name + ".half-steps", 0}, {name + ".emergency-stop", 1}}));
+        EXPECT_EQ(Find<QSlider>("MCCspeed").value(), 0);
         EXPECT_EQ(EffectOfPress("CheckMCC30"), (Changes{{name + ".emergency-stop", 0}}))
             << "speed 0 in the new steps";
     }

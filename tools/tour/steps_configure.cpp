@@ -40,8 +40,9 @@ void ConfigurePoint(Tour& tour) {
     program.Click("optJSpower(2)");
     program.Click("cmdDevicePower");
     tour.ExpectNoBox();
-    tour.AwaitThat("the module keeps its times",
-                   [&tour] { return tour.Unit().Value("points.8.permanent") == "default:42,5:30/2"; });
+    tour.AwaitThat("the module keeps its times", [&tour] {
+        return tour.Unit().Value("points.8.permanent") == "default:42,5:30/2";
+    });
     tour.Picture({kMainWindow});
 }
 
