@@ -117,7 +117,9 @@ TEST_F(VDTabView, NothingMovesWhenTheTargetChanges) {
     }
     for (const char* entry : {"All_VD60", "All_QLRX", "All_VDxx", " 12", " 5", " 19.0"}) {
         Choose("cboVD", QString::fromUtf8(entry));
-        QTest::qWait(1);
+        // Hiding and showing asks for the layout anew by events, which are handled here and now.
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
         for (const auto& [control, place] : places) {
             EXPECT_EQ(QRect(control->mapTo(window.get(), QPoint()), control->size()), place)
                 << entry << ": " << control->objectName().toStdString();
