@@ -76,6 +76,9 @@ void CentralUnit::Reboot(Time now) {
     state_.hold = false;
     state_.stopRequested = false;
     state_.reports.Clear();
+    // What was set by hand is gone; two trains that still share a block trip it anew.
+    state_.overcurrent.reset();
+    state_.railway.ForgetShared();
     deferred_ = 0;
     lastToggle_.reset();
 }

@@ -48,7 +48,8 @@ class CentralUnit {
     /// Simulated seconds in each second from `now` on, 0 to `kMostTimeFactor`.
     void SetTimeFactor(int factor, Time now);
     /// Switched off and on: permanent settings hold again, transparent mode ends, and so do fault,
-    /// hold and what waited to be reported.
+    /// hold, overcurrents and what waited to be reported. Two trains that still share a block are
+    /// an overcurrent anew.
     void Reboot(Time now);
     /// The next `replies` replies that carry something are empty; a later poll brings the content.
     void DeferContent(int replies) { deferred_ = replies; }
