@@ -41,6 +41,12 @@ void CentralUnit::SetTimeFactor(int factor, Time now) {
     clock_.GoOn(now, state_.now, factor);
 }
 
+void CentralUnit::Run(Time span, Time now) {
+    Advance(now);
+    RunRailway(state_, state_.now + span);
+    clock_.GoOn(now, state_.now, clock_.factor());
+}
+
 std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) {
     Advance(now);
     if (state_.transparent) {
