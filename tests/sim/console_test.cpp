@@ -100,6 +100,7 @@ TEST_F(ConsoleTest, OvercurrentIsReportedAndListedUntilItsRelease) {
     Answer("overcurrent 133");
     EXPECT_EQ(Poll(), OvercurrentReport(133, true));
     EXPECT_EQ(Listed("overcurrent"), "133");
+    EXPECT_EQ(Listed("fault"), "0") << "that is a line of its own";
     Answer("release 133");
     EXPECT_EQ(Poll(), OvercurrentReport(133, false));
     EXPECT_EQ(Listed("overcurrent"), "");
