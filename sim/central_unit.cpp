@@ -41,6 +41,12 @@ void CentralUnit::SetTimeFactor(int factor, Time now) {
     clock_.GoOn(now, state_.now, factor);
 }
 
+void CentralUnit::Run(Time span, Time now) {
+    Advance(now);
+    RunRailway(state_, state_.now + span);
+    clock_.GoOn(now, state_.now, clock_.factor());
+}
+
 std::optional<Reply> CentralUnit::Handle(const CommandFrame& command, Time now) {
     Advance(now);
     if (state_.transparent) {
@@ -76,6 +82,9 @@ void CentralUnit::Reboot(Time now) {
     state_.hold = false;
     state_.stopRequested = false;
     state_.reports.Clear();
+    // What was set by hand is gone; two trains that still share a block trip it anew.
+    state_.overcurrent.reset();
+    state_.railway.ForgetShared();
     deferred_ = 0;
     lastToggle_.reset();
 }

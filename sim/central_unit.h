@@ -47,8 +47,12 @@ class CentralUnit {
     void Advance(Time now);
     /// Simulated seconds in each second from `now` on, 0 to `kMostTimeFactor`.
     void SetTimeFactor(int factor, Time now);
+    int timeFactor() const { return clock_.factor(); }
+    /// Lets `span` of simulated time pass at once, up to `kMostCatchUp`, whatever the time factor.
+    void Run(Time span, Time now);
     /// Switched off and on: permanent settings hold again, transparent mode ends, and so do fault,
-    /// hold and what waited to be reported.
+    /// hold, overcurrents and what waited to be reported. Two trains that still share a block are
+    /// an overcurrent anew.
     void Reboot(Time now);
     /// The next `replies` replies that carry something are empty; a later poll brings the content.
     void DeferContent(int replies) { deferred_ = replies; }

@@ -166,7 +166,8 @@ ConsoleResult Reboot(ConsoleContext& context, ConsoleArguments) {
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"overcurrent", "B", 1, 1, &Overcurrent, "Reports an overcurrent in block B (0..255).",
+    {"overcurrent", "B", 1, 1, &Overcurrent,
+     "Only reports an overcurrent in block B (0..255); \"fault on\" puts the system in fault.",
      "overcurrent 5"},
     {"release", "B", 1, 1, &Release, "Reports the end of the overcurrent in block B (0..255).",
      "release 5"},

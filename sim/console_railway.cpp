@@ -11,6 +11,9 @@ namespace zelvar::sim {
 namespace {
 
 constexpr int kMostPoint = 511;
+// What one look catches up with: nothing of a run is dropped.
+constexpr int kMostRunMs =
+    static_cast<int>(std::chrono::milliseconds(kMostCatchUp) / std::chrono::milliseconds(1));
 
 /// Takes a name off the front of the arguments; names can have blanks, and the longest one counts.
 template <typename Find>
@@ -87,6 +90,19 @@ ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
     return Ok();
 }
 
+ConsoleResult Run(ConsoleContext& context, ConsoleArguments arguments) {
+    const std::optional<int> span = ParseNumber(arguments[0], 1, kMostRunMs);
+    if (!span) {
+        return RangeError("MS", 1, kMostRunMs);
+    }
+    // Otherwise the clock would add its own time, and no run would be like another.
+    if (context.unit.timeFactor() != 0) {
+        return Error("\"time-factor 0\" expected first");
+    }
+    context.unit.Run(std::chrono::milliseconds(*span), context.now);
+    return Ok();
+}
+
 constexpr ConsoleCommand kCommands[] = {
     {"place", "TRAIN SECTION [CM]", 2, kAnyNumberOfArguments, &Place,
      "Puts TRAIN into SECTION, standing, its nose CM from the section's back or in the middle.",
@@ -94,6 +110,9 @@ constexpr ConsoleCommand kCommands[] = {
     {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 4 thrown"},
     {"time-factor", "N", 1, 1, &TimeFactor,
      "Lets N simulated seconds (0..100) pass in each second.", "time-factor 5"},
+    {"run", "MS", 1, 1, &Run,
+     "Lets MS simulated milliseconds (1..600000) pass at once, when the time factor is 0.",
+     "run 20000"},
 };
 
 }  // namespace

@@ -60,6 +60,8 @@ class Railway {
 
     /// Since the last call. At the start the detectors are as they are, which is no change.
     TrackChanges TakeChanges();
+    /// The pairs of trains there are count as changes anew.
+    void ForgetShared() { toldShared_.reset(); }
 
     const TrackPlan& plan() const { return plan_; }
     const std::vector<RunningTrain>& trains() const { return trains_; }

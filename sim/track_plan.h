@@ -36,7 +36,7 @@ struct Train {
     double position = 0;      // centimetres of its front from the section's back
     double length = 0;        // centimetres
     double topSpeed = 0;      // centimetres a second at the highest speed step
-    double acceleration = 0;  // centimetres a second, each second: its mass; 0 follows at once
+    double acceleration = 0;  // centimetres a second, each second; 0 follows at once
 };
 
 /// The railway on the table; empty when a layout has modules only.

@@ -52,6 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
         CompletionCase{"CommandBehindBlanks", "  fa", {"fault"}},
         CompletionCase{
             "CommandsInOrder", "s", {"short", "silent", "silent-after", "speed", "state", "stray"}},
+        CompletionCase{"Run", "ru", {"run"}}, CompletionCase{"RunHasANumber", "run ", {}},
         CompletionCase{"NoCommand", "xyz", {}}, CompletionCase{"Choice", "fault ", {"on", "off"}},
         CompletionCase{"ChoiceBegun", "fault of", {"off"}},
         CompletionCase{"NothingBehindTheLastArgument", "fault on ", {}},

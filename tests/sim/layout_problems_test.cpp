@@ -15,16 +15,35 @@ TEST_P(WrongLayouts, SayWhereAndWhatWasExpected) {
     EXPECT_EQ(ProblemsOf(GetParam().text), GetParam().problems);
 }
 
+const std::string kValueExpected =
+    "a text in quotation marks, a number, true, false or a list expected";
+const std::string kQuoteExpected = "a closing quotation mark expected before the end of the line";
+const std::string kOnceExpected = "each key and each [table] once expected";
+
 const ProblemCase kSyntax[] = {
     {"Nothing", "", {"1: unit: expected here, but missing"}},
-    {"NoValue", "title =\n", {"1: Error while parsing key-value pair: expected value, saw '\\n'"}},
-    {"OpenHeader", "\n[unit\n", {"2: Error while parsing table header: expected ']', saw '\\n'"}},
-    {"KeyTwice",
-     "title = \"a\"\ntitle = \"b\"\n",
-     {"2: Error while parsing key-value pair: cannot redefine existing string 'title'"}},
-    {"UnitTwice",
-     UnitText() + "[unit]\n",
-     {"5: Error while parsing table header: cannot redefine existing table 'unit'"}},
+    {"NoValue", "title =\n", {"1: " + kValueExpected}},
+    {"TextWithoutQuotes", "title = KB-E\n", {"1: " + kValueExpected}},
+    {"TextLikeFalse", "title = fault\n", {"1: " + kValueExpected}},
+    {"TextLikeTrue", "title = traction\n", {"1: " + kValueExpected}},
+    {"TextLikeNan", "title = none\n", {"1: " + kValueExpected}},
+    {"TextLikeInf", "title = inner\n", {"1: " + kValueExpected}},
+    {"OpenText", "\ntitle = \"a\n", {"2: " + kQuoteExpected}},
+    {"OpenTextWithATab", "title = \"a\tb\n", {"1: " + kQuoteExpected}},
+    {"OpenTextOfAnotherSystem", "\r\ntitle = \"a\r\nx = 1\r\n", {"2: " + kQuoteExpected}},
+    {"OpenLiteralText", "\n\ntitle = 'a\n", {"3: " + kQuoteExpected}},
+    {"OpenTextAtTheEnd", "title = \"a", {"1: a closing quotation mark expected"}},
+    {"OpenLongText", "title = \"\"\"a\n", {"1: a closing quotation mark expected"}},
+    {"ControlCharacter",
+     "\ntitle = \"a\x01z\"\n",
+     {"2: string: unescaped control characters other than TAB (U+0009) are explicitly prohibited"}},
+    {"ControlCharacterInAComment",
+     "# \x01\n",
+     {"1: comment: control characters other than TAB (U+0009) are explicitly prohibited in "
+      "comments"}},
+    {"OpenHeader", "\n[unit\n", {"2: table header: expected ']', saw '\\n'"}},
+    {"KeyTwice", "title = \"a\"\ntitle = \"b\"\n", {"2: " + kOnceExpected}},
+    {"UnitTwice", UnitText() + "[unit]\n", {"5: " + kOnceExpected}},
 };
 
 const ProblemCase kUnits[] = {

@@ -302,6 +302,49 @@ TEST_F(ProgramTest, TakesTheLinesTimeAtTheRateOfTheOtherEnd) {
     EXPECT_GE(exchange(B38400), std::chrono::nanoseconds(286'458) * kBytes);
 }
 
+/// Runs of a program each, with time that passes by `run` only.
+class ProgramRuns : public ProgramTest {
+  protected:
+    std::string DumpOfARun(const std::string& seed) {
+        StartOnLink({"--no-pacing", "--unit-delay", "0", "--layout",
+                     ZELVAR_TEST_LAYOUTS "/loop.toml", "--time-factor", "0", "--seed", seed});
+        // The blocks of the loop forward with an acceleration, the DCC train back to its buffer
+        // stop.
+        for (const Payload& command : {Payload{34, 1, 64 + 30, 5}, Payload{34, 2, 64 + 45, 5},
+                                       Payload{34, 3, 64 + 25, 5}, Payload{40, 0, 64 + 2, 3}}) {
+            SendFrame(command);
+            EXPECT_EQ(Receive(2), kEmptyReply);
+        }
+        EXPECT_EQ(Command("run 20000"), "ok");
+        Type("dump");
+        std::string dump;
+        for (std::string line = ReadLine(); !line.empty() && line != "ok"; line = ReadLine()) {
+            dump += line + '\n';
+        }
+        EXPECT_EQ(Command("quit"), "ok");
+        EXPECT_EQ(WaitForEnd(), 0);
+        line_.Close();
+        return dump;
+    }
+};
+
+TEST_F(ProgramRuns, AreTheSameWithTheSameSeedAndTheSameCommands) {
+    const std::string first = DumpOfARun("7");
+    EXPECT_THAT(first, testing::HasSubstr("\nsimulated-ms=20000\n"));
+    EXPECT_THAT(first, testing::HasSubstr("\nfault=0\n")) << "nothing cut the run short";
+    EXPECT_EQ(DumpOfARun("7"), first);
+}
+
+TEST_F(ProgramRuns, DifferWithAnotherSeed) {
+    const auto red = [](const std::string& dump) {
+        const std::size_t from = dump.find("\ntrain.red=section:");
+        return from == std::string::npos ? "" : dump.substr(from, dump.find('\n', from + 1) - from);
+    };
+    const std::string first = red(DumpOfARun("7"));
+    EXPECT_NE(first, "");
+    EXPECT_NE(red(DumpOfARun("8")), first);
+}
+
 TEST_F(ProgramTest, TracePrintsTheFrames) {
     StartOnLink();
     EXPECT_EQ(Command("trace on"), "ok");

@@ -50,7 +50,12 @@ INSTANTIATE_TEST_SUITE_P(
                     LineCase{"Stand", "time-factor 0", "ok"},
                     LineCase{"Fastest", "time-factor 100", "ok"},
                     LineCase{"TooFast", "time-factor 101", "error N must be 0..100"},
-                    LineCase{"Backwards", "time-factor -1", "error N must be 0..100"}),
+                    LineCase{"Backwards", "time-factor -1", "error N must be 0..100"},
+                    LineCase{"RunNothing", "run 0", "error MS must be 1..600000"},
+                    LineCase{"RunTooLong", "run 600001", "error MS must be 1..600000"},
+                    LineCase{"RunUsage", "run", "error usage: run MS"},
+                    LineCase{"RunWhileTimePasses", "run 1000",
+                             "error \"time-factor 0\" expected first"}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(RailwayConsole, PlacePutsATrainIntoTheMiddleAndStandsIt) {
@@ -117,6 +122,45 @@ TEST_F(RailwayConsole, TimeFactorHoldsFromThereOn) {
     Answer("time-factor 3");
     Wait(seconds(1));
     EXPECT_EQ(Where("red"), "west 90.0");
+}
+
+TEST_F(RailwayConsole, RunLetsThatTimePassAtOnceAndNoMore) {
+    Answer("time-factor 0");
+    Drive(1, 10);
+    EXPECT_EQ(Answer("run 1500"), "ok");
+    EXPECT_EQ(Where("red"), "west 65.0");
+    EXPECT_EQ(Listed("simulated-ms"), "1500");
+    Wait(seconds(5));
+    EXPECT_EQ(Where("red"), "west 65.0");
+    EXPECT_EQ(Answer("run 1"), "ok");
+    EXPECT_EQ(Listed("simulated-ms"), "1501");
+}
+
+TEST_F(RailwayConsole, RunRefusedLetsNoTimePass) {
+    Drive(1, 10);
+    Answer("run 1500");
+    EXPECT_EQ(Listed("simulated-ms"), "0");
+    EXPECT_EQ(Where("red"), "west 50.0");
+}
+
+TEST_F(RailwayConsole, TheLongestRunDropsNothing) {
+    Build({AnalogTrain("red", kWest)});
+    Answer("time-factor 0");
+    DriveLoop(30);
+    EXPECT_EQ(Answer("run 600000"), "ok");
+    EXPECT_EQ(Listed("simulated-ms"), "600000");
+    EXPECT_EQ(Where("red"), "west 50.0") << "sixty times round the loop of 300 cm";
+}
+
+TEST_F(RailwayConsole, TimeGoesOnWhereARunEnded) {
+    Answer("time-factor 0");
+    Drive(1, 10);
+    Answer("run 1000");
+    Wait(seconds(7));
+    Answer("time-factor 1");
+    Wait(seconds(1));
+    EXPECT_EQ(Where("red"), "west 70.0");
+    EXPECT_EQ(Listed("simulated-ms"), "2000");
 }
 
 TEST_F(RailwayConsole, StateShowsTrainsAndTrackAsTables) {

@@ -241,6 +241,38 @@ TEST_F(Overcurrent, OneTrainInTwoSectionsOfABlockIsNone) {
     EXPECT_EQ(Listed("fault"), "0");
 }
 
+TEST_F(Overcurrent, AfterARebootAPairIsReportedAnew) {
+    Meet();
+    PollAll();
+    unit_.Reboot(now_);
+    EXPECT_EQ(TrackReports(), (std::vector<Payload>{OvercurrentReport(2, true)}));
+    EXPECT_EQ(Listed("overcurrent"), "2");
+    EXPECT_EQ(Listed("fault"), "1");
+    unit_.state().railway.Place(1, kEast, 50, {});
+    EXPECT_EQ(TrackReports(),
+              (std::vector<Payload>{FeedbackReport(15, true), OvercurrentReport(2, false)}));
+    EXPECT_EQ(Listed("overcurrent"), "");
+}
+
+TEST_F(Overcurrent, AfterARebootAPairThatHasPartedIsForgotten) {
+    Meet();
+    unit_.state().railway.Place(1, kEast, 50, {});
+    unit_.Reboot(now_);
+    EXPECT_EQ(TrackReports(), std::vector<Payload>{});
+    EXPECT_EQ(Listed("overcurrent"), "");
+    EXPECT_EQ(Listed("fault"), "0");
+}
+
+TEST_F(Overcurrent, AfterARebootOneMadeByHandIsForgotten) {
+    Build({AnalogTrain("red", kWest), AnalogTrain("blue", kNorth)});
+    unit_.state().overcurrent.set(2);
+    unit_.state().overcurrent.set(200);
+    unit_.Reboot(now_);
+    EXPECT_EQ(TrackReports(), std::vector<Payload>{});
+    EXPECT_EQ(Listed("overcurrent"), "");
+    EXPECT_EQ(Listed("fault"), "0");
+}
+
 TEST_F(Overcurrent, AReleaseByHandIsNotRepeated) {
     Meet();
     PollAll();
