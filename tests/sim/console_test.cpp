@@ -234,11 +234,13 @@ TEST_F(ConsoleTest, HelpTellsOfEveryCommandInAlignedColumnsAndEndsWithOk) {
     EXPECT_EQ(last, "ok");
 }
 
-TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRight) {
-    Layout layout = MixedLayout();
-    layout.track.sections.push_back({"platform-1", 1, 100, {}, {}, {}});
-    layout.track.trains.push_back({"red", TrainControl::kAnalog, 0, false, 0, 50, 20, 30, 0});
-    unit_ = CentralUnit(layout);
+/// What `zelvarsim` plays when nothing else is asked for.
+Layout ClubLayout() {
+    return LayoutOf(ZELVAR_SHIPPED_LAYOUTS "/club.toml");
+}
+
+TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRightOnTheClubsLayout) {
+    unit_ = CentralUnit(ClubLayout());
     for (const auto table : ConsoleTables()) {
         for (const ConsoleCommand& command : table) {
             EXPECT_TRUE(command.help.ends_with('.')) << command.name;
@@ -248,6 +250,15 @@ TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRight) {
             EXPECT_TRUE(answer.ends_with("ok")) << command.example << ": " << answer;
         }
     }
+}
+
+TEST_F(ConsoleTest, TheExampleOfAPointMovesOneOnTheClubsTrack) {
+    const int point = *ParseNumber(SplitWords(FindConsoleCommand("point")->example).at(1), 0, 511);
+    bool found = false;
+    for (const TrackSection& section : ClubLayout().track.sections) {
+        found = found || section.front.point == point || section.back.point == point;
+    }
+    EXPECT_TRUE(found) << point;
 }
 
 TEST_F(ConsoleTest, HelpOfOneCommandHasItsExample) {

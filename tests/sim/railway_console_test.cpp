@@ -38,8 +38,11 @@ INSTANTIATE_TEST_SUITE_P(
                     LineCase{"PlaceAtTheEnd", "place red siding 60", "ok"},
                     LineCase{"PlaceBeyond", "place red siding 61", "error CM must be 0..60"},
                     LineCase{"PlaceBefore", "place red siding -1", "error CM must be 0..60"},
-                    LineCase{"NoTrain", "place green siding", "error unknown train green"},
-                    LineCase{"NoSection", "place red moon", "error unknown section moon"},
+                    LineCase{"NoTrain", "place green siding",
+                             "error unknown train green: red or blue expected"},
+                    LineCase{
+                        "NoSection", "place red moon",
+                        "error unknown section moon: west, north, siding, east or stub expected"},
                     LineCase{"PlaceTwoNumbers", "place red siding 5 6",
                              "error one number expected behind the section"},
                     LineCase{"PlaceText", "place red siding far", "error CM must be 0..60"},
@@ -71,6 +74,20 @@ TEST_F(RailwayConsole, PlaceTakesNamesWithBlanks) {
     EXPECT_EQ(Where("red express"), "west 25.0");
     EXPECT_EQ(Where("red"), "north 50.0");
     EXPECT_EQ(Answer("place red express"), "error a section expected");
+}
+
+TEST_F(RailwayConsole, AnUnknownNameIsToldAtMostEightOfTheKnownOnes) {
+    std::vector<Train> trains;
+    for (int number = 1; number <= 8; ++number) {
+        trains.push_back(AnalogTrain("t" + std::to_string(number), kWest));
+    }
+    Build(trains);
+    EXPECT_EQ(Answer("place \"red express\" west"),
+              "error unknown train \"red: t1, t2, t3, t4, t5, t6, t7 or t8 expected");
+    trains.push_back(AnalogTrain("t9", kWest));
+    Build(trains);
+    EXPECT_EQ(Answer("place red west"),
+              "error unknown train red: t1, t2, t3, t4, t5, t6, t7, t8, ... expected");
 }
 
 TEST_F(RailwayConsole, PlaceTripsTheDetectors) {
@@ -145,7 +162,7 @@ TEST_F(RailwayConsole, AnEmptyTableListsNoTrains) {
     EXPECT_EQ(unit_.Describe(now_).find("section."), std::string::npos);
     EXPECT_EQ(Answer("state").find("Trains"), std::string::npos);
     EXPECT_EQ(Answer("state").find("Simulated time"), std::string::npos);
-    EXPECT_EQ(Answer("place red west"), "error unknown train red");
+    EXPECT_EQ(Answer("place red west"), "error unknown train red: the layout has none");
 }
 
 }  // namespace
