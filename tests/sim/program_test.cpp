@@ -105,6 +105,9 @@ class ProgramTest : public testing::Test {
         if (process_ == 0) {
             dup2(in[0], STDIN_FILENO);
             dup2(out[1], STDOUT_FILENO);
+            const std::string errors = (folder_ / "errors").string();
+            dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600),
+                 STDERR_FILENO);
             execv(arguments[0], arguments.data());
             _exit(127);
         }
@@ -175,6 +178,11 @@ class ProgramTest : public testing::Test {
             WaitReadable(-1, milliseconds(5));
         }
         return -1;
+    }
+    /// What the program has said on its standard error.
+    std::string Errors() const {
+        std::ifstream file(folder_ / "errors");
+        return {std::istreambuf_iterator<char>(file), {}};
     }
     bool LinkExists() const {
         return std::filesystem::is_symlink(std::filesystem::symlink_status(link_));
@@ -380,6 +388,7 @@ TEST_F(ProgramTest, EndsWhenItsDeviceGoes) {
 TEST_F(ProgramTest, RefusesUnknownOptionsAndMissingDevices) {
     Start({"--bogus"});
     EXPECT_EQ(WaitForEnd(), 2);
+    EXPECT_EQ(Errors(), "zelvarsim: unknown option --bogus\nTry \"zelvarsim --help\".\n");
     Start({"--device", (folder_ / "none").string()});
     EXPECT_EQ(WaitForEnd(), 1);
 }
