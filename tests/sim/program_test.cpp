@@ -15,6 +15,7 @@
 #include <poll.h>
 #include <signal.h>  // NOLINT: kill() is not in <csignal>
 #include <string>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -277,6 +278,38 @@ TEST_F(ProgramTest, ReplacesAStaleLinkButNoFile) {
     Start({"--link", link_.string()});
     EXPECT_EQ(WaitForEnd(), 1);
     EXPECT_TRUE(std::filesystem::is_directory(link_));
+}
+
+TEST_F(ProgramTest, LeavesALinkToAnotherRunningOneAlone) {
+    StartOnLink();
+    const auto target = std::filesystem::read_symlink(link_);
+    const pid_t first = process_;
+    const Handle firstInput = std::move(input_);
+    for (const bool exclusive : {false, true}) {
+        if (exclusive) {
+            ASSERT_EQ(ioctl(line_.get(), TIOCEXCL), 0);
+        }
+        Start({"--link", link_.string()});
+        EXPECT_EQ(WaitForEnd(), 1);
+        EXPECT_EQ(Errors(), "zelvarsim: " + link_.string() + ": another zelvarsim serves it\n");
+        EXPECT_EQ(std::filesystem::read_symlink(link_), target);
+    }
+    SendFrame({});
+    EXPECT_EQ(Receive(2), kEmptyReply) << "the first one goes on";
+    // Killed, it leaves its link behind, which is free again then.
+    process_ = first;
+    kill(process_, SIGKILL);
+    EXPECT_EQ(WaitForEnd(), -1);
+    line_.Close();
+    EXPECT_TRUE(LinkExists());
+    StartOnLink();
+    SendFrame({});
+    EXPECT_EQ(Receive(2), kEmptyReply);
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        files += entry.path().filename() == "errors" ? 0 : 1;
+    }
+    EXPECT_EQ(files, 1U) << "nothing but the link";
 }
 
 TEST_F(ProgramTest, LeavesALinkAloneThatIsNoLongerItsOwn) {
