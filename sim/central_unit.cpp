@@ -129,7 +129,7 @@ std::vector<TableSection> CentralUnit::Sections(Time now) {
     mention("broken", brokenFrames_);
     mention("passed through", passedThrough_);
     mention("unknown commands", unknownCommands_);
-    mention("repeated toggles", repeatedToggles_);
+    mention("sent twice, by the toggle", repeatedToggles_);
     for (const auto& [name, times] : carriedOut_) {
         frames.rows.push_back({std::string(name), std::to_string(times)});
     }

@@ -97,9 +97,19 @@ Words ArgumentWords(const UnitState& state, std::string_view form) {
     return words;
 }
 
+bool IsNumber(std::string_view word) {
+    return word.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool ComesBefore(const std::string& a, const std::string& b) {
+    const bool numbers = IsNumber(a) && IsNumber(b);
+    return numbers && a.size() != b.size() ? a.size() < b.size() : a < b;
+}
+
 /// The words that begin with `begun`.
 Completion Fitting(Words words, std::string_view begun) {
     std::erase_if(words, [&](const std::string& word) { return !word.starts_with(begun); });
+    std::sort(words.begin(), words.end(), &ComesBefore);
     return {std::string(begun), words};
 }
 
@@ -119,6 +129,15 @@ std::optional<std::size_t> FinishedArgument(const Words& words, std::string_view
     return length;
 }
 
+/// In characters.
+std::size_t WidthOf(std::string_view word) {
+    constexpr unsigned kPartMask = 0xC0;
+    constexpr unsigned kLaterPart = 0x80;  // of a character of several bytes
+    return static_cast<std::size_t>(std::count_if(word.begin(), word.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & kPartMask) != kLaterPart;
+    }));
+}
+
 /// One blank between two words, and behind the last one when there is one.
 std::string Spaced(std::string_view line) {
     std::string spaced;
@@ -136,9 +155,7 @@ Completion CompleteLine(const UnitState& state, std::string_view line) {
     std::string_view rest = spaced;
     const std::size_t blank = rest.find(' ');
     if (blank == std::string_view::npos) {
-        Completion commands = Fitting(CommandNames(state), rest);
-        std::sort(commands.words.begin(), commands.words.end());
-        return commands;
+        return Fitting(CommandNames(state), rest);
     }
     const ConsoleCommand* command = FindConsoleCommand(rest.substr(0, blank));
     if (command == nullptr) {
@@ -166,6 +183,27 @@ std::string CommonBeginning(const std::vector<std::string>& words) {
         common.erase(end.first, common.end());
     }
     return common;
+}
+
+std::string InColumns(const std::vector<std::string>& words, std::size_t columns) {
+    constexpr std::size_t kGap = 2;
+    std::size_t width = 0;
+    for (const std::string& word : words) {
+        width = std::max(width, WidthOf(word) + kGap);
+    }
+    // The last column needs no gap behind it.
+    const std::size_t most = width == 0 ? 1 : std::max<std::size_t>(1, (columns + kGap) / width);
+    const std::size_t rows = (words.size() + most - 1) / most;
+    std::string text;
+    for (std::size_t row = 0; row < rows; ++row) {
+        std::size_t missing = 0;  // blanks up to the next column
+        for (std::size_t index = row; index < words.size(); index += rows) {
+            text.append(missing, ' ').append(words[index]);
+            missing = width - WidthOf(words[index]);
+        }
+        text += '\n';
+    }
+    return text;
 }
 
 }  // namespace zelvar::sim

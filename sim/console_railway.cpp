@@ -4,7 +4,9 @@
 #include <cmath>
 
 #include "console.h"
+#include "names.h"
 #include "railway_unit.h"
+#include "table_reader.h"
 
 namespace zelvar::sim {
 
@@ -32,13 +34,34 @@ std::optional<std::size_t> TakeName(ConsoleArguments& arguments, Find find) {
     return found;
 }
 
+constexpr std::size_t kMostNames = 8;  // of those that an error tells; a line has no room for all
+
+/// "unknown train red: Railcar or Tram expected"
+template <typename Item, typename Name>
+ConsoleResult UnknownName(const std::string& what, const std::string& given,
+                          const std::vector<Item>& items, Name name) {
+    const std::string unknown = "unknown " + what + " " + given + ": ";
+    if (items.empty()) {
+        return Error(unknown + "the layout has none");
+    }
+    std::vector<std::string> known;
+    for (std::size_t index = 0; index < std::min(items.size(), kMostNames); ++index) {
+        known.push_back(name(items[index]));
+    }
+    if (items.size() > kMostNames) {
+        return Error(unknown + Joined(known) + ", ... expected");
+    }
+    return Error(unknown + JoinedWith(known, "or") + " expected");
+}
+
 ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
     UnitState& state = context.unit.state();
     const Railway& railway = state.railway;
     const auto train =
         TakeName(arguments, [&](const std::string& name) { return railway.FindTrain(name); });
     if (!train) {
-        return Error("unknown train " + arguments[0]);
+        return UnknownName("train", arguments[0], railway.trains(),
+                           [](const auto& known) { return known.described.name; });
     }
     if (arguments.empty()) {
         return Error("a section expected");
@@ -46,7 +69,8 @@ ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
     const auto section =
         TakeName(arguments, [&](const std::string& name) { return railway.FindSection(name); });
     if (!section) {
-        return Error("unknown section " + arguments[0]);
+        return UnknownName("section", arguments[0], railway.plan().sections,
+                           [](const auto& known) { return known.name; });
     }
     if (arguments.size() > 1) {
         return Error("one number expected behind the section");
@@ -106,8 +130,8 @@ ConsoleResult Run(ConsoleContext& context, ConsoleArguments arguments) {
 constexpr ConsoleCommand kCommands[] = {
     {"place", "TRAIN SECTION [CM]", 2, kAnyNumberOfArguments, &Place,
      "Puts TRAIN into SECTION, standing, its nose CM from the section's back or in the middle.",
-     "place red platform-1 40"},
-    {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 4 thrown"},
+     "place Goods train platform-1 120"},
+    {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 1 thrown"},
     {"time-factor", "N", 1, 1, &TimeFactor,
      "Lets N simulated seconds (0..100) pass in each second.", "time-factor 5"},
     {"run", "MS", 1, 1, &Run,

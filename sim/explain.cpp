@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "names.h"
+
 namespace zelvar::sim {
 
 namespace {
@@ -134,10 +136,20 @@ const CommandWords* FindWords(std::string_view name) {
     return nullptr;
 }
 
-std::string ExplainCommandData(const Payload& command) {
+std::optional<int> Conversation::TypeOf(int address) const {
+    const std::optional<int>& told = types[static_cast<std::size_t>(address)];
+    const bool second = FamilyOf(address) == kSecondaryFamily;
+    return !told && second ? static_cast<int>(TractionType::kVd60) : told;
+}
+
+std::string ExplainCommandData(const Payload& command, const Conversation& conversation) {
     const CommandRow* row = FindCommand(command);
     const CommandWords* words = row == nullptr ? nullptr : FindWords(row->name);
-    return words == nullptr ? "unknown command, " + Values(command) : words->words(command);
+    if (words == nullptr) {
+        return "unknown command, " + Values(command);
+    }
+    return words->wordsIn == nullptr ? words->words(command)
+                                     : words->wordsIn(conversation, command);
 }
 
 std::string ExplainReplyData(const Conversation& conversation, const Payload& reply) {
@@ -162,7 +174,7 @@ std::string Explainer::Command(std::span<const std::uint8_t> bytes) {
         if (right) {
             conversation_.command = frame.data;
         }
-        return ExplainCommandData(frame.data);
+        return ExplainCommandData(frame.data, conversation_);
     });
 }
 

@@ -25,6 +25,9 @@ struct Conversation {
     /// Traction types by module address, as far as a status told them: what a setting means can
     /// depend on them.
     std::array<std::optional<int>, kModuleAddresses> types{};
+
+    /// None when nothing is known. Only a VD60 has a second unit.
+    std::optional<int> TypeOf(int address) const;
 };
 
 /// The words for the commands of one name. Each row of the command tables needs one.
@@ -33,6 +36,8 @@ struct CommandWords {
     std::string (*words)(const Payload& command);
     /// An empty reply to it is not the whole answer.
     bool asks = false;
+    /// In place of `words` where they depend on what was said before.
+    std::string (*wordsIn)(const Conversation& conversation, const Payload& command) = nullptr;
 };
 
 std::span<const CommandWords> StatusWords();
@@ -56,7 +61,7 @@ struct ReplyWords {
 std::span<const ReplyWords> ReplyTable();
 
 /// The meaning of the data of a command: "analog speed: block 5, speed 12 forward".
-std::string ExplainCommandData(const Payload& command);
+std::string ExplainCommandData(const Payload& command, const Conversation& conversation = {});
 /// The meaning of the data of a reply to the conversation's command.
 std::string ExplainReplyData(const Conversation& conversation, const Payload& reply);
 

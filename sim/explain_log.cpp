@@ -16,11 +16,14 @@ constexpr std::size_t kByteText = 3;  // a blank and two digits
 /// A line of the log whose reply is as long as a reply can be.
 constexpr std::size_t kLogColumn = 62;
 constexpr int kMostByte = 255;
+constexpr std::string_view kUnansweredPoll = "poll -> no answer";
+constexpr std::string_view kUnknownMark = "? line ";
 
 /// Takes " 0A 81 80 F5" off the front of the text; the bytes end where something else comes.
 Bytes TakeBytes(std::string_view& text) {
     const auto isDigit = [](char digit) {
-        return (digit >= '0' && digit <= '9') || (digit >= 'A' && digit <= 'F');
+        return (digit >= '0' && digit <= '9') || (digit >= 'A' && digit <= 'F') ||
+               (digit >= 'a' && digit <= 'f');
     };
     Bytes bytes;
     while (text.size() >= kByteText && text[0] == ' ' && isDigit(text[1]) && isDigit(text[2]) &&
@@ -46,7 +49,19 @@ bool EndsFrames(std::string_view rest) {
     return rest.empty() || rest.starts_with("  ");
 }
 
-/// ">> 0A 81 80 F5                 << 08 F8", also with a meaning behind it.
+/// "? line 12: ...", as an earlier explanation has marked it.
+bool IsMarked(std::string_view content) {
+    if (!content.starts_with(kUnknownMark)) {
+        return false;
+    }
+    content.remove_prefix(kUnknownMark.size());
+    const std::size_t digits = content.find_first_not_of("0123456789");
+    return digits != 0 && digits != std::string_view::npos &&
+           content.substr(digits).starts_with(": ");
+}
+
+/// ">> 0A 81 80 F5                 << 08 F8", also with a meaning behind it, and also with nothing
+/// behind the "<<", where no answer came.
 std::optional<std::string> ExplainLogLine(Explainer& explainer, std::string_view line) {
     std::string_view rest = line;
     rest.remove_prefix(2);
@@ -60,10 +75,10 @@ std::optional<std::string> ExplainLogLine(Explainer& explainer, std::string_view
     if (behind.starts_with("<<")) {
         behind.remove_prefix(2);
         const Bytes reply = TakeBytes(behind);
-        if (reply.empty() || !EndsFrames(behind)) {
+        if (!EndsFrames(behind)) {
             return std::nullopt;
         }
-        meaning.append(" -> ").append(explainer.Reply(reply));
+        meaning.append(" -> ").append(reply.empty() ? "no answer" : explainer.Reply(reply));
         frames = line.substr(0, line.size() - behind.size());
     } else {
         meaning.append(" -> no answer");
@@ -106,9 +121,14 @@ LogCount ExplainLog(std::istream& in, std::ostream& out) {
         if (content.starts_with(">>")) {
             explained = ExplainLogLine(explainer, content);
             inLog = inLog || explained;
-        } else if (content.empty()) {
+        } else if (content.empty() || content == kUnansweredPoll) {
             // The log of the program has an empty line where a poll got no answer.
-            explained = inLog ? std::string(kLogColumn, ' ') + "poll -> no answer" : std::string();
+            const bool poll = inLog || !content.empty();
+            explained = poll ? std::string(kLogColumn, ' ').append(kUnansweredPoll) : std::string();
+        } else if (IsMarked(content)) {
+            ++count.unknown;
+            out << line << '\n';
+            continue;
         } else {
             explained = ExplainTraceLine(explainer, content);
             inLog = inLog && !explained;
@@ -117,7 +137,7 @@ LogCount ExplainLog(std::istream& in, std::ostream& out) {
             out << *explained << '\n';
         } else {
             ++count.unknown;
-            out << "? line " << count.lines << ": " << line << '\n';
+            out << kUnknownMark << count.lines << ": " << line << '\n';
         }
     }
     return count;

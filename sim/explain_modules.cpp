@@ -16,9 +16,9 @@ std::string_view MemoryName(int value) {
     return (value & kPermanentBit) != 0 ? "permanent" : "active";
 }
 
-std::string TractionModule(const Payload& command) {
+int TractionAddress(const Payload& command) {
     const bool second = (command[2] & kSecondaryBit) != 0;
-    return ModuleName(second ? command[1] - kTractionFamily : command[1]);
+    return second ? command[1] - kTractionFamily : command[1];
 }
 
 /// "permanent HFI level of traction module 5"
@@ -26,20 +26,30 @@ std::string TractionSetting(const Payload& command, std::string_view name) {
     return std::string(MemoryName(command[3]))
         .append(" ")
         .append(name)
-        .append(" of ")
-        .append(TractionModule(command));
+        .append(" ")
+        .append(OfModule(TractionAddress(command)));
 }
 
 std::string TractionErase(const Payload& command) {
-    return "erase all settings of " + TractionModule(command);
+    return "erase all settings " + OfModule(TractionAddress(command));
 }
 
-std::string TractionGet(const Payload& command) {
+/// Setting 15 of the active memory: what it means depends on the module's type.
+std::string ClockOrAddressName(const std::optional<int>& type) {
+    if (!type) {
+        return "clock state (in a QLRX-s: module address)";
+    }
+    const bool address = *type == static_cast<int>(TractionType::kQlrxS);
+    return address ? "module address" : "clock state";
+}
+
+std::string TractionGet(const Conversation& conversation, const Payload& command) {
     const int parameter = command[3] & kParameterMask;
     const bool clock =
         parameter == static_cast<int>(kAddressParameter) && (command[3] & kPermanentBit) == 0;
-    const std::string name =
-        clock ? "clock state (in a QLRX-s: module address)" : SettingName(parameter);
+    const std::string name = clock
+                                 ? ClockOrAddressName(conversation.TypeOf(TractionAddress(command)))
+                                 : SettingName(parameter);
     return "ask for the " + TractionSetting(command, name);
 }
 
@@ -54,8 +64,8 @@ std::string PointSetting(const Payload& command, std::string_view name) {
     return std::string(MemoryName(command[2]))
         .append(" ")
         .append(name)
-        .append(" of ")
-        .append(ModuleName(command[1]));
+        .append(" ")
+        .append(OfModule(command[1]));
 }
 
 std::string DeviceSetting(const Payload& command, std::string_view name) {
@@ -76,7 +86,7 @@ std::string SetDevicePower(const Payload& command) {
 }
 
 std::string ErasePoints(const Payload& command) {
-    return "erase all settings of " + ModuleName(command[1]);
+    return "erase all settings " + OfModule(command[1]);
 }
 
 std::string GetDefaultTime(const Payload& command) {
@@ -89,7 +99,7 @@ std::string GetDevice(const Payload& command) {
 
 constexpr CommandWords kModuleWords[] = {
     {"traction-erase", &TractionErase},
-    {"traction-get", &TractionGet, true},
+    {"traction-get", nullptr, true, &TractionGet},
     {"traction-set", &TractionSet},
     {"points-set-default-time", &SetDefaultTime},
     {"points-set-device-time", &SetDeviceTime},

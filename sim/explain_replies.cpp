@@ -102,12 +102,12 @@ std::string Configuration(const Conversation&, const Payload& reply) {
 }
 
 /// Setting 15 as the active memory tells it: what it means depends on the module's type.
-std::string ClockOrAddress(const std::optional<int>& type, const std::string& module, int value) {
+std::string ClockOrAddress(const std::optional<int>& type, const std::string& ofModule, int value) {
     const std::string address = "module address " + std::to_string(value);
     if (type == static_cast<int>(TractionType::kQlrxS)) {
-        return "active " + address + " of " + module;
+        return "active " + address + " " + ofModule;
     }
-    const std::string clock = "clock of " + module + ": " + ClockName(value);
+    const std::string clock = "clock " + ofModule + ": " + ClockName(value);
     return type ? clock : clock + " (in a QLRX-s: " + address + ")";
 }
 
@@ -117,11 +117,10 @@ std::string TractionSetting(const Conversation& conversation, const Payload& rep
     const int parameter = reply[3] & kParameterMask;
     const bool permanent = (reply[3] & kPermanentBit) != 0;
     if (parameter == static_cast<int>(kAddressParameter) && !permanent) {
-        return ClockOrAddress(conversation.types[static_cast<std::size_t>(address)],
-                              ModuleName(address), reply[4]);
+        return ClockOrAddress(conversation.TypeOf(address), OfModule(address), reply[4]);
     }
-    return std::string(permanent ? "permanent " : "active ") + SettingName(parameter) + " of " +
-           ModuleName(address) + ": " + SettingValueName(parameter, reply[4]);
+    return std::string(permanent ? "permanent " : "active ") + SettingName(parameter) + " " +
+           OfModule(address) + ": " + SettingValueName(parameter, reply[4]);
 }
 
 std::string PointMemory(const Payload& reply) {

@@ -32,7 +32,7 @@ std::string UnitType(const Payload&) {
 }
 
 std::string ModuleStatus(const Payload& command) {
-    return "ask for the status of " + ModuleName(command[2]);
+    return "ask for the status " + OfModule(command[2]);
 }
 
 std::string DipSwitches(const Payload&) {

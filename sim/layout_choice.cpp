@@ -32,6 +32,14 @@ std::vector<std::string> ShippedNames(const fs::path& folder) {
     return names;
 }
 
+/// The program's name before a message, but where it begins with a place in a file: "FILE:LINE:" is
+/// what editors find there.
+std::string WithProgram(std::string message, const std::string& path) {
+    const std::size_t line = path.size() + 1;
+    const bool isPlace = message.size() > line && message[line] >= '0' && message[line] <= '9';
+    return isPlace ? message : "zelvarsim: " + message;
+}
+
 fs::path PathOf(const std::string& name, const fs::path& folder) {
     return folder / (name + std::string(kEnding));
 }
@@ -57,14 +65,14 @@ std::variant<Layout, std::string> ChooseLayout(const std::string& name, const fs
         if (std::find(known.begin(), known.end(), name) == known.end()) {
             known.emplace_back(kEmpty);
             known.emplace_back("the path of a .toml file");
-            return "--layout: " + JoinedWith(known, "or") + " expected, found \"" + name +
-                   "\" (the shipped ones are looked for in " + folder.string() + ")";
+            return "zelvarsim: --layout: " + JoinedWith(known, "or") + " expected, found \"" +
+                   name + "\" (the shipped ones are looked for in " + folder.string() + ")";
         }
         path = PathOf(name, folder).string();
     }
     auto read = ReadLayoutFile(path);
     if (auto* error = std::get_if<std::string>(&read)) {
-        return std::move(*error);
+        return WithProgram(std::move(*error), path);
     }
     return std::move(std::get<DescribedLayout>(read).layout);
 }

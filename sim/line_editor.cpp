@@ -238,12 +238,8 @@ unsigned char LineEditor::Complete() {
     if (!rest.empty()) {
         return el_insertstr(editor_, rest.c_str()) == 0 ? CC_REFRESH : CC_REFRESH_BEEP;
     }
-    std::string choices;
-    for (const std::string& word : words) {
-        choices.append(choices.empty() ? "" : "  ").append(word);
-    }
     HideLine();
-    WriteOut(kPrompt + line + "\n" + choices + "\n");
+    WriteOut(kPrompt + line + "\n" + InColumns(words, static_cast<std::size_t>(TerminalColumns())));
     return CC_REDISPLAY;
 }
 

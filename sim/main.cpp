@@ -43,7 +43,7 @@ int main(int argc, char** argv) {
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     auto parsed = zelvar::sim::ParseOptions(arguments);
     if (const auto* message = std::get_if<std::string>(&parsed)) {
-        std::cerr << "zelvarsim: " << *message << '\n' << zelvar::sim::UsageText();
+        std::cerr << "zelvarsim: " << *message << "\nTry \"zelvarsim --help\".\n";
         return kWrongUsage;
     }
     auto& options = std::get<zelvar::sim::Options>(parsed);

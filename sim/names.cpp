@@ -148,6 +148,10 @@ std::string ModuleName(int address) {
     return text;
 }
 
+std::string OfModule(int address) {
+    return (FamilyOf(address) == kSecondaryFamily ? "of the " : "of ") + ModuleName(address);
+}
+
 std::string_view ModuleStateName(int address, int status) {
     if ((status & kPresentBit) == 0) {
         return "absent";

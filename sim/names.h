@@ -22,6 +22,8 @@ std::string UnitTypeName(int type);
 std::string TractionTypeName(int type);
 /// A module by its address 0..127: "traction module 19", "point module 9".
 std::string ModuleName(int address);
+/// The same behind "of": "of the second unit of traction module 19", "of point module 9".
+std::string OfModule(int address);
 /// The family of an address 0..127.
 int FamilyOf(int address);
 /// What a status byte says, by the family of the module's address: "VD60, OK" or "absent".

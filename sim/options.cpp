@@ -91,37 +91,43 @@ bool TakeVersion(Options& options, std::string_view) {
 
 struct Option {
     std::string_view name;
-    std::string_view value;  // as the help calls it; empty: it takes none
+    std::string_view value;     // as the help calls it; empty: it takes none
+    std::string_view expected;  // of the value, for an error; empty: it takes none
     TakeValue take;
     std::string_view help;  // a line feed begins another line of its column
 };
 
 constexpr Option kOptions[] = {
-    {"--link", "PATH", &TakeLink, "a link to the pseudo-terminal, removed at the end"},
-    {"--device", "PATH", &TakeDevice, "serve this serial device instead"},
-    {"--baud", "N", &TakeBaud, "19200 (default) or 38400, until the other end sets its own"},
-    {"--no-pacing", "", &TakeNoPacing, "bytes take no time on the pseudo-terminal"},
-    {"--layout", "NAME|FILE", &TakeLayout,
+    {"--link", "PATH", "a path", &TakeLink, "a link to the pseudo-terminal, removed at the end"},
+    {"--device", "PATH", "a path", &TakeDevice, "serve this serial device instead"},
+    {"--baud", "N", "19200 or 38400", &TakeBaud,
+     "19200 (default) or 38400, until the other end sets its own"},
+    {"--no-pacing", "", "", &TakeNoPacing, "bytes take no time on the pseudo-terminal"},
+    {"--layout", "NAME|FILE", "a name or a path", &TakeLayout,
      "the central unit, its modules and its track: a shipped\n"
      "layout (\"club\" is the default), or a file by a path with a\n"
      "slash or ending in .toml, or \"none\": a unit alone"},
-    {"--list-layouts", "", &TakeListLayouts, "lists the shipped layouts and ends"},
-    {"--unit-delay", "MS", &TakeUnitDelay, "between a command and its reply; 1 by default"},
-    {"--time-factor", "N", &TakeTimeFactor,
+    {"--list-layouts", "", "", &TakeListLayouts, "lists the shipped layouts and ends"},
+    {"--unit-delay", "MS", "a whole number 0..60000", &TakeUnitDelay,
+     "between a command and its reply; 1 by default"},
+    {"--time-factor", "N", "a whole number 0..100", &TakeTimeFactor,
      "simulated seconds a second, 0..100: trains run N times as\n"
      "fast, and at 0 they stand; 1 by default"},
-    {"--seed", "N", &TakeSeed,
+    {"--seed", "N", "a whole number 0..2147483647", &TakeSeed,
      "engines differ a little, otherwise for each N; by default\n"
      "(0) all run as described"},
-    {"--trace", "", &TakeTrace, "prints every frame with its time, its bytes and its meaning"},
-    {"--explain", "FILE", &TakeExplain,
+    {"--trace", "", "", &TakeTrace, "prints every frame with its time, its bytes and its meaning"},
+    {"--explain", "FILE", "a path or \"-\"", &TakeExplain,
      "tells what the lines of a message log or a trace mean, and\n"
      "ends; \"-\": of standard input"},
-    {"--help", "", &TakeHelp, "shows this and ends"},
-    {"--version", "", &TakeVersion, "shows the version and ends"},
+    {"--help", "", "", &TakeHelp, "shows this and ends; -h does too"},
+    {"--version", "", "", &TakeVersion, "shows the version and ends"},
 };
 
 const Option* FindOption(std::string_view name) {
+    if (name == "-h") {
+        name = "--help";
+    }
     for (const Option& option : kOptions) {
         if (option.name == name) {
             return &option;
@@ -135,21 +141,30 @@ const Option* FindOption(std::string_view name) {
 std::variant<Options, std::string> ParseOptions(std::span<const std::string_view> arguments) {
     Options options;
     for (std::size_t index = 0; index < arguments.size(); ++index) {
-        const std::string name(arguments[index]);
+        const std::size_t sign = arguments[index].find('=');
+        const bool joined = sign != std::string_view::npos;  // "--option=value"
+        const std::string name(arguments[index].substr(0, sign));
         const Option* option = FindOption(name);
         if (option == nullptr) {
             return "unknown option " + name;
         }
         std::string_view value;
-        if (!option->value.empty()) {
+        if (option->value.empty() && joined) {
+            return name + " takes no value";
+        }
+        if (joined) {
+            value = arguments[index].substr(sign + 1);
+        } else if (!option->value.empty()) {
             ++index;
             if (index == arguments.size()) {
-                return "missing value of " + name;
+                return "missing value of " + name + ": " + std::string(option->expected) +
+                       " expected";
             }
             value = arguments[index];
         }
         if (!option->take(options, value)) {
-            return "wrong value of " + name + ": " + std::string(value);
+            return "wrong value of " + name + ": " + std::string(option->expected) +
+                   " expected, found \"" + std::string(value) + '"';
         }
     }
     if (!options.link.empty() && !options.device.empty()) {

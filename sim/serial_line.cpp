@@ -51,6 +51,34 @@ bool SetRaw(int fd, int baud, bool oddParity) {
     return tcsetattr(fd, TCSANOW, &settings) == 0;
 }
 
+/// A lock on the whole of the pseudo-terminal itself: it goes with the program, however that ends.
+/// Not the kind that terminal programs take of a line they use (flock).
+struct flock WholeFile() {
+    struct flock lock {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    return lock;
+}
+
+void MarkAsServed(int slaveFd) {
+    const struct flock lock = WholeFile();
+    // Without the mark all else works; no file system of terminals is known to refuse it.
+    static_cast<void>(fcntl(slaveFd, F_SETLK, &lock));
+}
+
+/// Whether a link leads to a pseudo-terminal that another simulator serves. The number of one that
+/// is gone may have gone to a terminal, or to the one that was just made here.
+bool IsServed(const std::string& link) {
+    const int fd = open(link.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK);
+    if (fd < 0) {
+        return errno == EBUSY;  // a program has it for itself, and with it what serves it
+    }
+    struct flock lock = WholeFile();
+    const bool locked = fcntl(fd, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+    close(fd);  // would also take an own mark away: it is made after this
+    return locked;
+}
+
 bool SetNonBlocking(int fd) {
     const int flags = fcntl(fd, F_GETFL);
     return flags >= 0 && fcntl(fd, F_SETFL, flags | O_NONBLOCK) == 0;
@@ -83,6 +111,10 @@ std::optional<std::string> SerialLine::OpenPseudoTerminal(const std::string& lin
     if (!link.empty()) {
         std::error_code error;
         if (std::filesystem::is_symlink(std::filesystem::symlink_status(link, error))) {
+            if (IsServed(link)) {
+                Close();
+                return link + ": another zelvarsim serves it";
+            }
             std::filesystem::remove(link, error);
         }
         std::filesystem::create_symlink(slaveName_, link, error);
@@ -93,6 +125,7 @@ std::optional<std::string> SerialLine::OpenPseudoTerminal(const std::string& lin
         link_ = link;
         path_ = link;
     }
+    MarkAsServed(slaveFd_);
     return std::nullopt;
 }
 

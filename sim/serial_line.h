@@ -19,7 +19,8 @@ class SerialLine {
     SerialLine& operator=(const SerialLine&) = delete;
 
     /// Makes a pseudo-terminal in raw mode and, when `link` is not empty, a link to it; a link that
-    /// stands there is replaced, anything else is not. The reason when it fails.
+    /// stands there is replaced unless it leads to another running simulator, anything else is not.
+    /// The reason when it fails.
     std::optional<std::string> OpenPseudoTerminal(const std::string& link, int baud);
     /// Opens a serial device: raw, 8 data bits, odd parity, 1 stop bit. The reason when it fails.
     std::optional<std::string> OpenDevice(const std::string& path, int baud);

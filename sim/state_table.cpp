@@ -115,7 +115,7 @@ TableSection Links(const UnitState& state) {
     TableSection section{"Links", {"blocks", "direction"}, {}};
     for (const auto& [ends, inverted] : state.drive.links()) {
         section.rows.push_back({Number(ends.first) + " and " + Number(ends.second),
-                                inverted ? "inverted" : "straight"});
+                                inverted ? "inverted" : "same way"});
     }
     return section;
 }

@@ -238,8 +238,12 @@ std::optional<int> TableReader::Version(std::string_view key, bool mayBeNone, Ne
     const std::optional<int> version = text == nullptr ? std::nullopt : ParseVersion(*text);
     // The two bytes that carry a version have no room for every number.
     if (!version || !EncodeVersion(*version)) {
+        const bool unquoted = std::holds_alternative<double>(found->value) ||
+                              std::holds_alternative<std::int64_t>(found->value);
         Wrong(key, *found,
-              std::string(R"(a version like "1.02" or "1.02 C", up to "9.85 G",)") +
+              std::string(R"(a version like "1.02" or "1.02 C")") +
+                  (unquoted ? " in quotation marks" : "") +
+                  R"(, up to "9.85 G", the digits behind the point at most 85,)" +
                   (mayBeNone ? R"( or "none")" : ""));
         return std::nullopt;
     }
@@ -247,7 +251,11 @@ std::optional<int> TableReader::Version(std::string_view key, bool mayBeNone, Ne
 }
 
 const TomlValue* TableReader::Table(std::string_view key, Need need) {
-    const TomlValue* found = Take(key, need);
+    const TomlValue* found = Take(key, Need::kOptional);
+    if (found == nullptr && need == Need::kRequired) {
+        // A table stands anywhere in the file, not "here".
+        Problem(line_, "[" + std::string(key) + "]: expected, but missing");
+    }
     if (found != nullptr && found->AsTable() == nullptr) {
         Wrong(key, *found, "a table, [" + std::string(key) + "] or { ... },");
         return nullptr;

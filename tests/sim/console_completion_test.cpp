@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
         CompletionCase{
             "CommandsInOrder", "s", {"short", "silent", "silent-after", "speed", "state", "stray"}},
         CompletionCase{"Run", "ru", {"run"}}, CompletionCase{"RunHasANumber", "run ", {}},
-        CompletionCase{"NoCommand", "xyz", {}}, CompletionCase{"Choice", "fault ", {"on", "off"}},
+        CompletionCase{"NoCommand", "xyz", {}}, CompletionCase{"Choice", "fault ", {"off", "on"}},
         CompletionCase{"ChoiceBegun", "fault of", {"off"}},
         CompletionCase{"NothingBehindTheLastArgument", "fault on ", {}},
         CompletionCase{"ThirdArgument", "speed 5 12 r", {"reverse"}},
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
         CompletionCase{"Trains", "place ", {"Goods train", "Goods van", "Tram"}},
         CompletionCase{"NamesWithBlanks", "place Goods ", {"Goods train", "Goods van"}},
         CompletionCase{"BehindABlankOfAName", "place Goods v", {"Goods van"}},
-        CompletionCase{"SectionsBehindATrain", "place Goods van ", {"west", "north east"}},
+        CompletionCase{"SectionsBehindATrain", "place Goods van ", {"north east", "west"}},
         CompletionCase{"SectionBehindATrain", "place Tram no", {"north east"}},
         CompletionCase{"NothingBehindBoth", "place Goods train north east ", {}},
         CompletionCase{"OfAnUnknownCommand", "nonsense o", {}}),
@@ -78,6 +78,8 @@ TEST_F(CompletionOf, EmptyLineOffersEveryCommand) {
         commands += table.size();
     }
     EXPECT_EQ(CompleteLine(state_, "").words.size(), commands);
+    EXPECT_EQ(CompleteLine(state_, "").words, CompleteLine(state_, "help ").words);
+    EXPECT_EQ(CompleteLine(state_, "").words.front(), "answer-delay");
 }
 
 TEST_F(CompletionOf, TellsWhatIsBegunAlready) {
@@ -85,6 +87,18 @@ TEST_F(CompletionOf, TellsWhatIsBegunAlready) {
     EXPECT_EQ(CompleteLine(state_, "spe").begun, "spe");
     EXPECT_EQ(CompleteLine(state_, "fault ").begun, "");
     EXPECT_EQ(CompleteLine(state_, "place  Goods  v").begun, "Goods v");
+}
+
+TEST(CompletionWords, FillTheTerminalDownItsColumns) {
+    const Words words{"a", "bb", "c", "dd", "e"};
+    EXPECT_EQ(InColumns(words, 80), "a   bb  c   dd  e\n");
+    EXPECT_EQ(InColumns(words, 18), "a   bb  c   dd  e\n") << "no gap behind the last";
+    EXPECT_EQ(InColumns(words, 17), "a   c   e\nbb  dd\n");
+    EXPECT_EQ(InColumns(words, 10), "a   c   e\nbb  dd\n");
+    EXPECT_EQ(InColumns(words, 9), "a   dd\nbb  e\nc\n");
+    EXPECT_EQ(InColumns(words, 1), "a\nbb\nc\ndd\ne\n");
+    EXPECT_EQ(InColumns({"\xC3\xA9", "b"}, 4), "\xC3\xA9  b\n") << "characters, not bytes";
+    EXPECT_EQ(InColumns({}, 80), "");
 }
 
 TEST(CompletionWords, CommonBeginningOfAll) {

@@ -103,7 +103,6 @@ TEST_F(ConsoleTest, OvercurrentIsReportedAndListedUntilItsRelease) {
     EXPECT_EQ(Listed("fault"), "0") << "that is a line of its own";
     Answer("release 133");
     EXPECT_EQ(Poll(), OvercurrentReport(133, false));
-    EXPECT_EQ(Listed("overcurrent"), "");
 }
 
 TEST_F(ConsoleTest, SpeedIsReportedOnceAlsoWhenItDoesNotChange) {
@@ -145,6 +144,36 @@ TEST_F(ConsoleTest, MasterSlaveHoldsOverAReboot) {
     EXPECT_EQ(Ask({0, 51, 24, 11})[4], 1);
     EXPECT_EQ(Answer("reboot"), "ok");
     EXPECT_EQ(Ask({0, 51, 24, 11})[4], 1);
+}
+
+TEST_F(ConsoleTest, WhatIsSetByHandOutlivesAReboot) {
+    Ask({1, 1, 7});  // the system's HFI level
+    Ask({22, 44});   // point 300
+    Ask({1, 5, 2});  // an option
+    for (const char* line : {"module 64 absent", "clock 0 3", "mute-module 33 on", "answer-delay 5",
+                             "time-factor 9", "silent on", "drip 3", "overcurrent 9",
+                             "feedback 8 1", "defer 1", "hold on", "fault on"}) {
+        EXPECT_EQ(Answer(line), "ok") << line;
+    }
+    EXPECT_EQ(Answer("reboot"), "ok");
+    EXPECT_EQ(Listed("hfi"), "7");
+    EXPECT_EQ(Listed("point.300"), "thrown");
+    EXPECT_EQ(Listed("options"), "2");
+    EXPECT_FALSE(unit_.state().layout.At(64).Present());
+    EXPECT_EQ(Listed("traction.0.clock"), "3");
+    EXPECT_EQ(Listed("muted"), "33");
+    EXPECT_EQ(Listed("answer-delay"), "5");
+    EXPECT_EQ(Listed("time-factor"), "9");
+    EXPECT_EQ(Listed("feedback"), "8");
+    EXPECT_TRUE(faults_.silent());
+    Answer("silent off");
+    EXPECT_EQ(faults_.Apply({0x08, 0xF8})->byteGap, milliseconds(3));
+    // The others end.
+    EXPECT_EQ(Listed("overcurrent"), "");
+    EXPECT_EQ(Listed("hold"), "0");
+    EXPECT_EQ(Listed("fault"), "0");
+    EXPECT_EQ(Listed("pending-reports"), "0");
+    EXPECT_NE(Ask({1, 2}), Payload{}) << "still deferred";
 }
 
 TEST_F(ConsoleTest, ClockMuteAndAnswerDelayTakeEffect) {
@@ -235,11 +264,13 @@ TEST_F(ConsoleTest, HelpTellsOfEveryCommandInAlignedColumnsAndEndsWithOk) {
     EXPECT_EQ(last, "ok");
 }
 
-TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRight) {
-    Layout layout = MixedLayout();
-    layout.track.sections.push_back({"platform-1", 1, 100, {}, {}, {}});
-    layout.track.trains.push_back({"red", TrainControl::kAnalog, 0, false, 0, 50, 20, 30, 0});
-    unit_ = CentralUnit(layout);
+/// What `zelvarsim` plays when nothing else is asked for.
+Layout ClubLayout() {
+    return LayoutOf(ZELVAR_SHIPPED_LAYOUTS "/club.toml");
+}
+
+TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRightOnTheClubsLayout) {
+    unit_ = CentralUnit(ClubLayout());
     for (const auto table : ConsoleTables()) {
         for (const ConsoleCommand& command : table) {
             unit_.SetTimeFactor(0, now_);  // as "run" needs it
@@ -250,6 +281,15 @@ TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRight) {
             EXPECT_TRUE(answer.ends_with("ok")) << command.example << ": " << answer;
         }
     }
+}
+
+TEST_F(ConsoleTest, TheExampleOfAPointMovesOneOnTheClubsTrack) {
+    const int point = *ParseNumber(SplitWords(FindConsoleCommand("point")->example).at(1), 0, 511);
+    bool found = false;
+    for (const TrackSection& section : ClubLayout().track.sections) {
+        found = found || section.front.point == point || section.back.point == point;
+    }
+    EXPECT_TRUE(found) << point;
 }
 
 TEST_F(ConsoleTest, HelpOfOneCommandHasItsExample) {

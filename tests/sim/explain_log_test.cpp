@@ -72,6 +72,11 @@ INSTANTIATE_TEST_SUITE_P(
                 ">> 0B 81 8B A4 C5" + Unused(4) + "  << 0E 81 8B A4 A9 90 8C FD",
                 "ask for the status of traction module 4 -> traction module 4: VD60, fault, "
                 "version 2.01 D"},
+        LogCase{"SmallLetters", ">> 0b a2 85 cc 82" + Unused(4) + "  << 08 f8",
+                ">> 0b a2 85 cc 82" + Unused(4) + "  << 08 f8",
+                "analog speed: block 5, speed 12 forward -> acknowledged"},
+        LogCase{"NothingBehindTheSign", ">> 08 F8" + Unused(7) + "  << ",
+                ">> 08 F8" + Unused(7) + "  <<", "poll -> no answer"},
         LogCase{"CutOffReply", ">> 08 F8" + Unused(7) + "  << 0B A2",
                 ">> 08 F8" + Unused(7) + "  << 0B A2", "poll -> incomplete: 2 of 5 bytes"}),
     [](const auto& row) { return row.param.name; });
@@ -86,6 +91,27 @@ TEST(ExplainLogTest, OtherEmptyLinesAreKept) {
     EXPECT_EQ(
         Explain("\n12:00:03.120  > 08 F8\n\n").lines,
         (std::vector<std::string>{"", "12:00:03.120  > 08 F8                       poll", ""}));
+}
+
+TEST(ExplainLogTest, SmallLettersOfATraceBecomeCapitals) {
+    EXPECT_EQ(Explain("  > 0b a2 85 cc 82").lines[0],
+              "  > 0B A2 85 CC 82              analog speed: block 5, speed 12 forward");
+}
+
+TEST(ExplainLogTest, ExplainsItsOwnOutputAgainTheSameWay) {
+    const Explained once = Explain("? line\n\n>> 08 F8\n\n hello\n\n  > 08 F8\n\n? line x: y\n");
+    EXPECT_EQ(once.lines[3], Padded("") + "poll -> no answer");
+    EXPECT_EQ(once.lines[4], "? line 5:  hello");
+    EXPECT_EQ(once.lines[8], "? line 9: ? line x: y") << "no mark of its own";
+    std::string output;
+    for (const std::string& line : once.lines) {
+        output += line + "\n";
+    }
+    EXPECT_EQ(Explain(output).lines, once.lines);
+    EXPECT_EQ(Explain(output).count.unknown, once.count.unknown);
+    // Also a part of it: the numbers stay those of the whole.
+    EXPECT_EQ(Explain(once.lines[3] + "\n" + once.lines[4]).lines,
+              (std::vector<std::string>{once.lines[3], once.lines[4]}));
 }
 
 TEST(ExplainLogTest, TakesItsOwnTraceWithAndWithoutTimeAndMeaning) {

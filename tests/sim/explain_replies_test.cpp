@@ -76,11 +76,15 @@ INSTANTIATE_TEST_SUITE_P(
         ReplyCase{"SettingWithName",
                   {},
                   {0, 37, 26, 11, 2},
-                  "active master/slave mode of second unit of traction module 5: slave"},
+                  "active master/slave mode of the second unit of traction module 5: slave"},
         ReplyCase{"ClockOrAddress",
                   {0, 37, 8, 15},
                   {0, 37, 10, 15, 4},
                   "clock of traction module 5: degraded (in a QLRX-s: module address 4)"},
+        ReplyCase{"ClockOfSecond",
+                  {0, 37, 24, 15},
+                  {0, 37, 26, 15, 4},
+                  "clock of the second unit of traction module 5: degraded"},
         ReplyCase{"PermanentAddress",
                   {0, 37, 8, 79},
                   {0, 37, 10, 79, 4},
@@ -143,14 +147,22 @@ TEST_F(OwnAnswer, ToEveryRequestIsWhatWasAskedFor) {
 }
 
 TEST(ExplainerTest, LearnsFromAStatusWhatAnAnswerMeans) {
-    for (const auto& [type, meaning] :
-         {std::pair{2, "active module address 4 of traction module 5"},
-          std::pair{1, "clock of traction module 5: degraded"}}) {
+    struct Learned {
+        int type;
+        const char* request;
+        const char* answer;
+    };
+    for (const auto& [type, request, answer] :
+         {Learned{2, "ask for the active module address of traction module 5",
+                  "active module address 4 of traction module 5"},
+          Learned{1, "ask for the active clock state of traction module 5",
+                  "clock of traction module 5: degraded"}}) {
         Explainer explainer;
         explainer.Command(EncodeFrame({1, 11, 37}));
         explainer.Reply(EncodeFrame({1, 11, 37, 8 + type, 0, 0}));
+        EXPECT_EQ(explainer.Command(EncodeFrame({0, 37, 8, 15})), request);
         explainer.Command(EncodeFrame({}));
-        EXPECT_EQ(explainer.Reply(EncodeFrame({0, 37, 10, 15, 4})), meaning);
+        EXPECT_EQ(explainer.Reply(EncodeFrame({0, 37, 10, 15, 4})), answer);
     }
 }
 

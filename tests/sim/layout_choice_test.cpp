@@ -50,18 +50,26 @@ TEST(ChooseLayoutTest, NoneIsAUnitAlone) {
 }
 
 TEST(ChooseLayoutTest, WhatHasASlashOrTheEndingIsAFile) {
-    EXPECT_EQ(Message("club.toml", kShipped), "club.toml: No such file or directory");
-    EXPECT_EQ(Message("./club", kShipped), "./club: No such file or directory");
+    EXPECT_EQ(Message("club.toml", kShipped), "zelvarsim: club.toml: No such file or directory");
+    EXPECT_EQ(Message("./club", kShipped), "zelvarsim: ./club: No such file or directory");
     EXPECT_EQ(Message(ZELVAR_TEST_LAYOUTS "/mixed.toml", kShipped), "nothing wrong");
+}
+
+TEST(ChooseLayoutTest, APlaceInAFileStandsAtTheBeginningOfTheMessage) {
+    const std::string path = testing::TempDir() + "zelvar-empty.toml";
+    std::ofstream(path).flush();
+    EXPECT_EQ(Message(path, kShipped), path + ":1: [unit]: expected, but missing");
 }
 
 TEST(ChooseLayoutTest, AnUnknownWordIsToldTheKnownOnes) {
     EXPECT_EQ(Message("big", kShipped),
-              "--layout: club, largest, starter, none or the path of a .toml file expected, found "
+              "zelvarsim: --layout: club, largest, starter, none or the path of a .toml file "
+              "expected, found "
               "\"big\" (the shipped ones are looked for in " +
                   kShipped.string() + ")");
     EXPECT_EQ(Message("club", "/nowhere"),
-              "--layout: none or the path of a .toml file expected, found \"club\" (the shipped "
+              "zelvarsim: --layout: none or the path of a .toml file expected, found \"club\" (the "
+              "shipped "
               "ones are looked for in /nowhere)");
     EXPECT_NE(Message("", kShipped), "nothing wrong");
 }

@@ -175,8 +175,10 @@ TEST_F(ReadLayoutFileTest, ReadsALayout) {
 TEST_F(ReadLayoutFileTest, ListsEveryProblemWithFileAndLine) {
     Write("[unit]\ntype = \"KB-E\"\nversion = 1.02\nprotocol = \"3.11 B\"\nspeed = 9600\n");
     EXPECT_EQ(Message(path_),
-              path_ + ":3: version: a version like \"1.02\" or \"1.02 C\", up to \"9.85 G\", " +
-                  "expected, found 1.02\n" + path_ +
+              path_ +
+                  ":3: version: a version like \"1.02\" or \"1.02 C\" in quotation marks, up to "
+                  "\"9.85 G\", the digits behind the point at most 85, expected, found 1.02\n" +
+                  path_ +
                   ":5: unknown key \"speed\": type, version, protocol or dip-switches expected");
 }
 

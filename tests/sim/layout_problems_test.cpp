@@ -15,13 +15,18 @@ TEST_P(WrongLayouts, SayWhereAndWhatWasExpected) {
     EXPECT_EQ(ProblemsOf(GetParam().text), GetParam().problems);
 }
 
+std::string AVersion(const std::string& how = "") {
+    return "a version like \"1.02\" or \"1.02 C\"" + how +
+           ", up to \"9.85 G\", the digits behind the point at most 85,";
+}
+
 const std::string kValueExpected =
     "a text in quotation marks, a number, true, false or a list expected";
 const std::string kQuoteExpected = "a closing quotation mark expected before the end of the line";
 const std::string kOnceExpected = "each key and each [table] once expected";
 
 const ProblemCase kSyntax[] = {
-    {"Nothing", "", {"1: unit: expected here, but missing"}},
+    {"Nothing", "", {"1: [unit]: expected, but missing"}},
     {"NoValue", "title =\n", {"1: " + kValueExpected}},
     {"TextWithoutQuotes", "title = KB-E\n", {"1: " + kValueExpected}},
     {"TextLikeFalse", "title = fault\n", {"1: " + kValueExpected}},
@@ -60,8 +65,13 @@ const ProblemCase kUnits[] = {
      {"2: type: \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\" expected, found 2"}},
     {"UnitVersionNone",
      "[unit]\ntype = \"KB-E\"\nversion = \"none\"\nprotocol = \"3.10\"\n",
-     {"3: version: a version like \"1.02\" or \"1.02 C\", up to \"9.85 G\", expected, found "
-      "\"none\""}},
+     {"3: version: " + AVersion() + " expected, found \"none\""}},
+    {"ProtocolIsNumber",
+     "[unit]\ntype = \"KB-E\"\nversion = \"1.02\"\nprotocol = 3.20\n",
+     {"4: protocol: " + AVersion(" in quotation marks") + " expected, found 3.2"}},
+    {"VersionIsWholeNumber",
+     "[unit]\ntype = \"KB-E\"\nversion = 1\nprotocol = \"3.10\"\n",
+     {"3: version: " + AVersion(" in quotation marks") + " expected, found 1"}},
     {"UnitKey",
      UnitText() + "baud = 19200\n",
      {"5: unknown key \"baud\": type, version, protocol or dip-switches expected"}},
@@ -179,9 +189,7 @@ const ProblemCase kModules[] = {
 
 ProblemCase Version(const char* name, const char* version) {
     return Vd(name, "type = \"VD-F\"\nversion = \"" + std::string(version) + "\"\n",
-              {"9: version: a version like \"1.02\" or \"1.02 C\", up to \"9.85 G\", or \"none\" "
-               "expected, found \"" +
-               std::string(version) + '"'});
+              {"9: version: " + AVersion() + " or \"none\" expected, found \"" + version + '"'});
 }
 
 const ProblemCase kVersions[] = {
@@ -216,8 +224,7 @@ TEST(LayoutProblemsTest, AreAllListedInTheOrderOfTheFile) {
                   "2: name: a text of 1..40 characters expected, found 5",
                   "3: protocol: expected here, but missing",
                   "4: type: \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\" expected, found 1",
-                  "5: version: a version like \"1.02\" or \"1.02 C\", up to \"9.85 G\", expected, "
-                  "found \"1.0\"",
+                  "5: version: " + AVersion() + " expected, found \"1.0\"",
                   "6: name: expected here, but missing",
                   "6: block: expected here, but missing",
                   "6: length: expected here, but missing",

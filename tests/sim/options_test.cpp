@@ -48,6 +48,21 @@ TEST(OptionsTest, TakesAllOfThem) {
     EXPECT_EQ(Right({"--device", "/dev/x"}).device, "/dev/x");
 }
 
+TEST(OptionsTest, TakesAValueInTheSameWord) {
+    const Options options = Right({"--link=/x/y=z", "--baud=38400", "--no-pacing", "--seed=7"});
+    EXPECT_EQ(options.link, "/x/y=z");
+    EXPECT_EQ(options.baud, 38400);
+    EXPECT_EQ(options.seed, 7);
+}
+
+TEST(OptionsTest, TakesTheHighestOfEachNumber) {
+    EXPECT_EQ(Right({"--unit-delay", "60000"}).unitDelay, std::chrono::milliseconds(60000));
+}
+
+TEST(OptionsTest, HasAShortWordForHelp) {
+    EXPECT_TRUE(Right({"-h"}).help);
+}
+
 struct WrongCase {
     const char* name;
     std::vector<std::string_view> arguments;
@@ -67,17 +82,47 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         WrongCase{"Unknown", {"--lnk", "x"}, "unknown option --lnk"},
         WrongCase{"BareWord", {"x"}, "unknown option x"},
-        WrongCase{"MissingValue", {"--no-pacing", "--link"}, "missing value of --link"},
-        WrongCase{"EmptyLink", {"--link", ""}, "wrong value of --link: "},
-        WrongCase{"Baud", {"--baud", "9600"}, "wrong value of --baud: 9600"},
-        WrongCase{"Layout", {"--layout", ""}, "wrong value of --layout: "},
-        WrongCase{"Delay", {"--unit-delay", "-1"}, "wrong value of --unit-delay: -1"},
-        WrongCase{"DelayText", {"--unit-delay", "5ms"}, "wrong value of --unit-delay: 5ms"},
-        WrongCase{"TimeFactor", {"--time-factor", "101"}, "wrong value of --time-factor: 101"},
         WrongCase{
-            "TimeFactorNegative", {"--time-factor", "-1"}, "wrong value of --time-factor: -1"},
-        WrongCase{"Seed", {"--seed", "-1"}, "wrong value of --seed: -1"},
-        WrongCase{"SeedTooHigh", {"--seed", "2147483648"}, "wrong value of --seed: 2147483648"},
+            "MissingValue", {"--no-pacing", "--link"}, "missing value of --link: a path expected"},
+        WrongCase{"NoValueWanted", {"--trace=on"}, "--trace takes no value"},
+        WrongCase{"UnknownWithValue", {"--lnk=x"}, "unknown option --lnk"},
+        WrongCase{
+            "EmptyLink", {"--link", ""}, "wrong value of --link: a path expected, found \"\""},
+        WrongCase{"EmptyBehindTheSign",
+                  {"--link="},
+                  "wrong value of --link: a path expected, found \"\""},
+        WrongCase{"Baud",
+                  {"--baud", "9600"},
+                  "wrong value of --baud: 19200 or 38400 expected, found \"9600\""},
+        WrongCase{"Layout",
+                  {"--layout", ""},
+                  "wrong value of --layout: a name or a path expected, found \"\""},
+        WrongCase{"Explain",
+                  {"--explain", ""},
+                  "wrong value of --explain: a path or \"-\" expected, found \"\""},
+        WrongCase{"Delay",
+                  {"--unit-delay", "-1"},
+                  "wrong value of --unit-delay: a whole number 0..60000 expected, found \"-1\""},
+        WrongCase{"DelayTooLong",
+                  {"--unit-delay", "60001"},
+                  "wrong value of --unit-delay: a whole number 0..60000 expected, found "
+                  "\"60001\""},
+        WrongCase{"DelayText",
+                  {"--unit-delay=5ms"},
+                  "wrong value of --unit-delay: a whole number 0..60000 expected, found \"5ms\""},
+        WrongCase{"TimeFactor",
+                  {"--time-factor", "101"},
+                  "wrong value of --time-factor: a whole number 0..100 expected, found \"101\""},
+        WrongCase{"TimeFactorNegative",
+                  {"--time-factor", "-1"},
+                  "wrong value of --time-factor: a whole number 0..100 expected, found \"-1\""},
+        WrongCase{"Seed",
+                  {"--seed", "-1"},
+                  "wrong value of --seed: a whole number 0..2147483647 expected, found \"-1\""},
+        WrongCase{"SeedTooHigh",
+                  {"--seed", "2147483648"},
+                  "wrong value of --seed: a whole number 0..2147483647 expected, found "
+                  "\"2147483648\""},
         WrongCase{"LinkAndDevice",
                   {"--link", "a", "--device", "b"},
                   "--link and --device exclude each other"}),

@@ -15,6 +15,7 @@
 #include <poll.h>
 #include <signal.h>  // NOLINT: kill() is not in <csignal>
 #include <string>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -105,6 +106,9 @@ class ProgramTest : public testing::Test {
         if (process_ == 0) {
             dup2(in[0], STDIN_FILENO);
             dup2(out[1], STDOUT_FILENO);
+            const std::string errors = (folder_ / "errors").string();
+            dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600),
+                 STDERR_FILENO);
             execv(arguments[0], arguments.data());
             _exit(127);
         }
@@ -175,6 +179,11 @@ class ProgramTest : public testing::Test {
             WaitReadable(-1, milliseconds(5));
         }
         return -1;
+    }
+    /// What the program has said on its standard error.
+    std::string Errors() const {
+        std::ifstream file(folder_ / "errors");
+        return {std::istreambuf_iterator<char>(file), {}};
     }
     bool LinkExists() const {
         return std::filesystem::is_symlink(std::filesystem::symlink_status(link_));
@@ -269,6 +278,38 @@ TEST_F(ProgramTest, ReplacesAStaleLinkButNoFile) {
     Start({"--link", link_.string()});
     EXPECT_EQ(WaitForEnd(), 1);
     EXPECT_TRUE(std::filesystem::is_directory(link_));
+}
+
+TEST_F(ProgramTest, LeavesALinkToAnotherRunningOneAlone) {
+    StartOnLink();
+    const auto target = std::filesystem::read_symlink(link_);
+    const pid_t first = process_;
+    const Handle firstInput = std::move(input_);
+    for (const bool exclusive : {false, true}) {
+        if (exclusive) {
+            ASSERT_EQ(ioctl(line_.get(), TIOCEXCL), 0);
+        }
+        Start({"--link", link_.string()});
+        EXPECT_EQ(WaitForEnd(), 1);
+        EXPECT_EQ(Errors(), "zelvarsim: " + link_.string() + ": another zelvarsim serves it\n");
+        EXPECT_EQ(std::filesystem::read_symlink(link_), target);
+    }
+    SendFrame({});
+    EXPECT_EQ(Receive(2), kEmptyReply) << "the first one goes on";
+    // Killed, it leaves its link behind, which is free again then.
+    process_ = first;
+    kill(process_, SIGKILL);
+    EXPECT_EQ(WaitForEnd(), -1);
+    line_.Close();
+    EXPECT_TRUE(LinkExists());
+    StartOnLink();
+    SendFrame({});
+    EXPECT_EQ(Receive(2), kEmptyReply);
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        files += entry.path().filename() == "errors" ? 0 : 1;
+    }
+    EXPECT_EQ(files, 1U) << "nothing but the link";
 }
 
 TEST_F(ProgramTest, LeavesALinkAloneThatIsNoLongerItsOwn) {
@@ -423,6 +464,7 @@ TEST_F(ProgramTest, EndsWhenItsDeviceGoes) {
 TEST_F(ProgramTest, RefusesUnknownOptionsAndMissingDevices) {
     Start({"--bogus"});
     EXPECT_EQ(WaitForEnd(), 2);
+    EXPECT_EQ(Errors(), "zelvarsim: unknown option --bogus\nTry \"zelvarsim --help\".\n");
     Start({"--device", (folder_ / "none").string()});
     EXPECT_EQ(WaitForEnd(), 1);
 }

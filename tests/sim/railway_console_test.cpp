@@ -33,29 +33,30 @@ TEST_P(RailwayLine, IsAnsweredWith) {
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, RailwayLine,
-    testing::Values(LineCase{"Place", "place red east", "ok"},
-                    LineCase{"PlaceAtTheStart", "place red siding 0", "ok"},
-                    LineCase{"PlaceAtTheEnd", "place red siding 60", "ok"},
-                    LineCase{"PlaceBeyond", "place red siding 61", "error CM must be 0..60"},
-                    LineCase{"PlaceBefore", "place red siding -1", "error CM must be 0..60"},
-                    LineCase{"NoTrain", "place green siding", "error unknown train green"},
-                    LineCase{"NoSection", "place red moon", "error unknown section moon"},
-                    LineCase{"PlaceTwoNumbers", "place red siding 5 6",
-                             "error one number expected behind the section"},
-                    LineCase{"PlaceText", "place red siding far", "error CM must be 0..60"},
-                    LineCase{"PlaceUsage", "place red", "error usage: place TRAIN SECTION [CM]"},
-                    LineCase{"Point", "point 511 thrown", "ok"},
-                    LineCase{"PointTooHigh", "point 512 thrown", "error D must be 0..511"},
-                    LineCase{"PointWord", "point 4 left", "error straight or thrown expected"},
-                    LineCase{"Stand", "time-factor 0", "ok"},
-                    LineCase{"Fastest", "time-factor 100", "ok"},
-                    LineCase{"TooFast", "time-factor 101", "error N must be 0..100"},
-                    LineCase{"Backwards", "time-factor -1", "error N must be 0..100"},
-                    LineCase{"RunNothing", "run 0", "error MS must be 1..600000"},
-                    LineCase{"RunTooLong", "run 600001", "error MS must be 1..600000"},
-                    LineCase{"RunUsage", "run", "error usage: run MS"},
-                    LineCase{"RunWhileTimePasses", "run 1000",
-                             "error \"time-factor 0\" expected first"}),
+    testing::Values(
+        LineCase{"Place", "place red east", "ok"},
+        LineCase{"PlaceAtTheStart", "place red siding 0", "ok"},
+        LineCase{"PlaceAtTheEnd", "place red siding 60", "ok"},
+        LineCase{"PlaceBeyond", "place red siding 61", "error CM must be 0..60"},
+        LineCase{"PlaceBefore", "place red siding -1", "error CM must be 0..60"},
+        LineCase{"NoTrain", "place green siding",
+                 "error unknown train green: red or blue expected"},
+        LineCase{"NoSection", "place red moon",
+                 "error unknown section moon: west, north, siding, east or stub expected"},
+        LineCase{"PlaceTwoNumbers", "place red siding 5 6",
+                 "error one number expected behind the section"},
+        LineCase{"PlaceText", "place red siding far", "error CM must be 0..60"},
+        LineCase{"PlaceUsage", "place red", "error usage: place TRAIN SECTION [CM]"},
+        LineCase{"Point", "point 511 thrown", "ok"},
+        LineCase{"PointTooHigh", "point 512 thrown", "error D must be 0..511"},
+        LineCase{"PointWord", "point 4 left", "error straight or thrown expected"},
+        LineCase{"Stand", "time-factor 0", "ok"}, LineCase{"Fastest", "time-factor 100", "ok"},
+        LineCase{"TooFast", "time-factor 101", "error N must be 0..100"},
+        LineCase{"Backwards", "time-factor -1", "error N must be 0..100"},
+        LineCase{"RunNothing", "run 0", "error MS must be 1..600000"},
+        LineCase{"RunTooLong", "run 600001", "error MS must be 1..600000"},
+        LineCase{"RunUsage", "run", "error usage: run MS"},
+        LineCase{"RunWhileTimePasses", "run 1000", "error \"time-factor 0\" expected first"}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(RailwayConsole, PlacePutsATrainIntoTheMiddleAndStandsIt) {
@@ -76,6 +77,20 @@ TEST_F(RailwayConsole, PlaceTakesNamesWithBlanks) {
     EXPECT_EQ(Where("red express"), "west 25.0");
     EXPECT_EQ(Where("red"), "north 50.0");
     EXPECT_EQ(Answer("place red express"), "error a section expected");
+}
+
+TEST_F(RailwayConsole, AnUnknownNameIsToldAtMostEightOfTheKnownOnes) {
+    std::vector<Train> trains;
+    for (int number = 1; number <= 8; ++number) {
+        trains.push_back(AnalogTrain("t" + std::to_string(number), kWest));
+    }
+    Build(trains);
+    EXPECT_EQ(Answer("place \"red express\" west"),
+              "error unknown train \"red: t1, t2, t3, t4, t5, t6, t7 or t8 expected");
+    trains.push_back(AnalogTrain("t9", kWest));
+    Build(trains);
+    EXPECT_EQ(Answer("place red west"),
+              "error unknown train red: t1, t2, t3, t4, t5, t6, t7, t8, ... expected");
 }
 
 TEST_F(RailwayConsole, PlaceTripsTheDetectors) {
@@ -189,7 +204,7 @@ TEST_F(RailwayConsole, AnEmptyTableListsNoTrains) {
     EXPECT_EQ(unit_.Describe(now_).find("section."), std::string::npos);
     EXPECT_EQ(Answer("state").find("Trains"), std::string::npos);
     EXPECT_EQ(Answer("state").find("Simulated time"), std::string::npos);
-    EXPECT_EQ(Answer("place red west"), "error unknown train red");
+    EXPECT_EQ(Answer("place red west"), "error unknown train red: the layout has none");
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ TEST_F(StateTable, ListsTheModulesThatAreThere) {
 TEST_F(StateTable, ShowsWhatMovesAndWhatWasSet) {
     Send({34, 5, 76});      // block 5
     Send({58, 5, 6, 6});    // linked with 6, inverted
+    Send({58, 7, 2, 8});    // linked with 8
     Send({40, 0, 106, 3});  // DCC
     Send({6, 0, 2, 2, 0});  // MCC
     Send({22, 44});         // point 300
@@ -54,7 +55,7 @@ TEST_F(StateTable, ShowsWhatMovesAndWhatWasSet) {
     EXPECT_EQ(RowsOf("Blocks"), (Rows{{"5", "12", "", "forward", "off", ""},
                                       {"6", "12", "", "reverse", "off", ""},
                                       {"9", "0", "", "forward", "off", "yes"}}));
-    EXPECT_EQ(RowsOf("Links"), (Rows{{"5 and 6", "inverted"}}));
+    EXPECT_EQ(RowsOf("Links"), (Rows{{"5 and 6", "inverted"}, {"7 and 8", "same way"}}));
     EXPECT_EQ(RowsOf("Locomotives"), (Rows{{"DCC 3", "10 of 28", "forward", "0", "none"},
                                            {"MCC 2", "1.5 of 15", "", "", "none"}}));
     EXPECT_EQ(RowsOf("Points"), (Rows{{"300", "thrown"}, {"module 11, device 3", "thrown"}}));
@@ -105,6 +106,14 @@ TEST_F(StateTable, CountsTheFrames) {
     unit_.NoteBrokenFrame();
     EXPECT_EQ(RowsOf("Frames"),
               (Rows{{"received", "2"}, {"broken", "1"}, {"protocol-version", "2"}}));
+}
+
+TEST_F(StateTable, CountsTheFramesWhoseToggleSaysThatTheyWereSentBefore) {
+    for (int sent = 0; sent < 3; ++sent) {
+        unit_.Handle({kHeaderMark, {}}, now_);
+    }
+    EXPECT_EQ(RowsOf("Frames"),
+              (Rows{{"received", "3"}, {"sent twice, by the toggle", "2"}, {"poll", "3"}}));
 }
 
 TEST(RenderSectionsTest, AlignsColumnsAndLeavesOutWhatIsNotThere) {

@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 #include <poll.h>
 #include <signal.h>  // NOLINT: kill() is not in <csignal>
+#include <sstream>
 #include <string>
 #include <sys/ioctl.h>
 #include <sys/wait.h>
@@ -196,6 +197,20 @@ TEST_F(TerminalTest, TabShowsTheChoices) {
     EXPECT_TRUE(Shows("\r\nabsent  status\r\n")) << screen_;
     EXPECT_TRUE(Shows("zelvarsim> module 32 ")) << screen_;
     EXPECT_THAT(Enter("a\t"), HasSubstr("\r\nok\r\n"));
+}
+
+TEST_F(TerminalTest, TheChoicesStayWithinTheTerminalsWidth) {
+    Start(40);
+    Clear();
+    Type("help \t");
+    ASSERT_TRUE(Shows("zelvarsim> help ")) << screen_;
+    ASSERT_TRUE(Shows("trace")) << screen_;
+    std::istringstream lines(screen_);
+    std::size_t rows = 0;
+    for (std::string line; std::getline(lines, line); ++rows) {
+        EXPECT_LE(line.size(), 40U + 1U) << line;  // with its carriage return
+    }
+    EXPECT_GT(rows, 5U) << screen_;
 }
 
 TEST_F(TerminalTest, ATraceComesAboveTheLineBeingTyped) {
