@@ -4,10 +4,14 @@
 
 #include <array>
 #include <cerrno>
+#include <cstddef>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <functional>
 #include <stdlib.h>  // NOLINT: the pseudo-terminal calls are not in <cstdlib>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <system_error>
 #include <termios.h>
 #include <unistd.h>
@@ -51,32 +55,33 @@ bool SetRaw(int fd, int baud, bool oddParity) {
     return tcsetattr(fd, TCSANOW, &settings) == 0;
 }
 
-/// A lock on the whole of the pseudo-terminal itself: it goes with the program, however that ends.
-/// Not the kind that terminal programs take of a line they use (flock).
-struct flock WholeFile() {
-    struct flock lock {};
-    lock.l_type = F_WRLCK;
-    lock.l_whence = SEEK_SET;
-    return lock;
-}
-
-void MarkAsServed(int slaveFd) {
-    const struct flock lock = WholeFile();
-    // Without the mark all else works; no file system of terminals is known to refuse it.
-    static_cast<void>(fcntl(slaveFd, F_SETLK, &lock));
-}
-
-/// Whether a link leads to a pseudo-terminal that another simulator serves. The number of one that
-/// is gone may have gone to a terminal, or to the one that was just made here.
-bool IsServed(const std::string& link) {
-    const int fd = open(link.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK);
-    if (fd < 0) {
-        return errno == EBUSY;  // a program has it for itself, and with it what serves it
+/// Says to others that this program serves the link: a name of its own that goes with the program,
+/// however that ends. Not a mark on the pseudo-terminal behind the link, since one that is gone
+/// leaves its number to the next.
+/// @return what holds the mark while it is open; nothing when another program has it
+std::optional<int> MarkAsServed(const std::string& link) {
+#ifdef __linux__
+    std::error_code error;
+    const std::filesystem::path whole = std::filesystem::absolute(link, error);
+    const std::filesystem::path folder = std::filesystem::canonical(whole.parent_path(), error);
+    const std::size_t hash = std::hash<std::string>()(folder / whole.filename());
+    sockaddr_un name{};
+    name.sun_family = AF_UNIX;
+    // A zero first: no file stands for it.
+    const std::string text = '\0' + ("zelvarsim-" + std::to_string(hash));
+    text.copy(name.sun_path, sizeof name.sun_path);
+    const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + text.size());
+    const int mark = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    if (mark >= 0 && bind(mark, reinterpret_cast<const sockaddr*>(&name), size) != 0) {
+        const bool taken = errno == EADDRINUSE;
+        close(mark);
+        return taken ? std::nullopt : std::optional(-1);
     }
-    struct flock lock = WholeFile();
-    const bool locked = fcntl(fd, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
-    close(fd);  // would also take an own mark away: it is made after this
-    return locked;
+    return mark;
+#else
+    static_cast<void>(link);
+    return -1;
+#endif
 }
 
 bool SetNonBlocking(int fd) {
@@ -109,12 +114,14 @@ std::optional<std::string> SerialLine::OpenPseudoTerminal(const std::string& lin
     }
     path_ = slaveName_;
     if (!link.empty()) {
+        const std::optional<int> mark = MarkAsServed(link);
+        if (!mark) {
+            Close();
+            return link + ": another zelvarsim serves it";
+        }
+        linkMark_ = *mark;
         std::error_code error;
         if (std::filesystem::is_symlink(std::filesystem::symlink_status(link, error))) {
-            if (IsServed(link)) {
-                Close();
-                return link + ": another zelvarsim serves it";
-            }
             std::filesystem::remove(link, error);
         }
         std::filesystem::create_symlink(slaveName_, link, error);
@@ -125,7 +132,6 @@ std::optional<std::string> SerialLine::OpenPseudoTerminal(const std::string& lin
         link_ = link;
         path_ = link;
     }
-    MarkAsServed(slaveFd_);
     return std::nullopt;
 }
 
@@ -148,7 +154,7 @@ void SerialLine::Close() {
         }
         link_.clear();
     }
-    for (int* fd : {&slaveFd_, &fd_}) {
+    for (int* fd : {&slaveFd_, &fd_, &linkMark_}) {
         if (*fd >= 0) {
             close(*fd);
             *fd = -1;

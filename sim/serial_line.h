@@ -51,6 +51,7 @@ class SerialLine {
     std::string path_;
     std::string link_;
     std::string slaveName_;
+    int linkMark_ = -1;
 };
 
 }  // namespace zelvar::sim

@@ -18,8 +18,9 @@ namespace {
 
 constexpr const char* kSettings[] = {"19200,o,8,1", "38400,o,8,1"};
 
-// In pixels at 96 dpi: every tab fits without scrolling, on small screens too.
-constexpr int kStartWidth = 960;
+// In pixels at 96 dpi: every tab fits without scrolling, on small screens too. The width is what
+// the tabs need with DejaVu Sans, since they are built when the window is already in view.
+constexpr int kStartWidth = 969;
 constexpr int kStartHeight = 640;
 
 /// In milliseconds: the window is painted by then.
@@ -36,7 +37,7 @@ MainWindow::MainWindow(const Platform& platform)
       portBar_(new PortBar(this)),
       tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
       vdTab_(tabs_, QStringLiteral("VDxx / QLRX-s"),
-             [this](QWidget* page) { return new VDTab(services_, registry_, page); }),
+             [this](QWidget* page) { return MakeVDTab(page); }),
       jsTab_(tabs_, QStringLiteral("JS70"), [this](QWidget* page) { return MakeJSTab(page); }),
       kbTab_(tabs_, QStringLiteral("KB-x"),
              [this](QWidget* page) { return new KBTab(services_, page); }),
@@ -68,6 +69,12 @@ MainWindow::~MainWindow() {
     Form_Unload();
 }
 
+VDTab* MainWindow::MakeVDTab(QWidget* page) {
+    auto* tab = new VDTab(services_, registry_, page);
+    tab->Fill({});
+    return tab;
+}
+
 JSTab* MainWindow::MakeJSTab(QWidget* page) {
     auto* tab = new JSTab(services_, page);
     tab->Fill({});
@@ -81,7 +88,8 @@ TestTab* MainWindow::MakeTestTab(QWidget* page) {
     return tab;
 }
 
-void MainWindow::BuildHiddenTabs() {
+void MainWindow::BuildTabs() {
+    vdTab_.Get();
     jsTab_.Get();
     kbTab_.Get();
     testTab_.Get();
@@ -91,7 +99,7 @@ void MainWindow::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     if (!isPainted_) {
         isPainted_ = true;
-        QTimer::singleShot(0, this, &MainWindow::BuildHiddenTabs);
+        QTimer::singleShot(0, this, &MainWindow::BuildTabs);
     }
 }
 
@@ -107,7 +115,7 @@ void MainWindow::BuildFrame() {
 
 void MainWindow::ConnectControls() {
     HandlerGate& gate = platform_.gate;
-    connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::BuildHiddenTabs);
+    connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::BuildTabs);
     connect(portBar_->cboPort, &DropDownList::Chosen, this,
             gate.Handler([this] { cboPort_Click(); }));
     connect(portBar_->cmdRefresh, &QPushButton::clicked, this,
@@ -162,7 +170,6 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::Form_Load() {
     platform_.port.SetSettings(kSettings[0]);
     ScanPorts();
-    vdTab_.Get().Fill({});
 }
 
 void MainWindow::Form_Unload() {

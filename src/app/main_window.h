@@ -56,14 +56,16 @@ class MainWindow : public QMainWindow, private LinkView {
 
     StatusBar& Bar() { return *statusBar_; }
 
-    /// Builds the tabs behind the first one, which happens by itself once the window is painted.
-    void BuildHiddenTabs();
+    /// Builds the tabs' contents, which happens by itself once the window is painted with the port
+    /// list, the buttons and the status bar, or when somebody needs one of them before.
+    void BuildTabs();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    VDTab* MakeVDTab(QWidget* page);
     JSTab* MakeJSTab(QWidget* page);
     TestTab* MakeTestTab(QWidget* page);
     void BuildFrame();

@@ -28,6 +28,11 @@ class LatePage {
         if (contents_ == nullptr) {
             contents_ = make_(page_);
             page_->layout()->addWidget(contents_);
+            if (page_->isVisible()) {
+                // They would else appear with a later event only.
+                contents_->show();
+                page_->layout()->activate();
+            }
         }
         return *contents_;
     }

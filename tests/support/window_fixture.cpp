@@ -39,7 +39,7 @@ void WindowHands::ShowWindowOn(SerialPort& line) {
         Platform{line, timer, clock, messageBox, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    window->BuildHiddenTabs();
+    window->BuildTabs();
 }
 
 void WindowHands::ShowTabOf(QWidget& control) {
