@@ -280,6 +280,21 @@ TEST_F(ProgramTest, ReplacesAStaleLinkButNoFile) {
     EXPECT_TRUE(std::filesystem::is_directory(link_));
 }
 
+TEST_F(ProgramTest, ReplacesAStaleLinkWhosePseudoTerminalAnotherOneHasNow) {
+    StartOnLink();
+    const auto stale = link_.parent_path() / "stale";
+    std::filesystem::create_symlink(std::filesystem::read_symlink(link_), stale);
+    const pid_t first = process_;
+    const Handle firstInput = std::move(input_);
+    Start({"--link", stale.string()});
+    EXPECT_EQ(ReadLine(), "ready " + stale.string());
+    Command("quit");
+    EXPECT_EQ(WaitForEnd(), 0);
+    kill(first, SIGTERM);
+    process_ = first;
+    EXPECT_EQ(WaitForEnd(), 0);
+}
+
 TEST_F(ProgramTest, LeavesALinkToAnotherRunningOneAlone) {
     StartOnLink();
     const auto target = std::filesystem::read_symlink(link_);
