@@ -13,7 +13,7 @@
 #include <array>
 #include <chrono>
 
-#include "test/dlg_zelvar_feedback.h"
+#include "test/feedback/dlg_zelvar_feedback.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 
 #include "controls/naming.h"
 #include "controls/number_text.h"
-#include "link/reports.h"
+#include "protocol/reports.h"
 
 namespace zelvar {
 

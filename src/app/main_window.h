@@ -25,7 +25,7 @@
 #include "status/dlg_zelvar_status44.h"
 #include "status/module_registry.h"
 #include "status/status_request.h"
-#include "test/dlg_zelvar_feedback.h"
+#include "test/feedback/dlg_zelvar_feedback.h"
 #include "test/test_tab.h"
 
 namespace zelvar {

@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "config/await_answer.h"
+#include "protocol/addresses.h"
 
 namespace zelvar {
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "config/js_commands.h"
 #include "link/services.h"
+#include "protocol/point_settings.h"
 
 namespace zelvar {
 

@@ -11,11 +11,11 @@
 #include <cstddef>
 
 #include "config/erase_question.h"
-#include "config/js_commands.h"
 #include "config/js_report.h"
 #include "config/selection.h"
 #include "controls/command_button.h"
 #include "controls/naming.h"
+#include "protocol/point_settings.h"
 
 namespace zelvar {
 

@@ -11,10 +11,10 @@
 #include <array>
 
 #include "config/module_commands.h"
+#include "config/selection_list.h"
 #include "controls/drop_down_list.h"
 #include "controls/spin_field.h"
 #include "link/services.h"
-#include "status/selection_list.h"
 
 namespace zelvar {
 

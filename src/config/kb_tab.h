@@ -10,9 +10,9 @@
 
 #include <array>
 
-#include "config/kb_commands.h"
 #include "config/module_commands.h"
 #include "link/services.h"
+#include "protocol/unit_settings.h"
 #include "status/central_unit.h"
 
 namespace zelvar {

@@ -7,8 +7,8 @@
 
 #include "config/await_answer.h"
 #include "config/module_commands.h"
+#include "config/selection_list.h"
 #include "config/vd_settings.h"
-#include "status/selection_list.h"
 
 namespace zelvar {
 

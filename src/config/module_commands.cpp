@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "status/selection_list.h"
+#include "config/selection_list.h"
 
 namespace zelvar {
 
@@ -29,19 +29,6 @@ const Group kGroups[] = {
     {kAllVDF, kVDPrimaryLines, {kVdF}},
     {kAllVDxx, kVDLines, {kVdF, kVd60}},
 };
-
-/// Moves bit 5 of a line number, the secondary unit, to bit 4 of the command code.
-constexpr int kSecondaryCode = 16;
-
-std::uint8_t Byte(int value) {
-    return static_cast<std::uint8_t>(value);
-}
-
-Command Addressed(const ModuleCommand& command, int address, int code) {
-    constexpr int kLeadingBytes = 2;
-    return {Byte(command.length + kLeadingBytes),
-            {0, Byte(address), Byte(code), command.arg1, command.arg2}};
-}
 
 std::vector<int> LinesOfTypes(const ModuleRegistry& registry, const Group& group) {
     std::vector<int> lines;
@@ -80,20 +67,6 @@ ChosenModules ChosenJsModules(const ModuleSelection& selection) {
         chosen.modules.push_back(*selection.data);
     }
     return chosen;
-}
-
-Command CommandForVD(const ModuleCommand& command, int module) {
-    return Addressed(command, kFamilyVD + module % kVDPrimaryLines,
-                     (module / kVDPrimaryLines) * kSecondaryCode + command.code);
-}
-
-Command CommandForJs(const ModuleCommand& command, int module) {
-    return Addressed(command, kFamilyJs + JsAddressOf(module), command.code);
-}
-
-Command CommandForUnit(const ModuleCommand& command) {
-    constexpr std::uint8_t kUnitFamily = 1;
-    return {command.length, {kUnitFamily, command.code, command.arg1, command.arg2}};
 }
 
 ModuleCommands::ModuleCommands(const Services& services, Queries queries)

@@ -8,35 +8,14 @@
 #include <string_view>
 #include <vector>
 
-#include "link/frame.h"
 #include "link/services.h"
+#include "protocol/module_command.h"
 #include "status/module_registry.h"
 
 namespace zelvar {
 
 inline constexpr std::string_view kRequestStatusText =
     "Please request Status first to register modules";
-
-// Where a configuration command goes. Any other target gets the two empty transactions alone.
-constexpr std::uint8_t kTargetVD = 32;
-constexpr std::uint8_t kTargetJs = 64;
-constexpr std::uint8_t kTargetUnit = 128;
-
-/// Added to a module command's parameter or code for the permanent settings.
-constexpr int kPermanentBit = 64;
-
-/// A configuration command before it is addressed.
-struct ModuleCommand {
-    /// `kTargetVD`, `kTargetJs` or `kTargetUnit`
-    std::uint8_t target = 0;
-    /// Modules: how many of code, arg1 and arg2 are sent. Central unit: the count of data bytes.
-    std::uint8_t length = 0;
-    std::uint8_t code = 0;
-    std::uint8_t arg1 = 0;
-    std::uint8_t arg2 = 0;
-
-    bool operator==(const ModuleCommand&) const = default;
-};
 
 /// What a module selection list holds at present.
 struct ModuleSelection {
@@ -59,15 +38,6 @@ ChosenModules ChosenVDModules(const ModuleRegistry& registry, const ModuleSelect
 
 /// @param selection of `cboJS`: a position 0..15 or all 16, registered or not
 ChosenModules ChosenJsModules(const ModuleSelection& selection);
-
-/// The command as it goes to one traction module. @param module 0..63
-Command CommandForVD(const ModuleCommand& command, int module);
-
-/// The command as it goes to one point-motor module. @param module 0..15
-Command CommandForJs(const ModuleCommand& command, int module);
-
-/// The command as it goes to the central unit.
-Command CommandForUnit(const ModuleCommand& command);
 
 /// Sends configuration commands to whatever is chosen.
 class ModuleCommands {

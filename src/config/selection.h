@@ -3,8 +3,8 @@
 #pragma once
 
 #include "config/module_commands.h"
+#include "config/selection_list.h"
 #include "controls/drop_down_list.h"
-#include "status/selection_list.h"
 
 namespace zelvar {
 

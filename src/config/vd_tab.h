@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "config/module_commands.h"
+#include "config/selection_list.h"
 #include "config/vd_setting_panel.h"
 #include "controls/drop_down_list.h"
 #include "link/services.h"
 #include "status/module_registry.h"
-#include "status/selection_list.h"
 
 namespace zelvar {
 

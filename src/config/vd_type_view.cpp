@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "config/vd_type_view.h"
 
+#include "config/selection_list.h"
 #include "status/module_registry.h"
-#include "status/selection_list.h"
 
 namespace zelvar {
 

@@ -6,13 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "link/frame.h"
 #include "link/reply_dispatch.h"
 #include "link/system_status.h"
 #include "platform/clock.h"
 #include "platform/message_box.h"
 #include "platform/serial_port.h"
 #include "platform/timer.h"
+#include "protocol/frame.h"
 
 namespace zelvar {
 

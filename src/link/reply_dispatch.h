@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <functional>
 
-#include "link/frame.h"
+#include "protocol/frame.h"
 
 namespace zelvar {
 

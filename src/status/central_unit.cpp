@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "status/version.h"
+#include "protocol/version.h"
 
 namespace zelvar {
 

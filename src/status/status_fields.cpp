@@ -5,8 +5,8 @@
 #include <QGridLayout>
 
 #include "controls/naming.h"
+#include "protocol/version.h"
 #include "status/system_report.h"
-#include "status/version.h"
 
 namespace zelvar {
 

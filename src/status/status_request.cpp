@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "status/version.h"
+#include "protocol/version.h"
 
 namespace zelvar {
 

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#include "status/version.h"
+#include "protocol/version.h"
 
 namespace zelvar {
 

@@ -10,10 +10,10 @@
 #include "controls/naming.h"
 #include "controls/number_text.h"
 #include "controls/palette.h"
-#include "test/accessory_groups.h"
-#include "test/block_commands.h"
-#include "test/block_link_group.h"
-#include "test/point_group.h"
+#include "protocol/blocks.h"
+#include "test/accessories/accessory_groups.h"
+#include "test/accessories/block_link_group.h"
+#include "test/accessories/point_group.h"
 
 namespace zelvar {
 

@@ -6,13 +6,13 @@
 #include <QTabWidget>
 #include <QWidget>
 
-#include "link/reports.h"
 #include "link/services.h"
 #include "link/system_status.h"
-#include "test/analog_page.h"
-#include "test/dcc_page.h"
-#include "test/drive_controls.h"
-#include "test/mcc_page.h"
+#include "protocol/reports.h"
+#include "test/locomotives/analog_page.h"
+#include "test/locomotives/dcc_page.h"
+#include "test/locomotives/drive_controls.h"
+#include "test/locomotives/mcc_page.h"
 
 namespace zelvar {
 

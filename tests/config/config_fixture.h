@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "config/module_commands.h"
+#include "config/selection_list.h"
 #include "link/services.h"
 #include "status/module_registry.h"
-#include "status/selection_list.h"
 #include "support/doubles.h"
 
 namespace zelvar::testing {

@@ -8,17 +8,17 @@
 #include <sstream>
 #include <string>
 
-#include "central_unit.h"
-#include "commands.h"
-#include "console.h"
 #include "document.h"
-#include "faults.h"
-#include "layout.h"
-#include "link/frame.h"
 #include "link/link.h"
 #include "link/reply_dispatch.h"
+#include "protocol/frame.h"
+#include "sim/console/console.h"
+#include "sim/line/faults.h"
+#include "sim/protocol/wire.h"
+#include "sim/unit/central_unit.h"
+#include "sim/unit/commands.h"
+#include "sim/unit/layout.h"
 #include "support/doubles.h"
-#include "wire.h"
 
 namespace zelvar::testing {
 

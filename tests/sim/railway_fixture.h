@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "reports.h"
-#include "unit_fixture.h"
+#include "sim/unit/reports.h"
+#include "sim/unit_fixture.h"
 
 namespace zelvar::sim {
 

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "layout_file.h"
+#include "sim/layouts/layout_file.h"
 
 namespace zelvar::sim {
 

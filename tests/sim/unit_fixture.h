@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "central_unit.h"
-#include "test_layouts.h"
+#include "sim/test_layouts.h"
+#include "sim/unit/central_unit.h"
 
 namespace zelvar::sim {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "status/selection_list.h"
+#include "config/selection_list.h"
 #include "status/status_request_fixture.h"
 
 namespace zelvar::testing {

@@ -14,13 +14,13 @@
 #include <utility>
 #include <vector>
 
-#include "link/frame.h"
 #include "link/link.h"
 #include "platform/clock.h"
 #include "platform/message_box.h"
 #include "platform/progress.h"
 #include "platform/serial_port.h"
 #include "platform/timer.h"
+#include "protocol/frame.h"
 
 namespace zelvar::testing {
 

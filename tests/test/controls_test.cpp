@@ -7,7 +7,7 @@
 
 #include <ostream>
 
-#include "test/drive_fixture.h"
+#include "test/locomotives/drive_fixture.h"
 
 namespace zelvar::testing {
 namespace {

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-#include "test/drive_fixture.h"
+#include "test/locomotives/drive_fixture.h"
 
 namespace zelvar::testing {
 namespace {

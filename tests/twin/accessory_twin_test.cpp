@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "test/accessory_commands.h"
+#include "protocol/accessories.h"
 #include "twin/twin_link.h"
 
 namespace zelvar::twin {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "link/reports.h"
-#include "test/loco_commands.h"
+#include "protocol/locomotives.h"
+#include "protocol/reports.h"
 #include "twin/twin_link.h"
 
 namespace zelvar::twin {

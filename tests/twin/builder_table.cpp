@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "twin/builder_table.h"
 
-#include "config/js_commands.h"
 #include "config/js_report.h"
-#include "config/kb_commands.h"
 #include "config/vd_settings.h"
 #include "link/poller.h"
+#include "protocol/accessories.h"
+#include "protocol/blocks.h"
+#include "protocol/locomotives.h"
+#include "protocol/point_settings.h"
+#include "protocol/unit_settings.h"
 #include "status/status_request.h"
-#include "test/accessory_commands.h"
-#include "test/block_commands.h"
-#include "test/loco_commands.h"
 
 namespace zelvar::twin {
 

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "link/frame.h"
+#include "protocol/frame.h"
 
 namespace zelvar::twin {
 

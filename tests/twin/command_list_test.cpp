@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "commands.h"
+#include "sim/unit/commands.h"
 #include "twin/builder_table.h"
 #include "twin/source_scan.h"
 #include "twin/twin_link.h"

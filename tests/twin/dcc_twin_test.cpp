@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "test/loco_commands.h"
+#include "protocol/locomotives.h"
 #include "twin/twin_link.h"
 
 namespace zelvar::twin {

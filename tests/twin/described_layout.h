@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "layout.h"
+#include "sim/unit/layout.h"
 
 namespace zelvar::twin {
 

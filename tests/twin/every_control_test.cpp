@@ -5,7 +5,7 @@
 #include <map>
 #include <set>
 
-#include "test/drive_fixture.h"
+#include "test/locomotives/drive_fixture.h"
 #include "twin/twin_window.h"
 
 namespace zelvar::twin {

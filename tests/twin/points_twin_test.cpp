@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "config/js_commands.h"
 #include "config/js_report.h"
-#include "status/selection_list.h"
+#include "config/module_commands.h"
+#include "config/selection_list.h"
+#include "protocol/point_settings.h"
 #include "twin/twin_link.h"
 
 namespace zelvar::twin {

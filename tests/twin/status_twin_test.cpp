@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "protocol/version.h"
 #include "status/status_request.h"
-#include "status/version.h"
 #include "twin/described_layout.h"
 #include "twin/twin_link.h"
 

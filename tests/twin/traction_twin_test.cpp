@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "config/selection_list.h"
 #include "config/vd_settings.h"
-#include "status/selection_list.h"
 #include "twin/twin_link.h"
 
 namespace zelvar::twin {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "layout.h"
+#include "sim/unit/layout.h"
 
 namespace zelvar::twin {
 

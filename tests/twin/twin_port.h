@@ -12,12 +12,12 @@
 #include <utility>
 #include <vector>
 
-#include "central_unit.h"
-#include "faults.h"
-#include "layout.h"
-#include "line_engine.h"
-#include "link/frame.h"
 #include "platform/serial_port.h"
+#include "protocol/frame.h"
+#include "sim/line/faults.h"
+#include "sim/line/line_engine.h"
+#include "sim/unit/central_unit.h"
+#include "sim/unit/layout.h"
 #include "support/doubles.h"
 
 namespace zelvar::twin {

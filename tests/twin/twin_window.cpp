@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "twin/twin_window.h"
 
-#include "test/drive_fixture.h"
+#include "test/locomotives/drive_fixture.h"
 
 namespace zelvar::twin {
 

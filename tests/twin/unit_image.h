@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "unit_state.h"
+#include "sim/unit/unit_state.h"
 
 namespace zelvar::twin {
 

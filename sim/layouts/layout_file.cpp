@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "sim/layouts/layout_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+#include "sim/layouts/layout_track.h"
+
+namespace zelvar::sim {
+
+namespace {
+
+constexpr std::uintmax_t kLargestFile = 1'048'576;  // bytes: the largest system takes some 20 000
+constexpr std::size_t kLongestTitle = 64;           // bytes: a line of a list with the name
+constexpr Limits kChannels{0, 1};
+constexpr std::size_t kDipSwitches = 4;
+
+constexpr Word kUnitTypes[] = {{"KB-F", static_cast<int>(UnitType::kKbF)},
+                               {"KB-E", static_cast<int>(UnitType::kKbE)},
+                               {"KB-G", static_cast<int>(UnitType::kKbG)},
+                               {"QLRX", static_cast<int>(UnitType::kQlrx)}};
+constexpr Word kTractionTypes[] = {{"VD-F", static_cast<int>(TractionType::kVdF)},
+                                   {"VD60", static_cast<int>(TractionType::kVd60)},
+                                   {"QLRX-s", static_cast<int>(TractionType::kQlrxS)}};
+constexpr Word kMasterSlave[] = {{"auto", 0}, {"master", 1}, {"slave", 2}};
+constexpr Word kClocks[] = {{"good", 0}, {"none", 1}, {"bad", 2}, {"degraded", 4}};
+constexpr Word kSwitches[] = {{"off", 0}, {"on", 1}};
+
+constexpr Word kOk{"ok", static_cast<int>(ModuleState::kOk)};
+constexpr Word kIdle{"idle", static_cast<int>(ModuleState::kIdle)};
+constexpr Word kTractionStates[] = {kOk, kIdle, {"fault", static_cast<int>(ModuleState::kFault)}};
+constexpr Word kPointStates[] = {kOk, kIdle, {"hold", static_cast<int>(ModuleState::kHold)}};
+constexpr Word kSignalStates[] = {kOk, kIdle};
+
+/// A kind of module: its tables, the first of its addresses and its places on each channel.
+struct Family {
+    std::string_view key;
+    int address;
+    int places;
+    std::span<const Word> states;
+};
+
+constexpr Family kFamilies[] = {
+    {"traction-module", kTractionFamily, kModulesPerChannel, kTractionStates},
+    {"point-module", kPointFamily, kPointModulesPerChannel, kPointStates},
+    {"signal-module", kSignalFamily, kModulesPerChannel, kSignalStates},
+};
+
+ModuleState ReadState(TableReader& reader, std::span<const Word> states) {
+    return static_cast<ModuleState>(
+        reader.OneOf("state", states, Need::kOptional).value_or(kOk.value));
+}
+
+/// The values that traction units alone have.
+void ReadClockAndRole(TableReader& reader, ModuleSlot& slot) {
+    slot.masterSlave = static_cast<std::uint8_t>(
+        reader.OneOf("master-slave", kMasterSlave, Need::kOptional).value_or(0));
+    slot.clock =
+        static_cast<std::uint8_t>(reader.OneOf("clock", kClocks, Need::kOptional).value_or(0));
+}
+
+/// A VD60's second unit, which has its first one's version unless it says otherwise.
+ModuleSlot ReadSecondUnit(const TomlValue& table, int version, LayoutProblems& problems) {
+    TableReader reader(*table.AsTable(), table.line, problems);
+    ModuleSlot slot;
+    const int type = reader.OneOf("type", kTractionTypes, Need::kOptional)
+                         .value_or(static_cast<int>(TractionType::kVd60));
+    slot.status = StatusByte(type, ReadState(reader, kTractionStates));
+    slot.version = reader.Version("version", true, Need::kOptional).value_or(version);
+    ReadClockAndRole(reader, slot);
+    reader.RejectOtherKeys();
+    return slot;
+}
+
+class ModuleReader {
+  public:
+    ModuleReader(Layout& layout, LayoutProblems& problems) : layout_(layout), problems_(problems) {}
+
+    void Read(const Family& family, const TomlValue& table) {
+        TableReader reader(*table.AsTable(), table.line, problems_);
+        const auto channel = reader.Whole("channel", kChannels, Need::kRequired);
+        const auto module = reader.Whole("module", {0, family.places - 1}, Need::kRequired);
+        const bool isTraction = family.address == kTractionFamily;
+        const int type =
+            isTraction ? reader.OneOf("type", kTractionTypes, Need::kRequired).value_or(0) : 0;
+        ModuleSlot slot;
+        slot.status = StatusByte(type, ReadState(reader, family.states));
+        slot.version = reader.Version("version", true, Need::kOptional).value_or(0);
+        ModuleSlot second;
+        if (isTraction) {
+            ReadClockAndRole(reader, slot);
+            if (const TomlValue* unit = reader.Table("second", Need::kOptional)) {
+                second = ReadSecondUnit(*unit, slot.version, problems_);
+                if (type != static_cast<int>(TractionType::kVd60)) {
+                    reader.Problem(unit->line,
+                                   R"(second: a module of type "VD60" expected, no other has one)");
+                }
+            }
+        }
+        reader.RejectOtherKeys();
+        if (channel && module) {
+            const int place = *channel * kModulesPerChannel + *module;
+            Put(family, place, slot, table.line);
+            if (second.Present()) {
+                layout_.At(kSecondaryFamily + place) = second;
+            }
+        }
+    }
+
+  private:
+    void Put(const Family& family, int place, const ModuleSlot& slot, int line) {
+        const int address = family.address + place;
+        int& earlier = lines_[static_cast<std::size_t>(address)];
+        if (earlier != 0) {
+            problems_.push_back(
+                {line, std::string(family.key) + ": another place expected, module " +
+                           std::to_string(place % kModulesPerChannel) + " of channel " +
+                           std::to_string(place / kModulesPerChannel) +
+                           " is already described in line " + std::to_string(earlier)});
+            return;
+        }
+        earlier = line;
+        layout_.At(address) = slot;
+    }
+
+    Layout& layout_;
+    LayoutProblems& problems_;
+    std::array<int, kModuleAddresses> lines_{};  // of each described module; 0: none
+};
+
+void ReadUnit(const TomlValue& table, Layout& layout, LayoutProblems& problems) {
+    TableReader reader(*table.AsTable(), table.line, problems);
+    layout.unitType = reader.OneOf("type", kUnitTypes, Need::kRequired).value_or(0);
+    layout.systemVersion = reader.Version("version", false, Need::kRequired).value_or(0);
+    layout.protocolVersion = reader.Version("protocol", false, Need::kRequired).value_or(0);
+    const auto switches = reader.ListOf("dip-switches", kSwitches, kDipSwitches, Need::kOptional)
+                              .value_or(std::vector<int>(kDipSwitches, 0));
+    layout.dipSwitches = 0;
+    for (std::size_t index = 0; index < kDipSwitches; ++index) {
+        // A switch that is on pulls its line down.
+        layout.dipSwitches |= static_cast<std::uint8_t>(switches[index] == 0 ? 1U << index : 0U);
+    }
+    reader.RejectOtherKeys();
+}
+
+}  // namespace
+
+std::variant<DescribedLayout, LayoutProblems> ParseLayout(std::string_view text) {
+    const auto parsed = ParseToml(text);
+    if (const auto* error = std::get_if<TomlError>(&parsed)) {
+        return LayoutProblems{{error->line, error->text}};
+    }
+    constexpr int kWholeFile = 1;
+    LayoutProblems problems;
+    DescribedLayout described;
+    TableReader root(*std::get<TomlValue>(parsed).AsTable(), kWholeFile, problems);
+    described.title = root.Text("title", kLongestTitle, Need::kOptional).value_or("");
+    if (const TomlValue* unit = root.Table("unit", Need::kRequired)) {
+        ReadUnit(*unit, described.layout, problems);
+    }
+    ModuleReader modules(described.layout, problems);
+    for (const Family& family : kFamilies) {
+        for (const TomlValue* table : root.Tables(family.key)) {
+            modules.Read(family, *table);
+        }
+    }
+    described.layout.track = ReadTrack(root, problems);
+    root.RejectOtherKeys();
+    if (problems.empty()) {
+        return described;
+    }
+    std::stable_sort(
+        problems.begin(), problems.end(),
+        [](const LayoutProblem& a, const LayoutProblem& b) { return a.line < b.line; });
+    return problems;
+}
+
+std::variant<DescribedLayout, std::string> ReadLayoutFile(const std::string& path) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        return path + ": a file expected, found a folder";
+    }
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        return path + ": " + std::strerror(errno);
+    }
+    std::string text(kLargestFile + 1, '\0');
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    if (file.bad()) {
+        return path + ": cannot be read";
+    }
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    if (text.size() > kLargestFile) {
+        return path + ": at most " + std::to_string(kLargestFile) + " bytes expected";
+    }
+    auto parsed = ParseLayout(text);
+    if (auto* described = std::get_if<DescribedLayout>(&parsed)) {
+        return std::move(*described);
+    }
+    std::string lines;
+    for (const LayoutProblem& problem : std::get<LayoutProblems>(parsed)) {
+        lines += (lines.empty() ? "" : "\n") + path + ':' + std::to_string(problem.line) + ": " +
+                 problem.text;
+    }
+    return lines;
+}
+
+}  // namespace zelvar::sim

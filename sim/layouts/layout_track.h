@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sim/layouts/layout_file.h"
+#include "sim/railway/track_plan.h"
+
+namespace zelvar::sim {
+
+/// Reads the [[section]] and [[train]] tables of a layout file.
+TrackPlan ReadTrack(TableReader& root, LayoutProblems& problems);
+
+}  // namespace zelvar::sim

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "protocol/reports.h"
+
+namespace zelvar {
+
+namespace {
+
+/// Payload values are 7 bits wide; what exceeds them travels in the value before.
+constexpr int kPayloadRange = 128;
+
+}  // namespace
+
+OvercurrentReport ReadOvercurrentReport(const ReplyBuffer& reply) {
+    return {(reply[1] & 0x01) * kPayloadRange + reply[2], (reply[1] & 0x02) != 0};
+}
+
+std::string AlarmLine(const OvercurrentReport& report) {
+    return "Overcurrent block " + std::to_string(report.block) +
+           (report.detected ? " detected ............." : " .............. released") + "\r\n";
+}
+
+BlockSpeedReport ReadBlockSpeedReport(const ReplyBuffer& reply) {
+    return {(reply[1] & 0x01) * kPayloadRange + (reply[2] & kPayloadMask), reply[3] & 0x3F,
+            (reply[3] & 0xC0) == 0x40};
+}
+
+std::string SpeedReadOut(int speed, bool forward) {
+    return (forward ? ">>" : "<<") + std::to_string(speed);
+}
+
+FeedbackReport ReadFeedbackReport(const ReplyBuffer& reply) {
+    return {(reply[1] & 0x0F) * kPayloadRange + reply[2], (reply[1] & 0x10) != 0};
+}
+
+}  // namespace zelvar

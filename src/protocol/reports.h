@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "protocol/frame.h"
+
+namespace zelvar {
+
+// What the central unit reports unasked or with a poll. The readers below take a reply that has
+// met the test of its kind.
+
+struct OvercurrentReport {
+    /// 0..255
+    int block = 0;
+    /// Detected, else released.
+    bool detected = false;
+
+    bool operator==(const OvercurrentReport&) const = default;
+};
+
+OvercurrentReport ReadOvercurrentReport(const ReplyBuffer& reply);
+
+/// The line of the alarm log, with its line end.
+std::string AlarmLine(const OvercurrentReport& report);
+
+struct BlockSpeedReport {
+    /// 0..255
+    int block = 0;
+    /// 0..63
+    int speed = 0;
+    bool forward = false;
+
+    bool operator==(const BlockSpeedReport&) const = default;
+};
+
+BlockSpeedReport ReadBlockSpeedReport(const ReplyBuffer& reply);
+
+/// The read-out of a speed: the direction mark, then the speed without a blank, such as ">>12".
+std::string SpeedReadOut(int speed, bool forward);
+
+struct FeedbackReport {
+    /// 0..2047
+    int index = 0;
+    bool active = false;
+
+    bool operator==(const FeedbackReport&) const = default;
+};
+
+FeedbackReport ReadFeedbackReport(const ReplyBuffer& reply);
+
+}  // namespace zelvar

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "test/feedback/dlg_zelvar_feedback.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+
+#include "controls/naming.h"
+#include "controls/palette.h"
+
+namespace zelvar {
+
+namespace {
+
+// Colours are 0xBBGGRR values; without information a label has the theme's shadow of buttons.
+constexpr std::uint32_t kInactiveColour = 0xFFFFFF;
+constexpr std::uint32_t kActiveColour = 0x0080FF;
+
+constexpr const char* kLayoutCaptions[] = {"1x128", "8x16 mod 32", "8x16 mod 64", "8x16 mod 128"};
+constexpr const char* kLookCaptions[] = {"= Inactive", "= Active", "= No information"};
+
+/// What assistive technology says of a label, in the order of the looks.
+constexpr const char* kLookWords[] = {"inactive", "active", "no information"};
+
+/// What the labels show until they are laid out; also the widest number.
+constexpr int kWidestNumber = kFeedbackInputs;
+// Pixels around a number.
+constexpr int kMarginX = 5;
+constexpr int kMarginY = 4;
+constexpr int kSpacing = 2;
+/// Every so many rows and columns a gap, so that the eye finds its way: half a module.
+constexpr int kGroupColumns = 8;
+constexpr int kGroupGap = 8;
+
+// Places in the array lblFBMform.
+constexpr int kBaseCaption = 0;
+constexpr int kFirstSwatch = 1;
+constexpr int kFirstLookCaption = 4;
+
+QPalette GroundPalette(const QColor& ground) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, ReadableOn(ground));
+    return palette;
+}
+
+}  // namespace
+
+DlgZelvarFeedback::DlgZelvarFeedback(HandlerGate& gate)
+    : SecondaryWindow(QStringLiteral("dlgZelvarFeedback"), QStringLiteral("Feedback Monitor")),
+      gate_(gate),
+      lblFBbase_(Named(new QLabel(this), "lblFBbase", "Number of the first input")),
+      UpDownFBbase_(Named(new UpDown(lblFBbase_, 0, FeedbackMaximumBase(0), this), "UpDownFBbase",
+                          "Number of the first input")),
+      cmdFBMrefresh_(Named(new QPushButton(QStringLiteral("Request Data"), this), "cmdFBMrefresh",
+                           "Request the state of all inputs shown")) {
+    MakePalettes();
+    auto* grid = new QGridLayout;
+    BuildGrid(*grid);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(BuildChoices());
+    layout->addLayout(grid);
+    layout->addLayout(BuildLegend());
+    layout->addStretch();
+    connect(UpDownFBbase_, &UpDown::Change, this, gate.Handler([this] { LayOutLabels(); }));
+    connect(cmdFBMrefresh_, &QPushButton::clicked, this,
+            gate.Handler([this](bool) { cmdFBMrefresh_Click(); }));
+    LayOutLabels();
+}
+
+void DlgZelvarFeedback::BuildGrid(QGridLayout& grid) {
+    grid.setSpacing(kSpacing);
+    const QFontMetrics metrics(font());
+    const QSize size(metrics.horizontalAdvance(QString::number(kWidestNumber)) + 2 * kMarginX,
+                     metrics.height() + 2 * kMarginY);
+    for (int i = 0; i < kFeedbackLabels; ++i) {
+        Cell& cell = lblFBM_[static_cast<std::size_t>(i)];
+        cell.label = Named(new QLabel(QString::number(kWidestNumber), this),
+                           IndexedName("lblFBM", i), QStringLiteral("Feedback input"));
+        cell.label->setTextFormat(Qt::PlainText);
+        cell.label->setAlignment(Qt::AlignCenter);
+        cell.label->setAutoFillBackground(true);
+        // A fixed size: numbers of other lengths move nothing and cost no new layout.
+        cell.label->setFixedSize(size);
+        cell.label->setPalette(palettes_[static_cast<std::size_t>(cell.look)]);
+        const int column = i % kFeedbackColumns;
+        grid.addWidget(cell.label, i / kFeedbackColumns, column + column / kGroupColumns);
+    }
+    grid.setColumnMinimumWidth(kGroupColumns, kGroupGap);
+    grid.setColumnStretch(kFeedbackColumns + 1, 1);
+}
+
+QLayout* DlgZelvarFeedback::BuildChoices() {
+    auto* row = new QHBoxLayout;
+    for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
+        const int index = static_cast<int>(i);
+        opFBmod_[i] =
+            Named(new QRadioButton(Text(kLayoutCaptions[i]), this), IndexedName("opFBmod", index),
+                  QStringLiteral("Layout ") + Text(kLayoutCaptions[i]));
+        row->addWidget(opFBmod_[i]);
+    }
+    opFBmod_[0]->setChecked(true);
+    for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
+        const int index = static_cast<int>(i);
+        connect(opFBmod_[i], &QRadioButton::toggled, this,
+                gate_.Handler([this, index](bool chosen) {
+                    if (chosen) {
+                        opFBmod_Click(index);
+                    }
+                }));
+    }
+    row->addStretch();
+    lblFBbase_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    lblFBbase_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblFBbase_->setMargin(2);
+    lblFBbase_->setMinimumWidth(
+        lblFBbase_->fontMetrics().horizontalAdvance(QString::number(kWidestNumber)) + 2 * kMarginX);
+    row->addWidget(FormLabel(kBaseCaption, "Base"));
+    row->addWidget(lblFBbase_);
+    row->addWidget(UpDownFBbase_);
+    return row;
+}
+
+QLayout* DlgZelvarFeedback::BuildLegend() {
+    auto* row = new QHBoxLayout;
+    for (std::size_t i = 0; i < kLooks; ++i) {
+        const int index = static_cast<int>(i);
+        QLabel* swatch = FormLabel(kFirstSwatch + index, "");
+        swatch->setAccessibleName(QStringLiteral("Colour of the state"));
+        swatch->setAutoFillBackground(true);
+        swatch->setFrameStyle(QFrame::Box | QFrame::Plain);
+        swatch->setPalette(palettes_[i]);
+        const int side = fontMetrics().height();
+        swatch->setFixedSize(side, side);
+        swatches_[i] = swatch;
+        row->addWidget(swatch);
+        row->addWidget(FormLabel(kFirstLookCaption + index, kLookCaptions[i]));
+        row->addSpacing(kGroupGap);
+    }
+    row->addStretch();
+    row->addWidget(cmdFBMrefresh_);
+    return row;
+}
+
+QLabel* DlgZelvarFeedback::FormLabel(int index, const char* caption) {
+    return Named(new QLabel(Text(caption), this), IndexedName("lblFBMform", index), Text(caption));
+}
+
+void DlgZelvarFeedback::MakePalettes() {
+    palettes_ = {GroundPalette(ColourOf(kInactiveColour)), GroundPalette(ColourOf(kActiveColour)),
+                 GroundPalette(QApplication::palette().color(QPalette::Dark))};
+}
+
+void DlgZelvarFeedback::changeEvent(QEvent* event) {
+    SecondaryWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) {
+        return;
+    }
+    // Another theme: only the last look takes its colour from there.
+    MakePalettes();
+    const auto last = static_cast<std::size_t>(Look::NoInformation);
+    swatches_[last]->setPalette(palettes_[last]);
+    for (const Cell& cell : lblFBM_) {
+        if (cell.look == Look::NoInformation) {
+            cell.label->setPalette(palettes_[last]);
+        }
+    }
+}
+
+DlgZelvarFeedback::Look DlgZelvarFeedback::LookOf(std::int16_t state) {
+    return state == kFeedbackActive     ? Look::Active
+           : state == kFeedbackInactive ? Look::Inactive
+                                        : Look::NoInformation;
+}
+
+int DlgZelvarFeedback::Layout() const {
+    for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
+        if (opFBmod_[i]->isChecked()) {
+            return static_cast<int>(i);
+        }
+    }
+    return 0;
+}
+
+void DlgZelvarFeedback::Paint(Cell& cell, int number, Look look) {
+    // Setting a text or a palette costs far more than looking whether it is another one.
+    if (cell.number == number && cell.look == look) {
+        return;
+    }
+    if (cell.number != number) {
+        cell.number = number;
+        cell.label->setText(QString::number(number));
+    }
+    if (cell.look != look) {
+        cell.look = look;
+        cell.label->setPalette(palettes_[static_cast<std::size_t>(look)]);
+    }
+    cell.label->setAccessibleName(QStringLiteral("Input %1, %2")
+                                      .arg(number)
+                                      .arg(Text(kLookWords[static_cast<std::size_t>(look)])));
+}
+
+void DlgZelvarFeedback::LayOutLabels() {
+    const int layout = Layout();
+    const int base = Base();
+    for (int i = 0; i < kFeedbackLabels; ++i) {
+        const int number = FeedbackNumber(layout, base, i);
+        Paint(lblFBM_[static_cast<std::size_t>(i)], number, LookOf(table_.State(number)));
+    }
+}
+
+bool DlgZelvarFeedback::fbUpdate(int index, std::int16_t state) {
+    if (!table_.Update(index, state)) {
+        return false;
+    }
+    if (const auto label = FeedbackLabelOf(Layout(), Base(), index)) {
+        Paint(lblFBM_[static_cast<std::size_t>(*label)], index, LookOf(state));
+    }
+    return true;
+}
+
+void DlgZelvarFeedback::Show(const FeedbackReport& report) {
+    fbUpdate(report.index, report.active ? kFeedbackActive : kFeedbackInactive);
+}
+
+void DlgZelvarFeedback::opFBmod_Click(int index) {
+    UpDownFBbase_->SetMaximum(FeedbackMaximumBase(index));
+    UpDownFBbase_->HoldWithinRange();
+    LayOutLabels();
+}
+
+void DlgZelvarFeedback::cmdFBMrefresh_Click() {
+    std::array<int, static_cast<std::size_t>(kFeedbackLabels)> numbers{};
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        numbers[i] = lblFBM_[i].number;
+    }
+    table_.RequestData(numbers);
+    LayOutLabels();
+}
+
+}  // namespace zelvar

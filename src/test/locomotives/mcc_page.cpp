@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
+// SPDX-License-Identifier: MIT
+#include "test/locomotives/mcc_page.h"
+
+#include <QGridLayout>
+
+#include "controls/naming.h"
+
+namespace zelvar {
+
+namespace {
+
+constexpr int kLastDecoder = 4095;
+constexpr int kTopAcceleration = 7;
+
+constexpr std::array<const char*, kMccFunctionCount> kFunctionCaptions{
+    "Light", "Brake", "Left", "Right", "F1", "F2", "F3", "F4"};
+constexpr int kFunctionColumns = 4;
+
+QLabel* Caption(int index, const char* caption, QWidget* parent) {
+    return CaptionLabel(IndexedName("lblTestMCC", index), Text(caption), parent);
+}
+
+}  // namespace
+
+MccPage::MccPage(DriveDesk& desk, QWidget* parent)
+    : QWidget(parent),
+      desk_(desk),
+      MCCspeed_(Named(new SpeedSlider(desk.services.gate, kMccTopSpeed15, this), "MCCspeed",
+                      "MCC speed")),
+      CheckMCC30_(Named(new QCheckBox(QStringLiteral("30 Steps"), this), "CheckMCC30",
+                        "Drive with 30 speed steps")),
+      lblTestMCC_{Caption(0, "Decoder", this), Caption(1, "MCC Speed", this),
+                  Caption(2, "Acceleration", this)},
+      UpDownMCCdecoder_(ClampedField(desk.services.gate, QStringLiteral("UpDownMCCdecoder"),
+                                     QStringLiteral("txtTestMCCdecoder"),
+                                     QStringLiteral("MCC decoder"), 0, kLastDecoder, this,
+                                     lblTestMCC_[0])),
+      UpDownTestMCCacceleration_(ClampedField(desk.services.gate,
+                                              QStringLiteral("UpDownTestMCCacceleration"),
+                                              QStringLiteral("txtTestMCCacceleration"),
+                                              QStringLiteral("Acceleration of the MCC locomotive"),
+                                              0, kTopAcceleration, this, lblTestMCC_[2])),
+      cmdTestMCCfunction_(Named(new QPushButton(QStringLiteral("Set Function"), this),
+                                "cmdTestMCCfunction", "Set the MCC functions")),
+      cmdEstopMCC_(EstopButton("cmdEstopMCC", "Emergency stop of the MCC locomotive", this)) {
+    BuildFunctions();
+    LayOut();
+    ConnectControls();
+}
+
+void MccPage::BuildFunctions() {
+    for (std::size_t i = 0; i < kMccFunctionCount; ++i) {
+        const QString caption = Text(kFunctionCaptions[i]);
+        chkTestMCCfunction_[i] = Named(new QCheckBox(caption, this),
+                                       IndexedName("chkTestMCCfunction", static_cast<int>(i)),
+                                       QStringLiteral("MCC function ") + caption);
+    }
+}
+
+QLayout* MccPage::LayOutFunctions() {
+    auto* grid = new QGridLayout;
+    for (std::size_t i = 0; i < kMccFunctionCount; ++i) {
+        const int place = static_cast<int>(i);
+        grid->addWidget(chkTestMCCfunction_[i], place / kFunctionColumns, place % kFunctionColumns);
+    }
+    grid->addWidget(cmdTestMCCfunction_, 0, kFunctionColumns, 2, 1);
+    return grid;
+}
+
+void MccPage::LayOut() {
+    lblTestMCC_[1]->setBuddy(MCCspeed_);
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(lblTestMCC_[0], 0, 0);
+    layout->addLayout(Row({UpDownMCCdecoder_}), 0, 1, 1, 2);
+    layout->addWidget(lblTestMCC_[1], 1, 0);
+    layout->addWidget(MCCspeed_, 1, 1);
+    layout->addWidget(SliderReadOut(QStringLiteral("lblMCCSpeedValue"), MCCspeed_, kMccTopSpeed30),
+                      1, 2);
+    layout->addLayout(Row({CheckMCC30_}), 2, 1, 1, 2);
+    layout->addWidget(lblTestMCC_[2], 3, 0);
+    layout->addLayout(Row({UpDownTestMCCacceleration_}), 3, 1, 1, 2);
+    layout->addLayout(LayOutFunctions(), 4, 0, 1, 3);
+    layout->setRowStretch(5, 1);
+    layout->addWidget(cmdEstopMCC_, 6, 0, 1, 3);
+    layout->setColumnStretch(1, 1);
+    SetTabOrder({UpDownMCCdecoder_, MCCspeed_, CheckMCC30_, UpDownTestMCCacceleration_,
+                 chkTestMCCfunction_[0]});
+    SetTabOrder({chkTestMCCfunction_.back(), cmdTestMCCfunction_, cmdEstopMCC_});
+}
+
+void MccPage::ConnectControls() {
+    HandlerGate& gate = desk_.services.gate;
+    connect(MCCspeed_, &SpeedSlider::Change, this, gate.Handler([this] { MCCspeed_Change(); }));
+    connect(CheckMCC30_, &QCheckBox::toggled, this,
+            gate.Handler([this](bool) { CheckMCC30_Click(); }));
+    connect(cmdTestMCCfunction_, &QPushButton::clicked, this,
+            gate.Handler([this](bool) { cmdTestMCCfunction_Click(); }));
+    connect(cmdEstopMCC_, &QPushButton::clicked, this,
+            gate.Handler([this](bool) { cmdEstopMCC_Click(); }));
+}
+
+void MccPage::MCCspeed_Change() {
+    if (!desk_.services.link.CheckPort() || desk_.inhibitSpeedEvents) {
+        return;
+    }
+    // The slider's own maximum tells the step mode, not the box.
+    const int code = MccSpeedCode(MCCspeed_->value(), MCCspeed_->maximum());
+    desk_.services.link.Transact(
+        MccSpeed(UpDownMCCdecoder_->Value(), code, UpDownTestMCCacceleration_->Value()));
+}
+
+void MccPage::CheckMCC30_Click() {
+    // A slider that stood elsewhere sends its 0 in the old step mode; speed 0 in the new one
+    // follows.
+    MCCspeed_->Put(0);
+    MCCspeed_->setMaximum(CheckMCC30_->isChecked() ? kMccTopSpeed30 : kMccTopSpeed15);
+    if (desk_.services.link.IsOpen()) {
+        MCCspeed_Change();
+    }
+}
+
+void MccPage::cmdEstopMCC_Click() {
+    if (!desk_.services.link.CheckPort()) {
+        return;
+    }
+    // Meant: a slider that stood elsewhere sends speed 0 first.
+    MCCspeed_->Put(0);
+    desk_.services.link.Transact(MccEstop(UpDownMCCdecoder_->Value()));
+}
+
+void MccPage::cmdTestMCCfunction_Click() {
+    if (!desk_.services.link.CheckPort()) {
+        return;
+    }
+    MccFunctionSet functions;
+    for (std::size_t i = 0; i < kMccFunctionCount; ++i) {
+        functions[i] = chkTestMCCfunction_[i]->isChecked();
+    }
+    desk_.services.link.Transact(MccFunctions(UpDownMCCdecoder_->Value(), functions));
+}
+
+}  // namespace zelvar
