@@ -47,19 +47,19 @@ bool TakeLayout(Options& options, std::string_view value) {
 }
 
 bool TakeUnitDelay(Options& options, std::string_view value) {
-    const std::optional<int> delay = ParseNumber(value, 0, kLongestUnitDelayMs);
+    const std::optional<int> delay = ParseInt(value, 0, kLongestUnitDelayMs);
     options.unitDelay = std::chrono::milliseconds(delay.value_or(0));
     return delay.has_value();
 }
 
 bool TakeTimeFactor(Options& options, std::string_view value) {
-    const std::optional<int> factor = ParseNumber(value, 0, kMostTimeFactor);
+    const std::optional<int> factor = ParseInt(value, 0, kMostTimeFactor);
     options.timeFactor = factor.value_or(kUsualTimeFactor);
     return factor.has_value();
 }
 
 bool TakeSeed(Options& options, std::string_view value) {
-    const std::optional<int> seed = ParseNumber(value, 0, std::numeric_limits<int>::max());
+    const std::optional<int> seed = ParseInt(value, 0, std::numeric_limits<int>::max());
     options.seed = seed.value_or(0);
     return seed.has_value();
 }

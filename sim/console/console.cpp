@@ -14,33 +14,6 @@ constexpr int kHexadecimal = 16;
 
 }  // namespace
 
-std::vector<std::string> SplitWords(std::string_view line) {
-    std::istringstream in{std::string(line)};
-    std::vector<std::string> words;
-    for (std::string word; in >> word;) {
-        words.push_back(word);
-    }
-    return words;
-}
-
-std::optional<int> ParseNumber(std::string_view text, int least, int most) {
-    int base = kDecimal;
-    if (text.starts_with("0x") || text.starts_with("0X")) {
-        text.remove_prefix(2);
-        base = kHexadecimal;
-        if (text.starts_with('-')) {
-            return std::nullopt;
-        }
-    }
-    int number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, number, base);
-    if (error != std::errc() || rest != end || number < least || number > most) {
-        return std::nullopt;
-    }
-    return number;
-}
-
 std::optional<bool> ParseSwitch(std::string_view text) {
     if (text == "on") {
         return true;

@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "sim/line/faults.h"
+#include "sim/text/number.h"
+#include "sim/text/words.h"
 #include "sim/unit/central_unit.h"
 
 namespace zelvar::sim {
@@ -68,11 +70,6 @@ const ConsoleCommand* FindConsoleCommand(std::string_view name);
 /// `dump` and `help` put more lines before it. A blank line has an empty answer.
 ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line);
 
-/// The words between blanks.
-std::vector<std::string> SplitWords(std::string_view line);
-
-/// A whole number within the limits, in decimal or, with 0x before it, in hexadecimal.
-std::optional<int> ParseNumber(std::string_view text, int least, int most);
 /// "on" and "off".
 std::optional<bool> ParseSwitch(std::string_view text);
 

@@ -14,7 +14,7 @@ constexpr std::size_t kStrayDigits = 2;
 /// Carries out a command whose only argument is a number of replies.
 template <typename Action>
 ConsoleResult WithReplies(ConsoleArguments arguments, Action action) {
-    const std::optional<int> replies = ParseNumber(arguments[0], 0, kMostReplies);
+    const std::optional<int> replies = ParseInt(arguments[0], 0, kMostReplies);
     if (!replies) {
         return RangeError("N", 0, kMostReplies);
     }
@@ -36,13 +36,13 @@ ConsoleResult SilentAfter(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Late(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> delay = ParseNumber(arguments[0], 0, kLongestDelayMs);
+    const std::optional<int> delay = ParseInt(arguments[0], 0, kLongestDelayMs);
     if (!delay) {
         return RangeError("MS", 0, kLongestDelayMs);
     }
     std::optional<int> replies;
     if (arguments.size() > 1) {
-        replies = ParseNumber(arguments[1], 0, kMostReplies);
+        replies = ParseInt(arguments[1], 0, kMostReplies);
         if (!replies) {
             return RangeError("N", 0, kMostReplies);
         }
@@ -67,7 +67,7 @@ ConsoleResult Stray(ConsoleContext& context, ConsoleArguments arguments) {
     std::vector<std::uint8_t> bytes;
     for (const std::string& word : arguments) {
         const std::optional<int> byte =
-            word.size() <= kStrayDigits ? ParseNumber("0x" + word, 0, kMostByte) : std::nullopt;
+            word.size() <= kStrayDigits ? ParseInt("0x" + word, 0, kMostByte) : std::nullopt;
         if (!byte) {
             return Error("two hexadecimal digits expected: " + word);
         }
@@ -82,7 +82,7 @@ ConsoleResult Defer(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Drip(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> gap = ParseNumber(arguments[0], 0, kLongestDelayMs);
+    const std::optional<int> gap = ParseInt(arguments[0], 0, kLongestDelayMs);
     if (!gap) {
         return RangeError("MS", 0, kLongestDelayMs);
     }

@@ -13,7 +13,7 @@ constexpr int kMostValue = 127;     // seven bits on the line
 constexpr int kMostPolls = 10'000;  // minutes of polling
 
 ConsoleResult SetOvercurrent(ConsoleContext& context, ConsoleArguments arguments, bool detected) {
-    const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
+    const std::optional<int> block = ParseInt(arguments[0], 0, kMostBlock);
     if (!block) {
         return RangeError("B", 0, kMostBlock);
     }
@@ -32,8 +32,8 @@ ConsoleResult Release(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Speed(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
-    const std::optional<int> speed = ParseNumber(arguments[1], 0, kMostSpeed);
+    const std::optional<int> block = ParseInt(arguments[0], 0, kMostBlock);
+    const std::optional<int> speed = ParseInt(arguments[1], 0, kMostSpeed);
     const bool forward = arguments[2] == "forward";
     if (!block) {
         return RangeError("B", 0, kMostBlock);
@@ -54,8 +54,8 @@ ConsoleResult Speed(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Feedback(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> input = ParseNumber(arguments[0], 0, kMostInput);
-    const std::optional<int> active = ParseNumber(arguments[1], 0, 1);
+    const std::optional<int> input = ParseInt(arguments[0], 0, kMostInput);
+    const std::optional<int> active = ParseInt(arguments[1], 0, 1);
     if (!input) {
         return RangeError("I", 0, kMostInput);
     }
@@ -89,7 +89,7 @@ ConsoleResult Hold(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Module(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> address = ParseNumber(arguments[0], 0, kModuleAddresses - 1);
+    const std::optional<int> address = ParseInt(arguments[0], 0, kModuleAddresses - 1);
     if (!address) {
         return RangeError("ADDRESS", 0, kModuleAddresses - 1);
     }
@@ -101,7 +101,7 @@ ConsoleResult Module(ConsoleContext& context, ConsoleArguments arguments) {
     if (arguments[1] != "status" || arguments.size() != 3) {
         return Error("absent or status BYTE expected");
     }
-    const std::optional<int> status = ParseNumber(arguments[2], 0, kMostValue);
+    const std::optional<int> status = ParseInt(arguments[2], 0, kMostValue);
     if (!status) {
         return RangeError("BYTE", 0, kMostValue);
     }
@@ -110,8 +110,8 @@ ConsoleResult Module(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult MasterSlave(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> line = ParseNumber(arguments[0], 0, kTractionLines - 1);
-    const std::optional<int> mode = ParseNumber(arguments[1], 0, kMostValue);
+    const std::optional<int> line = ParseInt(arguments[0], 0, kTractionLines - 1);
+    const std::optional<int> mode = ParseInt(arguments[1], 0, kMostValue);
     if (!line) {
         return RangeError("M", 0, kTractionLines - 1);
     }
@@ -126,8 +126,8 @@ ConsoleResult MasterSlave(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Clock(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> line = ParseNumber(arguments[0], 0, kTractionLines - 1);
-    const std::optional<int> clock = ParseNumber(arguments[1], 0, kMostValue);
+    const std::optional<int> line = ParseInt(arguments[0], 0, kTractionLines - 1);
+    const std::optional<int> clock = ParseInt(arguments[1], 0, kMostValue);
     if (!line) {
         return RangeError("M", 0, kTractionLines - 1);
     }
@@ -139,7 +139,7 @@ ConsoleResult Clock(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult MuteModule(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> address = ParseNumber(arguments[0], 0, kModuleAddresses - 1);
+    const std::optional<int> address = ParseInt(arguments[0], 0, kModuleAddresses - 1);
     const std::optional<bool> mute = ParseSwitch(arguments[1]);
     if (!address) {
         return RangeError("ADDRESS", 0, kModuleAddresses - 1);
@@ -152,7 +152,7 @@ ConsoleResult MuteModule(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult AnswerDelay(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> polls = ParseNumber(arguments[0], 0, kMostPolls);
+    const std::optional<int> polls = ParseInt(arguments[0], 0, kMostPolls);
     if (!polls) {
         return RangeError("N", 0, kMostPolls);
     }

@@ -81,7 +81,7 @@ ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
     double position = std::min(length, (length + trainLength) / 2);
     if (!arguments.empty()) {
         const int most = static_cast<int>(std::floor(length));
-        const std::optional<int> given = ParseNumber(arguments[0], 0, most);
+        const std::optional<int> given = ParseInt(arguments[0], 0, most);
         if (!given) {
             return RangeError("CM", 0, most);
         }
@@ -93,7 +93,7 @@ ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Point(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> device = ParseNumber(arguments[0], 0, kMostPoint);
+    const std::optional<int> device = ParseInt(arguments[0], 0, kMostPoint);
     const bool thrown = arguments[1] == "thrown";
     if (!device) {
         return RangeError("D", 0, kMostPoint);
@@ -106,7 +106,7 @@ ConsoleResult Point(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> factor = ParseNumber(arguments[0], 0, kMostTimeFactor);
+    const std::optional<int> factor = ParseInt(arguments[0], 0, kMostTimeFactor);
     if (!factor) {
         return RangeError("N", 0, kMostTimeFactor);
     }
@@ -115,7 +115,7 @@ ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
 }
 
 ConsoleResult Run(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> span = ParseNumber(arguments[0], 1, kMostRunMs);
+    const std::optional<int> span = ParseInt(arguments[0], 1, kMostRunMs);
     if (!span) {
         return RangeError("MS", 1, kMostRunMs);
     }

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "sim/console/console.h"
 #include "sim/explain/explain.h"
+#include "sim/text/number.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
 
@@ -29,7 +30,7 @@ Bytes TakeBytes(std::string_view& text) {
     while (text.size() >= kByteText && text[0] == ' ' && isDigit(text[1]) && isDigit(text[2]) &&
            (text.size() == kByteText || text[kByteText] == ' ')) {
         const std::string digits = "0x" + std::string(text.substr(1, 2));
-        bytes.push_back(static_cast<std::uint8_t>(*ParseNumber(digits, 0, kMostByte)));
+        bytes.push_back(static_cast<std::uint8_t>(*ParseInt(digits, 0, kMostByte)));
         text.remove_prefix(kByteText);
     }
     return bytes;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "sim/layouts/layout_file.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <map>
 
+#include "sim/text/words.h"
 #include "sim/unit/reports.h"
 
 namespace zelvar::sim {
@@ -23,10 +24,6 @@ constexpr int kHighestShortAddress = 127;
 constexpr Word kControls[] = {{"analog", static_cast<int>(TrainControl::kAnalog)},
                               {"dcc", static_cast<int>(TrainControl::kDcc)},
                               {"mcc", static_cast<int>(TrainControl::kMcc)}};
-
-std::string Quoted(const std::string& text) {
-    return '"' + text + '"';
-}
 
 /// What an end of a section says of itself in the file.
 struct DescribedEnd {

@@ -5,19 +5,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "sim/text/number.h"
+#include "sim/text/words.h"
 #include "sim/unit/layout.h"
 
 namespace zelvar::sim {
 
 namespace {
-
-std::string RangeText(Limits limits) {
-    return std::to_string(limits.least) + ".." + std::to_string(limits.most);
-}
-
-std::string Quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
 
 bool IsPrintable(const std::string& text) {
     constexpr unsigned char kFirstPrintable = 0x20;
@@ -61,17 +55,6 @@ std::optional<int> ParseVersion(std::string_view text) {
 
 }  // namespace
 
-std::string JoinedWith(std::span<const std::string> parts, std::string_view last) {
-    std::string text;
-    for (std::size_t index = 0; index < parts.size(); ++index) {
-        if (index > 0) {
-            text += index + 1 == parts.size() ? ' ' + std::string(last) + ' ' : ", ";
-        }
-        text += parts[index];
-    }
-    return text;
-}
-
 const TomlValue* TableReader::Find(std::string_view key) const {
     const auto entry = std::find_if(table_.begin(), table_.end(), [&](const TomlEntry& candidate) {
         return candidate.key == key;
@@ -104,7 +87,7 @@ std::optional<int> TableReader::Whole(std::string_view key, Limits limits, Need 
     }
     const auto* number = std::get_if<std::int64_t>(&found->value);
     if (number == nullptr || *number < limits.least || *number > limits.most) {
-        Wrong(key, *found, "a whole number " + RangeText(limits));
+        Wrong(key, *found, "a whole number " + RangeText(limits.least, limits.most));
         return std::nullopt;
     }
     return static_cast<int>(*number);
@@ -122,7 +105,7 @@ std::optional<double> TableReader::Number(std::string_view key, Limits limits, N
         number = *fraction;
     }
     if (!(number >= limits.least && number <= limits.most)) {
-        Wrong(key, *found, "a number " + RangeText(limits));
+        Wrong(key, *found, "a number " + RangeText(limits.least, limits.most));
         return std::nullopt;
     }
     return number;

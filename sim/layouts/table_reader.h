@@ -99,7 +99,4 @@ class TableReader {
     std::vector<std::string_view> known_;
 };
 
-/// `"a"`, `"b"` and `"c"`, joined for a message.
-std::string JoinedWith(std::span<const std::string> parts, std::string_view last);
-
 }  // namespace zelvar::sim

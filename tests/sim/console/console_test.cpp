@@ -284,7 +284,7 @@ TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRightOnTheClubsL
 }
 
 TEST_F(ConsoleTest, TheExampleOfAPointMovesOneOnTheClubsTrack) {
-    const int point = *ParseNumber(SplitWords(FindConsoleCommand("point")->example).at(1), 0, 511);
+    const int point = *ParseInt(SplitWords(FindConsoleCommand("point")->example).at(1), 0, 511);
     bool found = false;
     for (const TrackSection& section : ClubLayout().track.sections) {
         found = found || section.front.point == point || section.back.point == point;
@@ -296,16 +296,6 @@ TEST_F(ConsoleTest, HelpOfOneCommandHasItsExample) {
     EXPECT_EQ(Answer("help silent"),
               "silent on|off\n  Answers nothing, or everything again.\n  Example: silent on\nok");
     EXPECT_EQ(Answer("help nonsense"), "error unknown command nonsense");
-}
-
-TEST(ParseNumberTest, TakesDecimalAndHexadecimalOnly) {
-    EXPECT_EQ(ParseNumber("12", 0, 20), 12);
-    EXPECT_EQ(ParseNumber("0x0C", 0, 20), 12);
-    EXPECT_EQ(ParseNumber("-5", -5, 20), -5);
-    for (const char* text :
-         {"", "0x", "0x-1", "1 2", "12x", "x", "99999999999", "21", "-1", "+1"}) {
-        EXPECT_EQ(ParseNumber(text, 0, 20), std::nullopt) << text;
-    }
 }
 
 }  // namespace

@@ -35,20 +35,19 @@ TEST_P(NearestWordOf, IsTheLikeliestOne) {
               GetParam().nearest);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Words, NearestWordOf,
-    testing::Values(NearestCase{"TheWordItself", "hold", "hold"},
-                    NearestCase{"LettersSwapped", "fualt", "fault"},
-                    NearestCase{"LetterMissing", "fedback", "feedback"},
-                    NearestCase{"LetterTooMany", "dripp", "drip"},
-                    NearestCase{"OtherLetter", "rum", "run"},
-                    NearestCase{"TwoMistakes", "feetbak", "feedback"},
-                    NearestCase{"TheNearer", "halp", "help"},
-                    NearestCase{"Nothing", "", std::nullopt},
-                    NearestCase{"OneLetter", "x", std::nullopt},
-                    NearestCase{"Nonsense", "nonsense", std::nullopt},
-                    NearestCase{"Short", "up", std::nullopt}),
-    [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Words, NearestWordOf,
+                         testing::Values(NearestCase{"TheWordItself", "hold", "hold"},
+                                         NearestCase{"LettersSwapped", "fualt", "fault"},
+                                         NearestCase{"LetterMissing", "fedback", "feedback"},
+                                         NearestCase{"LetterTooMany", "dripp", "drip"},
+                                         NearestCase{"OtherLetter", "rum", "run"},
+                                         NearestCase{"TwoMistakes", "feetbak", "feedback"},
+                                         NearestCase{"TheNearer", "halp", "help"},
+                                         NearestCase{"Nothing", "", std::nullopt},
+                                         NearestCase{"OneLetter", "x", std::nullopt},
+                                         NearestCase{"Nonsense", "nonsense", std::nullopt},
+                                         NearestCase{"Short", "up", std::nullopt}),
+                         [](const auto& row) { return row.param.name; });
 
 TEST(WrappedTest, BreaksBetweenWordsAndIndentsWhatFollows) {
     EXPECT_EQ(Wrapped("one two  three", 12, 4), "one two\n    three");
