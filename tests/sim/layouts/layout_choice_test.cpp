@@ -63,14 +63,12 @@ TEST(ChooseLayoutTest, APlaceInAFileStandsAtTheBeginningOfTheMessage) {
 
 TEST(ChooseLayoutTest, AnUnknownWordIsToldTheKnownOnes) {
     EXPECT_EQ(Message("big", kShipped),
-              "zelvarsim: --layout: club, largest, starter, none or the path of a .toml file "
-              "expected, found "
-              "\"big\" (the shipped ones are looked for in " +
+              "zelvarsim: --layout: expected club, largest, starter, none or the path of a .toml "
+              "file, found \"big\" (shipped layouts are read from " +
                   kShipped.string() + ")");
     EXPECT_EQ(Message("club", "/nowhere"),
-              "zelvarsim: --layout: none or the path of a .toml file expected, found \"club\" (the "
-              "shipped "
-              "ones are looked for in /nowhere)");
+              "zelvarsim: --layout: expected none or the path of a .toml file, found \"club\" "
+              "(shipped layouts are read from /nowhere)");
     EXPECT_NE(Message("", kShipped), "nothing wrong");
 }
 
