@@ -65,7 +65,7 @@ need() {
 
 # What building the programs takes.
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev 'qt6-serialport-dev|libqt6serialport6-dev'
-    libgl-dev libedit-dev libtomlplusplus-dev)
+    libgl-dev libedit-dev libtomlplusplus-dev libcli11-dev)
 # What a window takes to show: the X11 platform plugin comes with Qt, fonts do not.
 RUN_PACKAGES=('libqt6widgets6|libqt6widgets6t64' 'libqt6serialport6|libqt6serialport6t64'
     fonts-dejavu-core)

@@ -6,7 +6,6 @@
 #include <sstream>
 
 #include "sim/text/number.h"
-#include "sim/text/words.h"
 #include "sim/unit/layout.h"
 
 namespace zelvar::sim {

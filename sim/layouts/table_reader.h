@@ -11,14 +11,9 @@
 #include <vector>
 
 #include "sim/layouts/layout_problem.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
-
-/// A word of the description and what it stands for.
-struct Word {
-    std::string_view text;
-    int value;
-};
 
 /// Both ends are right values.
 struct Limits {

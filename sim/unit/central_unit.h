@@ -56,6 +56,8 @@ class CentralUnit {
     void Reboot(Time now);
     /// The next `replies` replies that carry something are empty; a later poll brings the content.
     void DeferContent(int replies) { deferred_ = replies; }
+    /// How many replies are still to come empty.
+    int deferredReplies() const { return deferred_; }
 
     /// Several lines "name=value", each ended by a line feed.
     std::string Describe(Time now);
