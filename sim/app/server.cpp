@@ -193,7 +193,7 @@ void Server::ServeLine() {
 void Server::ServeConsole() {
     if (editor_) {
         const auto run = [this](const std::string& line) { RunLine(line); };
-        if (editor_->ReadKey(run) == LineEditor::Outcome::kEnded) {
+        if (editor_->ReadKeys(run) == LineEditor::Outcome::kEnded) {
             consoleOpen_ = false;
             done_ = true;
         }

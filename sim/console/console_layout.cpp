@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include "sim/console/console.h"
-#include "sim/protocol/names.h"
 
 namespace zelvar::sim {
 
@@ -36,12 +35,13 @@ constexpr Argument kValue = Number("V", 0, 127);  // seven bits on the line
 constexpr Word kDirections[] = {{"forward", 1}, {"reverse", 0}};
 constexpr Word kInputStates[] = {{"0", 0}, {"1", 1}};
 
-/// The command took effect, but it will not show as long as the module is absent.
+/// Of an absent module the command changed what the module has when it appears.
 ConsoleResult DoneAt(const UnitState& state, int address) {
     if (state.layout.At(address).Present()) {
         return {};
     }
-    return {"ok, but " + ModuleName(address) + " is absent", ConsoleAction::kNone};
+    return {"ok, but there is no module at address " + std::to_string(address),
+            ConsoleAction::kNone};
 }
 
 ConsoleResult SetOvercurrent(UnitState& state, const Values& values, bool detected) {
@@ -91,10 +91,9 @@ ConsoleResult Hold(ConsoleContext& context, const Values& values) {
 
 ConsoleResult ModuleAbsent(ConsoleContext& context, const Values& values) {
     ModuleSlot& slot = context.unit.state().layout.At(values[0]);
-    const bool wasPresent = slot.Present();
+    const ConsoleResult result = DoneAt(context.unit.state(), values[0]);
     slot.status = kAbsentStatus;
-    return {wasPresent ? "ok" : "ok, but " + ModuleName(values[0]) + " was absent already",
-            ConsoleAction::kNone};
+    return result;
 }
 
 ConsoleResult ModuleStatus(ConsoleContext& context, const Values& values) {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "sim/console/line_editor.h"
 
-#include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -49,6 +48,12 @@ int TerminalColumns() {
     winsize size{};
     const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return known ? size.ws_col : kUsual;
+}
+
+/// Whether standard input has something, or has ended, within this many milliseconds.
+bool InputWaits(int limit) {
+    pollfd entry{STDIN_FILENO, POLLIN, 0};
+    return ::poll(&entry, 1, limit) == 1;
 }
 
 void WriteOut(std::string_view text) {
@@ -122,8 +127,7 @@ void LineEditor::Suspend() {
 
 std::optional<char> LineEditor::NextByte() {
     // A lone Escape begins a key that never goes on.
-    pollfd entry{STDIN_FILENO, POLLIN, 0};
-    if (::poll(&entry, 1, kKeyMs) != 1) {
+    if (!InputWaits(kKeyMs)) {
         return std::nullopt;
     }
     char byte = 0;
@@ -149,16 +153,20 @@ int LineEditor::NextCharacter(EditLine* editor, wchar_t* character) {
     return 0;
 }
 
-LineEditor::Outcome LineEditor::ReadKey(const std::function<void(const std::string&)>& run) {
-    int count = 0;
-    const char* text = el_gets(editor_, &count);
-    const std::string line = text == nullptr ? "" : std::string(text, text + std::max(count, 0));
-    if (ended_ || line == std::string(1, kEndOfInput)) {
-        return Outcome::kEnded;
-    }
-    if (line.ends_with('\n') || line.ends_with('\r')) {
-        // Completion leaves a space after the last word.
-        Accept(line.substr(0, line.find_last_not_of(" \r\n") + 1), run);
+LineEditor::Outcome LineEditor::ReadKeys(const std::function<void(const std::string&)>& run) {
+    while (InputWaits(0)) {
+        int count = 0;
+        const char* text = el_gets(editor_, &count);
+        // The buffer goes on after `count`.
+        const std::string line =
+            text == nullptr || count <= 0 ? "" : std::string(text, text + count);
+        if (ended_ || line == std::string(1, kEndOfInput)) {
+            return Outcome::kEnded;
+        }
+        if (line.ends_with('\n') || line.ends_with('\r')) {
+            // Completion leaves a space after the last word.
+            Accept(line.substr(0, line.find_last_not_of(" \r\n") + 1), run);
+        }
     }
     return Outcome::kOpen;
 }

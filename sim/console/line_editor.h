@@ -28,9 +28,9 @@ class LineEditor {
     LineEditor(const LineEditor&) = delete;
     LineEditor& operator=(const LineEditor&) = delete;
 
-    /// Reads one key when standard input has something; `run` gets the line that it finishes, with
-    /// the terminal in its usual mode. Ended: no more input will come.
-    Outcome ReadKey(const std::function<void(const std::string&)>& run);
+    /// Reads the keys typed so far; `run` gets each finished line, with the terminal in its usual
+    /// mode. Ended: no more input will come.
+    Outcome ReadKeys(const std::function<void(const std::string&)>& run);
     /// Prints text above the line being edited.
     void Print(std::string_view text);
     /// To be called when the terminal has changed its size or the program goes on after a stop.

@@ -23,8 +23,10 @@ class TraceTest : public testing::Test {
         return trace_.Frame("12:00", true, EncodeFrame(data, bits));
     }
     /// What a poll and its reply show.
-    std::string Poll(const Payload& reply = {}, std::uint8_t bits = 0) {
-        return Command({}) + Reply(reply, bits);
+    std::string Poll(const Payload& reply = {}, std::uint8_t replyBits = 0,
+                     std::uint8_t pollBits = 0) {
+        const std::string lines = Command({}, pollBits);
+        return lines + Reply(reply, replyBits);
     }
     static std::ptrdiff_t Lines(const std::string& text) {
         return std::count(text.begin(), text.end(), '\n');
@@ -74,8 +76,8 @@ TEST_F(TraceTest, ShowsOnceThatTheStateHasChanged) {
     EXPECT_THAT(Poll({}, kHeaderHoldBit), HasSubstr("[hold]"));
     EXPECT_EQ(Lines(Poll()), 2);
     EXPECT_EQ(Poll(), "");
-    EXPECT_THAT(Command({}, kHeaderStopBit) + Reply({}), HasSubstr("poll [stop]"));
-    EXPECT_EQ(Command({}, kHeaderStopBit) + Reply({}), "");
+    EXPECT_THAT(Poll({}, 0, kHeaderStopBit), HasSubstr("poll [stop]"));
+    EXPECT_EQ(Poll({}, 0, kHeaderStopBit), "");
 }
 
 }  // namespace

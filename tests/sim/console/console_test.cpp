@@ -48,12 +48,12 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"NumberOfBothForms", "module 128 absent",
                  "error ADDRESS: expected 0..127, found 128"},
         LineCase{"PresentModule", "clock 4 1", "ok"},
-        LineCase{"ClockOfAnAbsentModule", "clock 63 1",
-                 "ok, but second unit of traction module 31 is absent"},
-        LineCase{"RoleOfAnAbsentModule", "ms 2 1", "ok, but traction module 2 is absent"},
-        LineCase{"MutesAnAbsentModule", "mute-module 95 on", "ok, but point module 31 is absent"},
-        LineCase{"TakesAnAbsentModuleAway", "module 34 absent",
-                 "ok, but traction module 2 was absent already"}),
+        LineCase{"ClockOfAnAbsentModule", "clock 63 1", "ok, but there is no module at address 31"},
+        LineCase{"RoleOfAnAbsentModule", "ms 63 1", "ok, but there is no module at address 31"},
+        LineCase{"MutesAnAbsentModule", "mute-module 95 on",
+                 "ok, but there is no module at address 95"},
+        LineCase{"TakesAnAbsentModuleAway", "module 31 absent",
+                 "ok, but there is no module at address 31"}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(ConsoleTest, AWrongStrayLineAddsNothing) {
