@@ -48,7 +48,7 @@ TEST_F(MainWindowTest, StartsWithStopTickedAndTheBaudRatesHidden) {
 TEST_F(MainWindowTest, StartsDisconnectedWithPollingOff) {
     EXPECT_FALSE(port.IsOpen());
     EXPECT_FALSE(timer.enabled);
-    EXPECT_EQ(port.settings, "19200,o,8,1");
+    EXPECT_EQ(port.baud, 19200);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), QStringLiteral("System Status = Disconnected"));
     EXPECT_EQ(TextOf("lblBarStatus"), QStringLiteral("System Status = Disconnected"));
     EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("No port open"));

@@ -10,13 +10,13 @@ namespace {
 class ReportTwin : public TwinLink {
   protected:
     ReportTwin() {
-        link.Handlers().SetHandler(ReplyKind::Feedback, [this](const ReplyBuffer& reply) {
+        link.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& reply) {
             feedback.push_back(ReadFeedbackReport(reply));
         });
-        link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
+        link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
             overcurrents.push_back(ReadOvercurrentReport(reply));
         });
-        link.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const ReplyBuffer& reply) {
+        link.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
             speeds.push_back(ReadBlockSpeedReport(reply));
         });
     }

@@ -31,10 +31,10 @@ std::string Text(std::string_view text) {
 int CodeOf(const DescribedLayout& layout, int line) {
     const std::string state = layout.TractionState(line);
     if (state == "--" || state == "Error") {
-        return kVdNone;
+        return VDType::Absent;
     }
     const std::map<std::string, int> codes{
-        {"?", kVdUnknown}, {"VD-F", kVdF}, {"QLRX-s", kQlrxS}, {"VD60", kVd60}};
+        {"?", VDType::Unknown}, {"VD-F", VDType::VdF}, {"QLRX-s", kQlrxS}, {"VD60", kVd60}};
     return codes.at(layout.TypeOf(line));
 }
 
@@ -50,7 +50,7 @@ TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
             const int line = static_cast<int>(i);
             EXPECT_EQ(ModuleStateText(status.vd[i].state), layout.TractionState(line)) << line;
             EXPECT_EQ(VersionText(status.vd[i]), layout.TractionVersion(line)) << line;
-            EXPECT_EQ(registry.vdType[i], CodeOf(layout, line)) << line;
+            EXPECT_EQ(registry.vdTypes[i], CodeOf(layout, line)) << line;
         }
         for (std::size_t i = 0; i < status.vdTypes.size(); ++i) {
             EXPECT_EQ(VDTypeText(status.vdTypes[i]), layout.TypeOf(static_cast<int>(i))) << i;
@@ -59,7 +59,7 @@ TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
             const int position = static_cast<int>(i);
             EXPECT_EQ(ModuleStateText(status.js[i].state), layout.PointsState(position)) << i;
             EXPECT_EQ(JsVersionText(status.js[i]), layout.PointsVersion(position)) << i;
-            EXPECT_EQ(registry.jsPresent[i] == kJsPresent, layout.points.count(position) == 1);
+            EXPECT_EQ(registry.jsPresent[i] == true, layout.points.count(position) == 1);
         }
         for (std::size_t i = 0; i < status.yr.size(); ++i) {
             const int number = static_cast<int>(i);
@@ -85,7 +85,7 @@ TEST_F(StatusTwin, TheClassicViewShowsChannel0OfTheUnitsLayout) {
         for (int position = 0; position < kClassicJsModules; ++position) {
             const auto i = static_cast<std::size_t>(position);
             EXPECT_EQ(ModuleStateText(status.js[i].state), layout.ClassicPointsState(position));
-            EXPECT_EQ(registry.jsPresent[i] == kJsPresent, layout.points.count(position) == 1);
+            EXPECT_EQ(registry.jsPresent[i] == true, layout.points.count(position) == 1);
         }
     }
 }

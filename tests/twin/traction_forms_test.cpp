@@ -6,7 +6,7 @@ namespace zelvar::twin {
 namespace {
 
 // The kinds of modules that have a setting.
-constexpr unsigned kVdF = 1;
+constexpr unsigned VDType::VdF = 1;
 constexpr unsigned kVd60 = 2;
 constexpr unsigned kQlrx = 4;
 
@@ -18,12 +18,13 @@ struct Target {
 };
 
 const Target kModules[] = {
-    {" 0", kVdF, {0}},      {" 31", kVdF, {31}},    {" 5.0", kVd60, {5}}, {" 5.1", kVd60, {37}},
-    {" 16.0", kVd60, {16}}, {" 30.1", kVd60, {62}}, {" 8", kQlrx, {8}},   {" 15", kQlrx, {15}},
+    {" 0", VDType::VdF, {0}}, {" 31", VDType::VdF, {31}}, {" 5.0", kVd60, {5}},
+    {" 5.1", kVd60, {37}},    {" 16.0", kVd60, {16}},     {" 30.1", kVd60, {62}},
+    {" 8", kQlrx, {8}},       {" 15", kQlrx, {15}},
 };
 
 const Target kGroups[] = {
-    {"All_VD-F", kVdF, {0, 3, 31}},
+    {"All_VD-F", VDType::VdF, {0, 3, 31}},
     {"All_VD60", kVd60, {5, 16, 30, 37, 62}},
     {"All_QLRX", kQlrx, {8, 15}},
     // What is common to VD-F and VD60.
@@ -48,8 +49,8 @@ struct NumberSetting {
     const char* option = "";
 };
 
-constexpr unsigned kBothVd = kVdF | kVd60;
-constexpr unsigned kAny = kVdF | kVd60 | kQlrx;
+constexpr unsigned kBothVd = VDType::VdF | kVd60;
+constexpr unsigned kAny = VDType::VdF | kVd60 | kQlrx;
 
 const NumberSetting kNumberSettings[] = {
     {"HfiLevel", "cmdHFI", {{"txtHFI", 1, 0, 15, kBothVd}}, kBothVd},
@@ -61,9 +62,9 @@ const NumberSetting kNumberSettings[] = {
     {"SwitchDelay",
      "cmdSW",
      {{"txtSW(0)", 4, 0, 7, kAny},
-      {"txtSW(1)", 5, 0, 7, kVdF | kQlrx},
+      {"txtSW(1)", 5, 0, 7, VDType::VdF | kQlrx},
       {"txtSW(2)", 6, 0, 7, kAny},
-      {"txtSW(3)", 7, 0, 7, kVdF | kQlrx}},
+      {"txtSW(3)", 7, 0, 7, VDType::VdF | kQlrx}},
      kAny},
     {"DcShift", "cmdDCShift", {{"txtDCShift", 8, 0, 7, kBothVd}}, kBothVd},
     {"LoopCurrentA", "cmdLC", {{"txtLC", 13, 20, 70, kQlrx}}, kQlrx, "OptLC(0)"},
@@ -85,8 +86,8 @@ const OptionSetting kOptionSettings[] = {
     {"PwmMultiplier", "cmdPWMM", "optPWMM", 9, {2, 4, 8, 16, 32}, kBothVd, kBothVd},
     {"OcdMode", "cmdOCD", "optOCD", 10, {0, 1, 2}, kBothVd, kBothVd},
     // A VD60 tells its mode, but takes none.
-    {"MasterSlaveMode", "cmdMS", "optMS", 11, {0, 1, 2}, kVdF, kBothVd},
-    {"PowerControl", "cmdPC", "optPC", 12, {0, 1}, kVdF, kVdF},
+    {"MasterSlaveMode", "cmdMS", "optMS", 11, {0, 1, 2}, VDType::VdF, kBothVd},
+    {"PowerControl", "cmdPC", "optPC", 12, {0, 1}, VDType::VdF, VDType::VdF},
 };
 
 class TractionForms : public TwinWindow {

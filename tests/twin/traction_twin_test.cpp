@@ -189,11 +189,11 @@ class TractionGroup : public TractionTwin, public ::testing::WithParamInterface<
   protected:
     void Send(const ModuleCommand& command) {
         ModuleRegistry registry;
-        for (const auto& [type, lines] : {std::pair{kVdF, std::vector{0, 3, 31}},
+        for (const auto& [type, lines] : {std::pair{VDType::VdF, std::vector{0, 3, 31}},
                                           {kVd60, {5, 16, 30, 37, 62}},
                                           {kQlrxS, {8, 15}}}) {
             for (const int line : lines) {
-                registry.vdType[static_cast<std::size_t>(line)] = type;
+                registry.vdTypes.at(static_cast<unsigned>(line)) = type;
             }
         }
         ModuleCommands commands(services,

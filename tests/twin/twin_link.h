@@ -19,10 +19,7 @@ namespace zelvar::twin {
 /// The program's link on a line to the simulated unit.
 class TwinLink : public ::testing::Test {
   protected:
-    TwinLink() {
-        port.SetPortNumber(TwinPort::kNumber);
-        port.Open();
-    }
+    TwinLink() { port.Open(TwinPort::kNumber, 19200); }
 
     void TearDown() override {
         port.ExpectNothingMisunderstood();
@@ -30,7 +27,7 @@ class TwinLink : public ::testing::Test {
     }
 
     /// One exchange, which has to succeed.
-    void Do(const Command& command) { EXPECT_TRUE(link.Transact(command)); }
+    void Do(const Command& command) { EXPECT_TRUE(link.Transact(command).has_value()); }
 
     /// The same; what it has changed in the unit.
     Changes EffectOf(const Command& command) {

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "protocol/frame.h"
+#include "logs/message_log.h"
 
 #include <gtest/gtest.h>
 
 namespace zelvar::testing {
 namespace {
 
-TEST(FormatHexByteTest, GivesABlankAndTwoUpperCaseDigits) {
+TEST(FormatHexByteTest, GivesASpaceAndTwoUpperCaseDigits) {
     EXPECT_EQ(FormatHexByte(138), " 8A");
     EXPECT_EQ(FormatHexByte(0), " 00");
     EXPECT_EQ(FormatHexByte(255), " FF");
