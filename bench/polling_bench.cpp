@@ -4,6 +4,7 @@
 // How much of a core the whole program takes while it polls every 20 ms for 10 s.
 
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 
@@ -35,6 +36,15 @@ void RunFor(int milliseconds) {
     loop.exec();
 }
 
+QString TextOf(const QWidget& window, const char* label) {
+    return window.findChild<QLabel*>(QString::fromLatin1(label))->text();
+}
+
+int Fail(const char* error) {
+    std::fprintf(stderr, "polling_bench: %s\n", error);
+    return EXIT_FAILURE;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -47,6 +57,9 @@ int main(int argc, char** argv) {
     window.show();
     auto* ports = window.findChild<QComboBox*>(QStringLiteral("cboPort"));
     ports->setCurrentIndex(0);
+    if (TextOf(window, "lblBarDevice") == QStringLiteral("No port open")) {
+        return Fail("the line cannot be opened");
+    }
     window.findChild<QPushButton*>(QStringLiteral("cmdReset"))->click();
     RunFor(kSettlingMilliseconds);
 
@@ -55,6 +68,9 @@ int main(int argc, char** argv) {
     RunFor(kMeasuredMilliseconds);
     const std::chrono::duration<double> wall = std::chrono::steady_clock::now() - start;
     const double cpu = CpuSeconds() - cpuBefore;
+    if (TextOf(window, "lblBarStatus") == QStringLiteral("System Status = Disconnected")) {
+        return Fail("the unit did not answer to the end");
+    }
     std::printf("polling for %.1f s: %.3f s of processor time, %.2f %% of a core\n", wall.count(),
                 cpu, 100 * cpu / wall.count());
     return 0;

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -83,7 +84,11 @@ int RunProgram(int argc, char** argv, bool withTabs) {
 double Measure(const std::string& self, const char* mode) {
     const auto start = std::chrono::steady_clock::now();
     const pid_t process = zelvar::bench::Start(self, {mode}, -1);
-    waitpid(process, nullptr, 0);
+    int status = 0;
+    if (waitpid(process, &status, 0) != process || status != 0) {
+        std::fprintf(stderr, "startup_bench: no window could be shown\n");
+        std::exit(EXIT_FAILURE);
+    }
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
     return took.count();
 }

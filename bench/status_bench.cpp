@@ -10,12 +10,13 @@
 
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <string>
 #include <utility>
 
 #include "app/main_window.h"
 #include "controls/press_button.h"
 #include "platform/port_table.h"
-#include "platform/qt_message_box.h"
 #include "platform/qt_serial_port.h"
 #include "platform/qt_timer.h"
 #include "support/simulator.h"
@@ -47,6 +48,19 @@ class CountingPort : public zelvar::QtSerialPort {
     int frames = 0;
 };
 
+/// A question means that the request failed.
+class NoBox : public zelvar::MessageBox {
+  public:
+    zelvar::BoxAnswer Ask(const std::string& text, zelvar::BoxIcon /*icon*/,
+                          zelvar::BoxButtons /*buttons*/) override {
+        std::fprintf(stderr, "status_bench: the program asks: %s\n", text.c_str());
+        failed = true;
+        return zelvar::BoxAnswer::Ok;
+    }
+
+    bool failed = false;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -58,7 +72,7 @@ int main(int argc, char** argv) {
     zelvar::HandlerGate gate;
     zelvar::QtTimer timer(gate, zelvar::kPollInterval);
     const zelvar::SteadyClock clock;
-    zelvar::QtMessageBox box;
+    NoBox box;
     const auto describe = [](int number) { return QString::number(number); };
     zelvar::MainWindow window({port, timer, clock, box, gate, describe, describe});
     window.show();
@@ -71,6 +85,10 @@ int main(int argc, char** argv) {
         const auto start = std::chrono::steady_clock::now();
         status->click();
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+        if (box.failed || port.frames == 0) {
+            std::fprintf(stderr, "status_bench: the request failed\n");
+            return EXIT_FAILURE;
+        }
         const double wire = port.bytes * kBitsPerByte / kBaud;
         const double ideal = wire + port.frames * kUnitDelaySeconds;
         std::printf(

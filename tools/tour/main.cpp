@@ -1,17 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
 #include <string>
-#include <sys/file.h>
-#include <unistd.h>
 #include <vector>
 
 #include "comparison.h"
 #include "tour.h"
+#include "tour_lock.h"
 
 namespace zelvar::tour {
 
@@ -79,20 +77,8 @@ Comparison Compare(const Options& options, const std::string& palette, const std
     return complaints.empty() ? Comparison::kAlike : Comparison::kDifferent;
 }
 
-/// Two tours at once would open devices of one name, and Qt locks a serial port by its name for the
-/// whole computer. @return what holds the others off while it is open
-int WaitForOtherTours() {
-    constexpr mode_t kEverybody = 0666;
-    const std::string file = std::filesystem::temp_directory_path() / "zelvartour.lock";
-    const int lock = open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kEverybody);
-    if (lock < 0 || flock(lock, LOCK_EX) != 0) {
-        throw std::runtime_error("cannot lock " + file);
-    }
-    return lock;
-}
-
 int Run(const Options& options) {
-    const int lock = WaitForOtherTours();
+    const TourLock lock;
     const std::string folder = std::filesystem::absolute(options.folder);
     std::filesystem::create_directories(folder);
     bool alike = true;
@@ -110,7 +96,6 @@ int Run(const Options& options) {
             compared = compared && comparison != Comparison::kNotMade;
         }
     }
-    close(lock);
     if (!alike) {
         std::cerr << "Look at the pictures; tools/pictures takes them over.\n";
     }
