@@ -20,7 +20,7 @@
 
 #include "link/link.h"
 #include "platform/qt_serial_port.h"
-#include "support/pty.h"
+#include "support/answering_line.h"
 
 namespace {
 
@@ -96,8 +96,8 @@ double Median(std::vector<double> times) {
 /// medians are compared. The rest before each exchange, in microseconds, is the argument: none, as
 /// in a long sequence; enough for the other end to fall asleep; and that of the poll timer.
 void BM_TransactAgainstBareLoop(benchmark::State& state) {
-    const zelvar::bench::AnsweringPty pty;
-    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, pty.Path()));
+    const zelvar::bench::AnsweringLine line;
+    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, line.Device()));
     port.SetPortNumber(1);
     port.SetSettings("19200,o,8,1");
     NoTimer timer;
@@ -109,7 +109,7 @@ void BM_TransactAgainstBareLoop(benchmark::State& state) {
         state.SkipWithError("cannot open the line");
         return;
     }
-    const int bare = open(pty.Path().c_str(), O_RDWR | O_NOCTTY);
+    const int bare = open(line.Device().c_str(), O_RDWR | O_NOCTTY);
     std::vector<double> bareTimes;
     std::vector<double> transactTimes;
     const std::chrono::microseconds rest(state.range(0));

@@ -42,7 +42,7 @@ class Configuration : public Journey {
     }
 
     bool IsGreen(const std::string& control, const std::string& role) {
-        return program->AskOne({"colour", control, role}) == kGreen;
+        return program->ColourOf(control, role) == kGreen;
     }
 
     /// The program answers when it is through with what was pressed.
@@ -68,7 +68,7 @@ TEST_F(Configuration, ASettingSetPermanentlyIsReadBackAfterAReboot) {
     unit->Do("reboot");
     program->Type("txtHFI", "0");
     program->Click("chkVDperm");
-    EXPECT_FALSE(program->IsChecked("chkVDperm"));
+    EXPECT_FALSE(program->IsTicked("chkVDperm"));
     program->Click("cmdHFI(1)");
     EXPECT_TRUE(program->Shows("txtHFI", "9"));
     EXPECT_TRUE(IsGreen("txtHFI", "Base"));
@@ -125,7 +125,7 @@ TEST_F(Configuration, ALoopCurrentGoesToTheChosenLoop) {
     program->Click("OptLC(1)");
     program->Type("txtLC", "99");
     program->Click("cmdLC(0)");
-    EXPECT_EQ(program->Text("txtLC"), "70") << "the greatest current";
+    EXPECT_EQ(program->TextOf("txtLC"), "70") << "the greatest current";
     EXPECT_EQ(Traction(24, "active", kLoopCurrentB), 70);
     ExpectNoBox();
 }
@@ -234,7 +234,7 @@ class Js70Journey : public Configuration {
     std::string Report() {
         program->Click("cmdGetJSConfig");
         EXPECT_TRUE(program->Says({"visible", "textJSReport"}, "yes"));
-        return program->Text("textJSReport");
+        return program->TextOf("textJSReport");
     }
 
     /// How often a line stands in a report.
@@ -250,7 +250,7 @@ class Js70Journey : public Configuration {
 
 TEST_F(Js70Journey, TimesSetPermanentlyAreReportedAfterAReboot) {
     StartWithModules();
-    program->ToFront("cboJS");
+    program->ShowTabOf("cboJS");
     program->Choose("cboJS", " 9");
     program->Click("chkJSperm");
     program->Type("txtJStime", "42");
@@ -285,7 +285,7 @@ TEST_F(Js70Journey, TimesSetPermanentlyAreReportedAfterAReboot) {
 
 TEST_F(Js70Journey, EraseTakesTheTimesBack) {
     StartWithModules();
-    program->ToFront("cboJS");
+    program->ShowTabOf("cboJS");
     program->Choose("cboJS", "All");
     program->Type("txtJStime", "77");
     program->Click("cmdTIME");
@@ -305,14 +305,14 @@ class CentralUnitJourney : public Configuration {
   protected:
     void StartAtUnit() {
         StartWithModules();
-        program->ToFront("chkKBperm");
+        program->ShowTabOf("chkKBperm");
     }
 
     /// The numbers of the ticked configuration switches.
     std::string Ticked() {
         std::string ticked;
         for (int i = 0; i < 8; ++i) {
-            if (program->IsChecked(Switch(i))) {
+            if (program->IsTicked(Switch(i))) {
                 ticked += std::to_string(i);
             }
         }
@@ -391,7 +391,7 @@ TEST_F(Configuration, WithoutAPortEachButtonShowsOneBox) {
     for (const char* button : {"cmdHFI(0)", "cmdSW(1)", "cmdMS(1)", "cmdOCD(0)", "cmdTIME",
                                "cmdDeviceTime", "cmdDevicePower", "cmdConfig(0)", "cmdConfig(1)",
                                "cmdOptions", "cmdJS70dm", "cmdTM(0)"}) {
-        program->ToFront(button);
+        program->ShowTabOf(button);
         program->Click(button);
         EXPECT_EQ(program->AwaitBox(), SelectPortBox()) << button;
         program->Answer("OK");

@@ -11,12 +11,10 @@ class Driving : public Journey {
     /// Starts both, the polls too, with a page of the "TEST" tab in front.
     void StartAt(const std::string& control) {
         StartAndPoll();
-        program->ToFront(control);
+        program->ShowTabOf(control);
     }
 
-    void Keys(const std::string& control, const std::string& keys) {
-        program->Ask({"key", control, keys});
-    }
+    void Keys(const std::string& control, const std::string& keys) { program->Key(control, keys); }
 
     /// Waits until the unit says it of itself.
     ::testing::AssertionResult UnitSays(const std::string& name, const std::string& expected) {
@@ -46,7 +44,7 @@ class Driving : public Journey {
 TEST_F(Driving, AnAnalogLocomotiveRunsTurnsAndLightsUp) {
     StartAt("AnalogSpeed");
     program->Type("txtTestBlock", "200");
-    EXPECT_EQ(program->Text("lblTestAnalogSpeed"), "---");
+    EXPECT_EQ(program->TextOf("lblTestAnalogSpeed"), "---");
     Keys("AnalogSpeed", "End");
     EXPECT_TRUE(UnitSays("block.200", "speed:63,direction:forward,target:63,light:0"));
     EXPECT_TRUE(program->Shows("lblTestAnalogSpeed", ">>63"));
@@ -85,7 +83,7 @@ TEST_F(Driving, TheHfiOfTheSystemIsSet) {
     program->Click("CommandSetHFI");
     EXPECT_TRUE(UnitSays("hfi", "11"));
     program->Type("txtTestHFI", "99");
-    EXPECT_EQ(program->Text("txtTestHFI"), "15");
+    EXPECT_EQ(program->TextOf("txtTestHFI"), "15");
     program->Click("CommandSetHFI");
     EXPECT_TRUE(UnitSays("hfi", "15"));
 }
@@ -97,7 +95,7 @@ TEST_F(Driving, TheAnalogEmergencyStopStandsTheBlockStill) {
     ASSERT_TRUE(UnitSays("block.255", "speed:63,direction:forward,target:63,light:0"));
     program->Click("cmdEstopAnalog");
     EXPECT_TRUE(UnitSays("block.255", ""));
-    EXPECT_EQ(program->AskOne({"value", "AnalogSpeed"}), "0");
+    EXPECT_EQ(program->ValueOf("AnalogSpeed"), 0);
     EXPECT_TRUE(program->Shows("lblTestAnalogSpeed", ">>0"));
     EXPECT_EQ(AnalogSpeeds(), 2) << "the slider itself sends nothing";
 }
@@ -171,7 +169,7 @@ TEST_F(Driving, TheDccEmergencyStopIsToldToTheDecoder) {
     program->Click("cmdEstopDCC");
     EXPECT_TRUE(UnitSays("dcc.short.1",
                          "steps:28,speed:0,direction:forward,block:0,emergency-stop:1,functions:"));
-    EXPECT_EQ(program->AskOne({"value", "DCCSpeed"}), "0");
+    EXPECT_EQ(program->ValueOf("DCCSpeed"), 0);
     EXPECT_EQ(unit->Count("command.dcc-speed-28"), 2) << "the slider itself sends nothing";
 
     program->Click("CheckDCC126");
@@ -206,7 +204,7 @@ TEST_F(Driving, AnMccLocomotiveRunsInBothStepModesAndStops) {
     EXPECT_TRUE(UnitSays("mcc.4095", "half-steps:29,target:29,functions:129,emergency-stop:0"));
     program->Click("cmdEstopMCC");
     EXPECT_TRUE(UnitSays("mcc.4095", "half-steps:0,target:0,functions:129,emergency-stop:1"));
-    EXPECT_EQ(program->AskOne({"value", "MCCspeed"}), "0");
+    EXPECT_EQ(program->ValueOf("MCCspeed"), 0);
 }
 
 TEST_F(Driving, PointsSignalsAndOutputsAreSet) {
@@ -218,7 +216,7 @@ TEST_F(Driving, PointsSignalsAndOutputsAreSet) {
     EXPECT_TRUE(UnitSays("point.511", "straight"));
 
     program->Click("chkTestJS70selectmodule");
-    EXPECT_EQ(program->Text("txtTestJS70device"), "63") << "a module has no more devices";
+    EXPECT_EQ(program->TextOf("txtTestJS70device"), "63") << "a module has no more devices";
     program->Type("txtTestJS70module", "15");
     program->Click("cmdTestJS70(1)");
     EXPECT_TRUE(UnitSays("point-of-module.15.63", "thrown"));
@@ -278,9 +276,9 @@ TEST_F(Driving, ClearBlockRestsTheBlockAndThePages) {
     const int frames = AnalogSpeeds();
     program->Click("CommandTestClearBlock");
     EXPECT_TRUE(UnitSays("block.77", ""));
-    EXPECT_EQ(program->AskOne({"value", "AnalogSpeed"}), "0");
-    EXPECT_TRUE(program->IsChecked("CheckAnalogDirection"));
-    EXPECT_FALSE(program->IsChecked("CheckAnalogLight"));
+    EXPECT_EQ(program->ValueOf("AnalogSpeed"), 0);
+    EXPECT_TRUE(program->IsTicked("CheckAnalogDirection"));
+    EXPECT_FALSE(program->IsTicked("CheckAnalogLight"));
     EXPECT_EQ(AnalogSpeeds(), frames);
     EXPECT_EQ(unit->Count("command.analog-light"), 1);
     EXPECT_EQ(unit->Count("command.clear-block"), 1);
@@ -291,7 +289,7 @@ TEST_F(Driving, WithoutAPortEachControlShowsOneBox) {
     Start();
     std::size_t shown = 0;
     const auto expectOneBox = [&](const std::vector<std::string>& action) {
-        program->ToFront(action[1]);
+        program->ShowTabOf(action[1]);
         program->Ask(action);
         EXPECT_EQ(program->AwaitBox(), SelectPortBox()) << action[1];
         program->Answer("OK");
@@ -312,7 +310,7 @@ TEST_F(Driving, WithoutAPortEachControlShowsOneBox) {
     expectOneBox({"click", "CheckDCC126"});
     expectOneBox({"click", "CheckMCC30"});
     for (const char* silent : {"CheckAnalogDirection", "CheckAnalogLight"}) {
-        program->ToFront(silent);
+        program->ShowTabOf(silent);
         program->Click(silent);
         EXPECT_EQ(program->Box(), BoxText()) << silent;
     }

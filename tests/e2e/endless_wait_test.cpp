@@ -30,7 +30,7 @@ class EndlessWait : public Journey {
         EXPECT_NE(program->Window("dlgZelvarStatus44"), "visible");
         EXPECT_EQ(program->BoxesShown().size(), 0U);
         EXPECT_FALSE(program->IsVisible("prgBar"));
-        EXPECT_EQ(program->Items("cboVD"), "");
+        EXPECT_EQ(program->ItemsOf("cboVD"), "");
     }
 };
 
@@ -40,12 +40,12 @@ TEST_F(EndlessWait, CancelEndsIt) {
     ExpectEndedWithoutAView();
     EXPECT_TRUE(Polls());
     RequestStatus();
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtProtVer"), "3.11 B");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
 }
 
 TEST_F(EndlessWait, EscapeEndsIt) {
     StartToWait();
-    program->Ask({"key", "cmdCancel", "Esc"});
+    program->Key("cmdCancel", "Esc");
     ExpectEndedWithoutAView();
     EXPECT_TRUE(Polls());
 }
@@ -55,28 +55,28 @@ TEST_F(EndlessWait, NothingButCancelReacts) {
     const int resets = unit->Count("command.fault-reset");
     program->Click("Check_Stop");
     program->Click("cmdReset");
-    program->Ask({"doubleclick", "lblCom"});
-    program->Ask({"close", "frmZelvarConfig"});
+    program->DoubleClick("lblCom");
+    program->Close("frmZelvarConfig");
     program->Click("cmdCancel");
     ExpectEndedWithoutAView();
-    EXPECT_TRUE(program->IsChecked("Check_Stop"));
+    EXPECT_TRUE(program->IsTicked("Check_Stop"));
     EXPECT_EQ(unit->Count("command.fault-reset"), resets);
     EXPECT_NE(program->Window("dlgMsgLog"), "visible");
     EXPECT_EQ(program->Window("frmZelvarConfig"), "visible");
     // Nothing of it was only put off.
     EXPECT_TRUE(Polls());
-    EXPECT_TRUE(program->IsChecked("Check_Stop"));
+    EXPECT_TRUE(program->IsTicked("Check_Stop"));
     EXPECT_EQ(unit->Count("command.fault-reset"), resets);
     program->Click("Check_Stop");
-    EXPECT_FALSE(program->IsChecked("Check_Stop"));
+    EXPECT_FALSE(program->IsTicked("Check_Stop"));
 }
 
 TEST_F(EndlessWait, AnAnswerAtLastGoesOnWithTheRequest) {
     StartToWait();
     unit->Do(kVersionAtLast);
     ASSERT_TRUE(program->Says({"window", "dlgZelvarStatus44"}, "visible"));
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtProtVer"), "3.11 B");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
     EXPECT_FALSE(program->IsVisible("cmdCancel"));
     EXPECT_EQ(program->BoxesShown().size(), 0U);
 }
@@ -85,8 +85,8 @@ TEST_F(EndlessWait, AnAnswerWithALaterPollNeedsNoCancel) {
     StartAndOpen();
     unit->Do("defer 1");
     RequestStatus();
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtProtVer"), "3.11 B");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtSysVer"), "KB-E 1.02");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtSysVer"), "KB-E 1.02");
     EXPECT_FALSE(program->IsVisible("cmdCancel"));
 }
 

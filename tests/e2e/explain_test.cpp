@@ -29,14 +29,14 @@ class ExplainedLog : public Journey {
         program->Choose("cboVD", " 1");
         program->Click("cmdHFI(1)");
         ASSERT_TRUE(program->Shows("txtHFI", "6"));
-        program->ToFront("cmdConfig(1)");
+        program->ShowTabOf("cmdConfig(1)");
         program->Click("cmdConfig(1)");
-        program->ToFront("AnalogSpeed");
+        program->ShowTabOf("AnalogSpeed");
         program->Type("txtTestBlock", "5");
-        program->Ask({"key", "AnalogSpeed", "End"});
+        program->Key("AnalogSpeed", "End");
         ASSERT_TRUE(Until([&] { return unit->Count("command.analog-speed") == 1; }));
         for (const char* button : {"cmdEstopDCC", "cmdEstopMCC", "cmdTestJS70(1)", "cmdTestYR70"}) {
-            program->ToFront(button);
+            program->ShowTabOf(button);
             program->Click(button);
         }
         unit->Do("overcurrent 133");
@@ -53,10 +53,9 @@ class ExplainedLog : public Journey {
     std::vector<std::string> Explain(const std::string& log) {
         const std::string path = folder.Path("log");
         std::ofstream(path) << log;
-        ChildProcess explainer({ZELVARSIM_PROGRAM, "--explain", path}, {},
-                               folder.Path("explain.err"));
+        ChildProcess explainer({ZELVARSIM_PROGRAM, "--explain", path});
         std::vector<std::string> lines;
-        while (const std::optional<std::string> line = explainer.Console().Receive()) {
+        while (const std::optional<std::string> line = explainer.Receive()) {
             lines.push_back(*line);
         }
         EXPECT_EQ(explainer.WaitForExit(), 0);
@@ -66,7 +65,7 @@ class ExplainedLog : public Journey {
 
 TEST_F(ExplainedLog, OfAJourneyHasNoLineWithoutAMeaning) {
     Travel();
-    const std::string log = program->Text("txtMsgLog");
+    const std::string log = program->TextOf("txtMsgLog");
     const std::vector<std::string> lines = LinesOf(log);
     const std::vector<std::string> explained = Explain(log);
     ASSERT_EQ(explained.size(), lines.size());

@@ -46,7 +46,7 @@ TEST_P(BrokenReply, ToACommandGivesOneBoxAndEndsThePolling) {
     program->Click("cmdReset");
     ExpectOneBoxAndRecovery();
     // The failed exchange leaves its line without a reply, the next one stands below it.
-    const std::string log = program->Text("txtMsgLog");
+    const std::string log = program->TextOf("txtMsgLog");
     EXPECT_EQ(log.substr(0, log.find('\n')), ">> 2A 81 80 D5" + std::string(15, ' '));
 }
 
@@ -54,7 +54,7 @@ TEST_P(BrokenReply, ToAPollGivesOneBoxAndEndsThePolling) {
     StartAndPoll();
     unit->Do(GetParam().command);
     ExpectOneBoxAndRecovery();
-    EXPECT_EQ(program->Text("lblBarStatus"), "System Status = Stop");
+    EXPECT_EQ(program->TextOf("lblBarStatus"), "System Status = Stop");
 }
 
 INSTANTIATE_TEST_SUITE_P(Fault, BrokenReply,
@@ -75,7 +75,7 @@ TEST_P(OddReply, IsAccepted) {
     }
     unit->Do("drip 0");
     RequestStatus();
-    EXPECT_EQ(program->Text(kSystemVersion), "KB-E 1.02");
+    EXPECT_EQ(program->TextOf(kSystemVersion), "KB-E 1.02");
     EXPECT_EQ(program->BoxesShown().size(), 0U);
 }
 
@@ -92,10 +92,10 @@ TEST_F(FaultyReply, EveryReplyDoubledStillFillsTheStatusView) {
     StartAndOpen();
     unit->Do("double 100000");
     RequestStatus();
-    EXPECT_EQ(program->Text(kSystemVersion), "KB-E 1.02");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtYRver(18)"), "?");
-    EXPECT_EQ(program->Items("cboJS"), "All| 0| 1| 3| 9| 15");
+    EXPECT_EQ(program->TextOf(kSystemVersion), "KB-E 1.02");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtYRver(18)"), "?");
+    EXPECT_EQ(program->ItemsOf("cboJS"), "All| 0| 1| 3| 9| 15");
     EXPECT_TRUE(Polls());
     EXPECT_EQ(program->BoxesShown().size(), 0U);
 }
@@ -120,15 +120,15 @@ TEST_F(FaultyReply, AReplyBeyondTheLimitIsNotTakenForTheNextOne) {
     program->Click("cmdReset");
     EXPECT_EQ(program->AwaitBox(), NoResponseBox());
     EXPECT_GE(Since(start), kReplyLimit);
-    EXPECT_EQ(program->Text("lblBarStatus"), "System Status = Disconnected");
+    EXPECT_EQ(program->TextOf("lblBarStatus"), "System Status = Disconnected");
     program->Answer("OK");
     EXPECT_TRUE(DoesNotPoll());
     // By then the late reply lies in the program's input.
     Until([&] { return Since(start) > kDelay + Milliseconds(200); });
     RequestStatus();
-    EXPECT_EQ(program->Text(kSystemVersion), "KB-E 1.02");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtProtVer"), "3.11 B");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
+    EXPECT_EQ(program->TextOf(kSystemVersion), "KB-E 1.02");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
     EXPECT_TRUE(Polls());
     EXPECT_EQ(program->BoxesShown().size(), 1U);
 }
@@ -142,9 +142,9 @@ TEST_F(FaultyReply, AModuleRequestWithoutReplyLeavesOnlyItsLineEmpty) {
     unit->Do("silent off");
     program->Answer("OK");
     ASSERT_TRUE(program->Says({"window", "dlgZelvarStatus44"}, "visible"));
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtVDstatus(0)"), "--");
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtVDstatus(1)"), "Idle");
-    EXPECT_EQ(program->Text("cboVD"), " 1");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtVDstatus(0)"), "--");
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtVDstatus(1)"), "Idle");
+    EXPECT_EQ(program->TextOf("cboVD"), " 1");
     EXPECT_EQ(program->BoxesShown().size(), 1U);
 }
 

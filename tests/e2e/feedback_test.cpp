@@ -20,7 +20,7 @@ constexpr char kInactive[] = "#ffffff";
 class FeedbackMonitor : public Journey {
   protected:
     void Open() {
-        program->ToFront("CommandTestFBM");
+        program->ShowTabOf("CommandTestFBM");
         program->Click("CommandTestFBM");
         ASSERT_TRUE(program->Says({"window", kMonitor}, "visible"));
         none_ = Colour("lblFBMform(3)");
@@ -35,9 +35,7 @@ class FeedbackMonitor : public Journey {
         ASSERT_EQ(unit->Count("pending-reports"), 0);
     }
 
-    std::string Colour(const std::string& label) {
-        return program->AskOne({"colour", label, "Window"});
-    }
+    std::string Colour(const std::string& label) { return program->ColourOf(label, "Window"); }
     std::string ColourOf(int label) { return Colour(Label(label)); }
     static std::string Label(int index) { return "lblFBM(" + std::to_string(index) + ")"; }
 
@@ -84,7 +82,7 @@ TEST_F(FeedbackMonitor, OpensEmptyAndFollowsTheInputs) {
     StartAndPoll();
     EXPECT_EQ(program->Window(kMonitor), "absent");
     Open();
-    EXPECT_EQ(program->AskOne({"title", kMonitor}), "Feedback Monitor");
+    EXPECT_EQ(program->TitleOf(kMonitor), "Feedback Monitor");
     EXPECT_NE(none_, kActive);
     EXPECT_NE(none_, kInactive);
     ExpectLabels(none_, {});
@@ -111,7 +109,7 @@ TEST_F(FeedbackMonitor, KeepsWhatWasReportedBeforeItWasShown) {
     Open();
     ExpectLabels(none_, {{3, kInactive}, {12, kActive}});
 
-    program->Ask({"close", kMonitor});
+    program->Close(kMonitor);
     ASSERT_TRUE(program->Says({"window", kMonitor}, "absent"));
     Open();
     ExpectLabels(none_, {});
@@ -124,10 +122,10 @@ TEST_F(FeedbackMonitor, ShowsTheInputsOfItsLayout) {
     Open();
     ExpectLabels(none_, {});
     program->Click("opFBmod(3)");
-    EXPECT_EQ(program->Text(Label(16)), "128");
-    EXPECT_EQ(program->Text(Label(127)), "911");
+    EXPECT_EQ(program->TextOf(Label(16)), "128");
+    EXPECT_EQ(program->TextOf(Label(127)), "911");
     program->Click("opFBmod(1)");
-    EXPECT_EQ(program->Text(Label(127)), "239");
+    EXPECT_EQ(program->TextOf(Label(127)), "239");
     unit->Do("feedback 239 1");
     EXPECT_TRUE(Becomes(127, kActive));
     program->Click("opFBmod(0)");
@@ -182,7 +180,7 @@ TEST_F(FeedbackMonitor, ReportsThatComeUnaskedInBetweenAreKept) {
     SetUnreported({2, 50, 100});
     program->Click("cmdReset");
     Open();
-    program->ToFront("cmdOptions");
+    program->ShowTabOf("cmdOptions");
     unit->Do("trace on");
     program->Click("cmdFBMrefresh");
     ASSERT_TRUE(Until([this] { return Requests() > 3; }));
@@ -201,7 +199,7 @@ TEST_F(FeedbackMonitor, ReportsThatComeUnaskedInBetweenAreKept) {
     for (int label = 0; label <= kLast; ++label) {
         EXPECT_EQ(ColourOf(label), active.contains(label) ? kActive : kInactive) << label;
     }
-    EXPECT_EQ(program->Text("lblTestAnalogSpeed"), ">>21");
+    EXPECT_EQ(program->TextOf("lblTestAnalogSpeed"), ">>21");
     std::vector<int> expected(kLast + 1);
     std::iota(expected.begin(), expected.end(), 0);
     std::erase_if(expected, [](int input) { return input == 100 || input == 104; });
@@ -217,7 +215,7 @@ TEST_F(FeedbackMonitor, AnswersThatComeLaterAreShownToo) {
     SetUnreported({2, 5});
     program->Click("cmdReset");
     Open();
-    program->ToFront("cmdOptions");
+    program->ShowTabOf("cmdOptions");
     unit->Do("defer 6");
     program->Click("cmdFBMrefresh");
     EXPECT_TRUE(Becomes(6, kInactive));

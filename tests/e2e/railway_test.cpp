@@ -16,11 +16,9 @@ class RunningTrains : public Journey {
         StartAndPoll({"--layout", ZELVAR_TEST_LAYOUTS "/loop.toml", "--time-factor", "5"});
         program->Click("Check_Stop");
         ASSERT_TRUE(program->Shows("lblBarStatus", "System Status = Run"));
-        program->ToFront(control);
+        program->ShowTabOf(control);
     }
-    void Keys(const std::string& control, const std::string& keys) {
-        program->Ask({"key", control, keys});
-    }
+    void Keys(const std::string& control, const std::string& keys) { program->Key(control, keys); }
     void Link(int first, int second) {
         program->Type("txtTestLink(0)", std::to_string(first));
         program->Type("txtTestLink(1)", std::to_string(second));

@@ -46,7 +46,7 @@ class StatusViews : public Journey {
   protected:
     void ExpectField(const std::string& view, const std::string& field,
                      const std::string& expected) {
-        EXPECT_EQ(program->Text(view + "/" + field), expected) << field;
+        EXPECT_EQ(program->TextOf(view + "/" + field), expected) << field;
     }
 
     void ExpectUnits(const std::string& stateField, const std::string& versionField, int lines,
@@ -90,17 +90,17 @@ class StatusViews : public Journey {
             const bool present = module == 0 || module == 1 || module == 3;
             ExpectField(kClassicView, Indexed("txtJSstatus", module), present ? "OK" : kNone);
         }
-        EXPECT_EQ(program->Items("cboVD"), "All_VD-F|All_QLRX| 0| 1| 2| 4| 5| 6| 8| 9");
-        EXPECT_EQ(program->Text("cboVD"), " 0");
-        EXPECT_EQ(program->Items("cboJS"), "All| 0| 1| 3");
-        EXPECT_EQ(program->Text("cboJS"), " 0");
+        EXPECT_EQ(program->ItemsOf("cboVD"), "All_VD-F|All_QLRX| 0| 1| 2| 4| 5| 6| 8| 9");
+        EXPECT_EQ(program->TextOf("cboVD"), " 0");
+        EXPECT_EQ(program->ItemsOf("cboJS"), "All| 0| 1| 3");
+        EXPECT_EQ(program->TextOf("cboJS"), " 0");
     }
 };
 
 TEST_F(StatusViews, TheNewViewShowsTheWholeLayout) {
     StartAndOpen();
     RequestStatus();
-    EXPECT_EQ(program->AskOne({"title", kNewView}), "ZelvarConfig - Zelvar Status");
+    EXPECT_EQ(program->TitleOf(kNewView), "ZelvarConfig - Zelvar Status");
     ExpectField(kNewView, "txtSystem", "OK");
     ExpectField(kNewView, "txtSysVer", "KB-E 1.02");
     ExpectField(kNewView, "txtProtVer", "3.11 B");
@@ -119,13 +119,13 @@ TEST_F(StatusViews, TheNewViewShowsTheWholeLayout) {
 TEST_F(StatusViews, FillTheListsOfModules) {
     StartAndOpen();
     RequestStatus();
-    EXPECT_EQ(program->Items("cboVD"),
+    EXPECT_EQ(program->ItemsOf("cboVD"),
               "All_VDxx|All_VD60|All_VD-F|All_QLRX| 0| 1| 2| 4.0| 4.1| 5.0| 6.0| 8| 9| 16| 19.0| "
               "19.1| 24");
-    EXPECT_EQ(program->Text("cboVD"), " 0");
-    EXPECT_EQ(program->Items("cboJS"), "All| 0| 1| 3| 9| 15");
-    EXPECT_EQ(program->Text("cboJS"), " 0");
-    EXPECT_EQ(program->Text("frmZelvarConfig/lblKBtype"), "KB-E");
+    EXPECT_EQ(program->TextOf("cboVD"), " 0");
+    EXPECT_EQ(program->ItemsOf("cboJS"), "All| 0| 1| 3| 9| 15");
+    EXPECT_EQ(program->TextOf("cboJS"), " 0");
+    EXPECT_EQ(program->TextOf("frmZelvarConfig/lblKBtype"), "KB-E");
     EXPECT_EQ(program->AskOne({"hidden", "frmZelvarConfig/lblKBtype"}), "no");
 }
 
@@ -141,7 +141,7 @@ TEST_F(StatusViews, TheNextRequestRefreshesAnOpenView) {
     ExpectField(kNewView, "txtVDtype(0)", kNone);
     ExpectField(kNewView, "txtVDversion(0)", kNone);
     ExpectField(kNewView, "txtVDstatus(1)", "OK");
-    EXPECT_EQ(program->Text("cboVD"), " 1");
+    EXPECT_EQ(program->TextOf("cboVD"), " 1");
 }
 
 TEST_F(StatusViews, ALayoutWithoutModulesLeavesTheListsEmpty) {
@@ -151,14 +151,14 @@ TEST_F(StatusViews, ALayoutWithoutModulesLeavesTheListsEmpty) {
     ExpectUnits("txtJSstatus", "txtJSver", 16, {});
     ExpectUnits("txtYRstatus", "txtYRver", 32, {});
     for (const char* list : {"cboVD", "cboJS"}) {
-        EXPECT_EQ(program->Items(list), "") << list;
-        EXPECT_EQ(program->Text(list), "") << list;
+        EXPECT_EQ(program->ItemsOf(list), "") << list;
+        EXPECT_EQ(program->TextOf(list), "") << list;
     }
 }
 
 TEST_F(StatusViews, ShiftAndTheLeftButtonOpenTheClassicView) {
     StartAndOpen();
-    program->Ask({"press", "cmdStatus", "left", "shift"});
+    program->Press("cmdStatus", "left", "shift");
     ASSERT_TRUE(program->Says({"window", kClassicView}, "visible"));
     EXPECT_NE(program->Window(kNewView), "visible");
     ExpectField(kClassicView, "txtSysVer", "KB-E 1.02");
@@ -181,7 +181,7 @@ TEST_F(StatusViews, AnOldProtocolOpensTheClassicViewOnAPlainClick) {
     ExpectField(kClassicView, "txtDIP(2)", "On");
     ExpectField(kClassicView, "txtDIP(3)", "Off");
     ExpectClassicModules();
-    EXPECT_EQ(program->Text("frmZelvarConfig/lblKBtype"), "KB-F");
+    EXPECT_EQ(program->TextOf("frmZelvarConfig/lblKBtype"), "KB-F");
 }
 
 struct Press {
@@ -231,7 +231,7 @@ TEST_P(SystemField, NamesTheState) {
     unit->Do("fault " + GetParam().fault);
     unit->Do("hold " + GetParam().hold);
     RequestStatus();
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtSystem"), GetParam().text);
+    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtSystem"), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(State, SystemField,
@@ -248,7 +248,7 @@ TEST_F(StatusViews, ShowChannel0HidesAndShowsItsFrames) {
         const std::string place = program->AskOne({"geometry", kNewView});
         return place.substr(place.find(' ', place.find(' ') + 1) + 1);
     };
-    EXPECT_FALSE(program->IsChecked("chkShowChannel0"));
+    EXPECT_FALSE(program->IsTicked("chkShowChannel0"));
     EXPECT_TRUE(program->IsVisible("frmStatus(2)")) << "the layout follows the first click";
     program->Click("chkShowChannel0");
     for (const char* frame : {"frmStatus(0)", "frmStatus(2)", "frmStatus(4)"}) {
