@@ -22,7 +22,7 @@
 #include <vector>
 
 #include "harness/child_process.h"
-#include "protocol/wire.h"
+#include "sim/protocol/wire.h"
 
 namespace zelvar::sim {
 namespace {

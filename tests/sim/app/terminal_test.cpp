@@ -21,7 +21,7 @@
 #include <unistd.h>
 
 #include "harness/child_process.h"
-#include "protocol/wire.h"
+#include "sim/protocol/wire.h"
 
 namespace zelvar::sim {
 namespace {
