@@ -9,8 +9,6 @@ namespace {
 constexpr Milliseconds kCancelOfferedAfter{2000};
 /// A valid frame that is no answer to the first request: an acknowledgement.
 constexpr char kAcknowledgeFirst[] = "stray 08 F8";
-/// The answer to the first request: protocol version 3.11 B.
-constexpr char kVersionAtLast[] = "stray 0C 81 82 99 8A CE";
 
 /// The unit acknowledges the first request of a status request and never answers it.
 class EndlessWait : public Journey {
@@ -43,13 +41,6 @@ TEST_F(EndlessWait, CancelEndsIt) {
     EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
 }
 
-TEST_F(EndlessWait, EscapeEndsIt) {
-    StartToWait();
-    program->Key("cmdCancel", "Esc");
-    ExpectEndedWithoutAView();
-    EXPECT_TRUE(Polls());
-}
-
 TEST_F(EndlessWait, NothingButCancelReacts) {
     StartToWait();
     const int resets = unit->Count("command.fault-reset");
@@ -69,38 +60,6 @@ TEST_F(EndlessWait, NothingButCancelReacts) {
     EXPECT_EQ(unit->Count("command.fault-reset"), resets);
     program->Click("Check_Stop");
     EXPECT_FALSE(program->IsTicked("Check_Stop"));
-}
-
-TEST_F(EndlessWait, AnAnswerAtLastGoesOnWithTheRequest) {
-    StartToWait();
-    unit->Do(kVersionAtLast);
-    ASSERT_TRUE(program->Says({"window", "dlgZelvarStatus44"}, "visible"));
-    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
-    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtVDstatus(24)"), "Fault");
-    EXPECT_FALSE(program->IsVisible("cmdCancel"));
-    EXPECT_EQ(program->BoxesShown().size(), 0U);
-}
-
-TEST_F(EndlessWait, AnAnswerWithALaterPollNeedsNoCancel) {
-    StartAndOpen();
-    unit->Do("defer 1");
-    RequestStatus();
-    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtProtVer"), "3.11 B");
-    EXPECT_EQ(program->TextOf("dlgZelvarStatus44/txtSysVer"), "KB-E 1.02");
-    EXPECT_FALSE(program->IsVisible("cmdCancel"));
-}
-
-TEST_F(EndlessWait, ALostReplyDuringItDoesNotEndIt) {
-    StartToWait();
-    unit->Do("bad-checksum 1");
-    EXPECT_EQ(program->AwaitBox(), NoResponseBox());
-    program->Answer("OK");
-    const int polls = unit->Count("command.poll");
-    EXPECT_TRUE(Until([&] { return unit->Count("command.poll") > polls; }));
-    EXPECT_TRUE(program->IsVisible("cmdCancel"));
-    program->Click("cmdCancel");
-    EXPECT_TRUE(program->Says({"visible", "cmdCancel"}, "no"));
-    EXPECT_EQ(program->BoxesShown().size(), 1U);
 }
 
 TEST_F(EndlessWait, EndsWhenTheDeviceVanishes) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 //
-// What the program writes to its message log on a journey, told in words by the simulator.
+// The message log of a journey, explained in words by the simulator.
 #include <fstream>
 #include <sstream>
 
@@ -29,14 +29,11 @@ class ExplainedLog : public Journey {
         program->Choose("cboVD", " 1");
         program->Click("cmdHFI(1)");
         ASSERT_TRUE(program->Shows("txtHFI", "6"));
-        program->ShowTabOf("cmdConfig(1)");
         program->Click("cmdConfig(1)");
-        program->ShowTabOf("AnalogSpeed");
         program->Type("txtTestBlock", "5");
         program->Key("AnalogSpeed", "End");
         ASSERT_TRUE(Until([&] { return unit->Count("command.analog-speed") == 1; }));
         for (const char* button : {"cmdEstopDCC", "cmdEstopMCC", "cmdTestJS70(1)", "cmdTestYR70"}) {
-            program->ShowTabOf(button);
             program->Click(button);
         }
         unit->Do("overcurrent 133");
@@ -49,7 +46,7 @@ class ExplainedLog : public Journey {
         ASSERT_TRUE(Polls());
     }
 
-    /// The log as somebody saves it who has copied it, explained by a simulator of its own.
+    /// The log, copied into a file and explained by another simulator.
     std::vector<std::string> Explain(const std::string& log) {
         const std::string path = folder.Path("log");
         std::ofstream(path) << log;

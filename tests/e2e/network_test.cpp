@@ -138,7 +138,6 @@ TEST_F(Network, StatusDriveAndAlarmWorkAsOnACable) {
     EXPECT_TRUE(Polls());
     RequestStatus();
     EXPECT_GT(unit->Count("command.module-status"), 79) << "every place for a module is asked";
-    program->ShowTabOf("AnalogSpeed");
     program->Type("txtTestBlock", "250");
     program->Key("AnalogSpeed", "End");
     EXPECT_TRUE(Until([&] { return unit->Count("command.analog-speed") == 1; }));

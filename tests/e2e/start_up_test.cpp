@@ -39,12 +39,6 @@ TEST_F(StartUp, ListsTheNumbersThatHaveADevice) {
     EXPECT_EQ(program->AskOne({"itemtooltip", "cboPort", "0"}), device);
 }
 
-TEST_F(StartUp, ListsNoNumberAboveSixteen) {
-    unit.emplace(folder);
-    program.emplace(folder, std::string(15, ':') + unit->Device() + ":" + unit->Device());
-    EXPECT_EQ(program->ItemsOf("cboPort"), "16");
-}
-
 TEST_F(StartUp, DoesNotListAPortThatAnotherProgramUses) {
     StartAndOpen();
     Program second(folder, unit->Device(), "second");
@@ -69,21 +63,6 @@ TEST_F(StartUp, SaysThatAChosenPortCannotBeOpened) {
     program->Click("cmdReset");
     EXPECT_EQ(program->AwaitBox(), SelectPortBox());
 }
-
-class WithoutPort : public Journey, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(WithoutPort, AsksForAPort) {
-    program.emplace(folder, folder.Path("missing"));
-    EXPECT_EQ(program->ItemsOf("cboPort"), "");
-    program->Click(GetParam());
-    EXPECT_EQ(program->AwaitBox(), SelectPortBox());
-    program->Answer("OK");
-    EXPECT_EQ(program->Box(), BoxText());
-    EXPECT_EQ(program->BoxesShown().size(), 1U);
-}
-
-INSTANTIATE_TEST_SUITE_P(Button, WithoutPort, ::testing::Values("cmdStatus", "cmdReset"),
-                         [](const auto& button) { return std::string(button.param); });
 
 TEST_F(StartUp, AMessageBoxBlocksTheMainWindow) {
     program.emplace(folder, "");

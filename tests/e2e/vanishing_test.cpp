@@ -79,19 +79,6 @@ TEST_F(Vanishing, WhileIdleShowsNoBox) {
     ExpectBoxes(0);
 }
 
-TEST_F(Vanishing, WhileIdleAfterAFailedPollShowsNoFurtherBox) {
-    StartAndPoll();
-    unit->Do("bad-checksum 1");
-    ASSERT_EQ(program->AwaitBox(), NoResponseBox());
-    program->Answer("OK");
-    EXPECT_EQ(program->TextOf("lblBarStatus"), "System Status = Stop");
-    unit->Do("hang-up");
-    ExpectLost();
-    ExpectBoxes(1);
-    unit->Do("reconnect");
-    ExpectReturn();
-}
-
 TEST_F(Vanishing, WhileABoxIsOpenShowsNoFurtherBox) {
     StartAndPoll();
     unit->Do("bad-checksum 1");
@@ -121,27 +108,6 @@ TEST_F(Vanishing, InTheMiddleOfAStatusRequestShowsOneBox) {
     unit->Do("reconnect");
     ExpectReturn();
     ExpectBoxes(1);
-}
-
-TEST_F(Vanishing, ACommandAfterwardsAsksForAPort) {
-    StartAndOpen();
-    unit->Do("hang-up");
-    EXPECT_TRUE(program->Shows("lblBarDevice", kLost));
-    program->Click("cmdStatus");
-    EXPECT_EQ(program->AwaitBox(), SelectPortBox());
-    program->Answer("OK");
-    ExpectBoxes(1);
-}
-
-TEST_F(Vanishing, TheDeviceIsListedOnlyWhileItIsThere) {
-    StartAndOpen();
-    unit->Do("hang-up");
-    EXPECT_TRUE(program->Shows("lblBarDevice", kLost));
-    program->Click("cmdRefresh");
-    EXPECT_EQ(program->ItemsOf("cboPort"), "");
-    unit->Do("reconnect");
-    program->Click("cmdRefresh");
-    EXPECT_EQ(program->ItemsOf("cboPort"), "1");
 }
 
 TEST_F(Vanishing, OverAndOverLeavesTheProgramWorking) {

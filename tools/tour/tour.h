@@ -33,7 +33,7 @@ inline constexpr char kBox[] = "box";
 inline constexpr char kClub[] = "club";
 inline constexpr char kStarter[] = "starter";
 
-// What the console is told about simulated time.
+// Console commands that set how fast simulated time passes.
 inline constexpr char kFast[] = "time-factor 20";
 inline constexpr char kFrozen[] = "time-factor 0";
 
