@@ -14,7 +14,7 @@
 #include <sys/resource.h>
 
 #include "app/program.h"
-#include "support/simulator.h"
+#include "harness/simulator.h"
 
 namespace {
 
@@ -48,10 +48,10 @@ int Fail(const char* error) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const zelvar::bench::Simulator simulator(
-        ZELVARSIM_PROGRAM, {"--no-pacing", "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"});
-    setenv("ZELVARCONFIG_PORTS", simulator.Path().c_str(), 1);
     QApplication application(argc, argv);
+    const zelvar::e2e::TempFolder folder;
+    const zelvar::e2e::Simulator simulator(folder);
+    setenv("ZELVARCONFIG_PORTS", simulator.Device().c_str(), 1);
     zelvar::Program program;
     zelvar::MainWindow& window = program.Window();
     window.show();

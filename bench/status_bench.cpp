@@ -16,10 +16,10 @@
 
 #include "app/main_window.h"
 #include "controls/press_button.h"
+#include "harness/simulator.h"
 #include "platform/port_table.h"
 #include "platform/qt_serial_port.h"
 #include "platform/qt_timer.h"
-#include "support/simulator.h"
 
 namespace {
 
@@ -64,11 +64,11 @@ class NoBox : public zelvar::MessageBox {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const zelvar::bench::Simulator simulator(
-        ZELVARSIM_PROGRAM,
-        {"--unit-delay", kUnitDelayMilliseconds, "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"});
     QApplication application(argc, argv);
-    CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Path()));
+    const zelvar::e2e::TempFolder folder;
+    const zelvar::e2e::Simulator simulator(folder, {"--unit-delay", kUnitDelayMilliseconds},
+                                           zelvar::e2e::Simulator::Line::kPaced);
+    CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Device()));
     zelvar::HandlerGate gate;
     zelvar::QtTimer timer(gate, zelvar::kPollInterval);
     const zelvar::SteadyClock clock;

@@ -20,8 +20,8 @@
 
 #include "link/link.h"
 #include "platform/qt_serial_port.h"
+#include "support/answering_line.h"
 #include "support/outcome.h"
-#include "support/pty.h"
 
 namespace {
 
@@ -97,22 +97,20 @@ double Median(std::vector<double> times) {
 /// medians are compared. The rest before each exchange, in microseconds, is the argument: none, as
 /// in a long sequence; enough for the other end to fall asleep; and that of the poll timer.
 void BM_TransactAgainstBareLoop(benchmark::State& state) {
-    const zelvar::bench::AnsweringPty pty;
+    const zelvar::bench::AnsweringLine line;
     // Before the program, which lets only root open the line beside it.
-    const int bare = open(pty.Path().c_str(), O_RDWR | O_NOCTTY);
+    const int bare = open(line.Device().c_str(), O_RDWR | O_NOCTTY);
     if (bare < 0) {
         zelvar::bench::Fail(state, "cannot open the bare line");
         return;
     }
-    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, pty.Path()));
-    port.SetPortNumber(1);
-    port.SetSettings("19200,o,8,1");
+    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, line.Device()));
     NoTimer timer;
     NoBox box;
     NoView view;
     const zelvar::SteadyClock clock;
     zelvar::Link link(port, timer, clock, box, view);
-    if (!port.Open()) {
+    if (!port.Open(1, 19200)) {
         close(bare);
         zelvar::bench::Fail(state, "cannot open the line");
         return;

@@ -8,70 +8,19 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <ctime>
-#include <fcntl.h>
 #include <functional>
 #include <string>
 #include <termios.h>
 #include <thread>
-#include <unistd.h>
 
+#include "harness/pseudo_terminal.h"
 #include "support/doubles.h"
 
 namespace zelvar::testing {
 namespace {
 
-/// The other end of a line.
-class PseudoTerminal {
-  public:
-    PseudoTerminal() : master_(posix_openpt(O_RDWR | O_NOCTTY)) {
-        EXPECT_EQ(grantpt(master_), 0);
-        EXPECT_EQ(unlockpt(master_), 0);
-        device_ = ptsname(master_);
-        // Raw from the start, so that nothing is echoed or translated.
-        termios settings{};
-        EXPECT_EQ(tcgetattr(master_, &settings), 0);
-        cfmakeraw(&settings);
-        EXPECT_EQ(tcsetattr(master_, TCSANOW, &settings), 0);
-    }
-    ~PseudoTerminal() { HangUp(); }
-    PseudoTerminal(const PseudoTerminal&) = delete;
-    PseudoTerminal& operator=(const PseudoTerminal&) = delete;
-
-    const std::string& Device() const { return device_; }
-    void Send(const Bytes& bytes) const {
-        EXPECT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-    }
-    Bytes Receive(std::size_t count) const {
-        Bytes bytes(count);
-        std::size_t got = 0;
-        while (got < count) {
-            const ssize_t more = read(master_, bytes.data() + got, count - got);
-            if (more <= 0) {
-                break;
-            }
-            got += static_cast<std::size_t>(more);
-        }
-        bytes.resize(got);
-        return bytes;
-    }
-    termios Settings() const {
-        termios settings{};
-        EXPECT_EQ(tcgetattr(master_, &settings), 0);
-        return settings;
-    }
-    void HangUp() {
-        if (master_ >= 0) {
-            close(master_);
-            master_ = -1;
-        }
-    }
-
-  private:
-    int master_;
-    std::string device_;
-};
+using e2e::PseudoTerminal;
 
 /// In milliseconds: far below the reply limit, far above what a busy machine takes.
 constexpr int kSoon = 1000;

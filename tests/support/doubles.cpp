@@ -160,7 +160,7 @@ BoxAnswer FakeMessageBox::Ask(const std::string& text, BoxIcon icon, BoxButtons 
     const BoxAnswer negative = isYesNo ? BoxAnswer::No : BoxAnswer::Cancel;
     const BoxAnswer positive = isYesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
     if (answers.empty()) {
-        ADD_FAILURE() << "no answer prepared to: " << text;
+        ADD_FAILURE() << "no answer was prepared to: " << text;
         return negative;
     }
     const BoxAnswer answer = answers.front();

@@ -68,7 +68,7 @@ struct SentFrame {
     bool operator==(const SentFrame& other) const { return wire == other.wire; }
 };
 
-/// A serial line whose other end answers as told. Waiting moves the clock instead of sleeping.
+/// A serial line whose other end answers as scripted. Waiting moves the clock instead of sleeping.
 class ScriptedPort : public SerialPort {
   public:
     /// Gives what comes back for a frame; nothing for silence.
@@ -130,8 +130,8 @@ struct ShownBox {
 
 void PrintTo(const ShownBox& box, std::ostream* out);
 
-/// Records what was asked and answers as told. A question without a prepared answer, or with one
-/// that is not on offer, fails the test.
+/// Records what was asked and gives the prepared answers. A question without a prepared answer, or
+/// with one that is not on offer, fails the test.
 class FakeMessageBox : public MessageBox {
   public:
     BoxAnswer Ask(const std::string& text, BoxIcon icon, BoxButtons buttons) override;

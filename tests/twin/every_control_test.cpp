@@ -127,7 +127,7 @@ class EveryControl : public TwinWindow {
         if (auto* slider = window->findChild<QSlider*>(QString::fromStdString(name))) {
             SlideTo(name.c_str(), slider->value() == 0 ? 5 : 0);
         } else {
-            Press(name);
+            Click(name);
         }
     }
 
@@ -144,7 +144,7 @@ TEST_F(EveryControl, ThatSendsIsUnderstoodAsMeant) {
     for (const SendingControl& row : SendingControls()) {
         SCOPED_TRACE(row.control);
         if (*row.module != '\0') {
-            Choose("cboVD", QString::fromUtf8(row.module));
+            Choose("cboVD", row.module);
         }
         if (std::string(row.control).find("rase") != std::string::npos) {
             messageBox.answers = {BoxAnswer::Ok};
@@ -192,7 +192,7 @@ TEST_F(EveryControl, ABoxOrOptionThatIsNotListedSendsNothing) {
     }
     int pressed = 0;
     for (const char* module : {" 0", " 8"}) {
-        Choose("cboVD", QString::fromUtf8(module));
+        Choose("cboVD", module);
         for (auto* button : All<QAbstractButton>()) {
             const std::string name = button->objectName().toStdString();
             const bool isBox = qobject_cast<QCheckBox*>(button) != nullptr ||
@@ -202,7 +202,7 @@ TEST_F(EveryControl, ABoxOrOptionThatIsNotListedSendsNothing) {
                 continue;
             }
             port.TakeCommands();
-            Press(name);
+            Click(name);
             testing::Settle();
             EXPECT_EQ(Sent(), "") << name;
             ++pressed;

@@ -94,7 +94,7 @@ class TractionForms : public TwinWindow {
   protected:
     TractionForms() { RequestStatus(); }
 
-    void ChooseModule(const Target& target) { Choose("cboVD", QString::fromUtf8(target.entry)); }
+    void ChooseModule(const Target& target) { Choose("cboVD", target.entry); }
 
     std::uint8_t& Kept(int line, bool permanent, int parameter) {
         auto& memory = port.state().memories.traction[static_cast<std::size_t>(line)];
@@ -124,11 +124,11 @@ class TractionForms : public TwinWindow {
         for (const FieldRow& field : setting.fields) {
             if ((field.kinds & target.kind) != 0) {
                 Spoil(target, permanent, field.parameter);
-                Enter(field.field, ValueOf(field, pass));
+                Type(field.field, ValueOf(field, pass));
                 Expect(meant, target, permanent, field.parameter, ValueOf(field, pass));
             }
         }
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 0)), meant);
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 0)), meant);
     }
 
     void GetNumbers(const NumberSetting& setting, const Target& target, bool permanent, int pass) {
@@ -137,10 +137,10 @@ class TractionForms : public TwinWindow {
                 const int kept = ValueOf(field, pass);
                 Kept(target.lines.front(), permanent, field.parameter) =
                     static_cast<std::uint8_t>(kept);
-                Enter(field.field, kept == field.first ? field.last : field.first);
+                Type(field.field, kept == field.first ? field.last : field.first);
             }
         }
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 1)), Changes{});
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 1)), Changes{});
         for (const FieldRow& field : setting.fields) {
             if ((field.kinds & target.kind) != 0) {
                 EXPECT_EQ(NumberIn(field.field), ValueOf(field, pass)) << field.field;
@@ -151,7 +151,7 @@ class TractionForms : public TwinWindow {
 
     /// Whether there is something to press for these modules.
     bool IsOffered(const char* button, int index) {
-        return Find<QWidget>(Member(button, index).c_str()).isVisibleTo(window.get());
+        return Find<QWidget>(Member(button, index)).isVisibleTo(window.get());
     }
 };
 
@@ -168,7 +168,7 @@ TEST_P(TractionNumberForm, IsSetAndGotInEveryModuleThatHasIt) {
         // A QLRX-s takes settings and gives none back.
         const bool tells = has && target.kind != kQlrx;
         if (has && *setting.option != '\0') {
-            Press(setting.option);
+            Click(setting.option);
         }
         for (const bool permanent : {false, true}) {
             Tick("chkVDperm", permanent);
@@ -193,7 +193,7 @@ TEST_P(TractionNumberForm, IsSetInEveryModuleOfAGroupAndInNoOther) {
         }
         ++tried;
         if (*setting.option != '\0') {
-            Press(setting.option);
+            Click(setting.option);
         }
         for (const bool permanent : {false, true}) {
             Tick("chkVDperm", permanent);
@@ -212,17 +212,17 @@ class TractionOptionForm : public TractionForms,
     void SetOption(const Target& target, bool permanent, int value) {
         const OptionSetting& setting = GetParam();
         Spoil(target, permanent, setting.parameter);
-        Press(Member(setting.options, value));
+        Click(Member(setting.options, value));
         Changes meant;
         Expect(meant, target, permanent, setting.parameter, value);
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 0)), meant);
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 0)), meant);
     }
     void GetOption(const Target& target, bool permanent, int value) {
         const OptionSetting& setting = GetParam();
         Kept(target.lines.front(), permanent, setting.parameter) = static_cast<std::uint8_t>(value);
-        Press(Member(setting.options,
+        Click(Member(setting.options,
                      value == setting.values[0] ? setting.values[1] : setting.values[0]));
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 1)), Changes{});
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 1)), Changes{});
         EXPECT_TRUE(IsTicked(Member(setting.options, value)));
         EXPECT_TRUE(IsGreen(Member(setting.options, value)));
     }
@@ -286,11 +286,11 @@ TEST_F(TractionForms, EraseAsksAndThenBringsBackWhatIsChosen) {
             }
             ChooseModule(*target);
             messageBox.answers = {BoxAnswer::Cancel, BoxAnswer::Ok};
-            EXPECT_EQ(EffectOfPress("cmdErase"), Changes{});
+            EXPECT_EQ(EffectOfClick("cmdErase"), Changes{});
             Changes meant;
             Expect(meant, *target, false, 1, sim::FactoryTractionSettings(0)[1]);
             Expect(meant, *target, true, 12, sim::FactoryTractionSettings(0)[12]);
-            EXPECT_EQ(EffectOfPress("cmdErase"), meant);
+            EXPECT_EQ(EffectOfClick("cmdErase"), meant);
             for (const auto& box : {question, cancelled, question}) {
                 expectedBoxes.push_back(box);
             }

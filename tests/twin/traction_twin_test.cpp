@@ -57,7 +57,7 @@ constexpr int kLines[] = {0, 3, 31, 5, 16, 30, 37, 62, 8, 15};
 class TractionTwin : public TwinLink {
   protected:
     /// Presses a setting's button for the module on a line.
-    void Press(const VDSetting& setting, std::size_t number, int button, int line, bool permanent,
+    void Click(const VDSetting& setting, std::size_t number, int button, int line, bool permanent,
                const VDInput& input) {
         const auto command = VDCommandOf(setting, number, button, permanent, input);
         ASSERT_TRUE(command);
@@ -67,7 +67,7 @@ class TractionTwin : public TwinLink {
     /// What the form reads when it asks for a parameter.
     std::optional<VDReply> ReadBack(const VDSetting& setting, std::size_t number, int line,
                                     bool permanent, const VDInput& input) {
-        Press(setting, number, kGetButton, line, permanent, input);
+        Click(setting, number, kGetButton, line, permanent, input);
         Do(kEmptyTransaction);
         EXPECT_TRUE(MatchesReply(ReplyKind::VDConfig, link.Reply()));
         return ReadVDConfigReply(link.Reply(), line, permanent);
@@ -88,7 +88,7 @@ class TractionTwin : public TwinLink {
                 memory.Part(permanent)[static_cast<std::size_t>(parameter)] =
                     static_cast<std::uint8_t>(127 - value);
                 const UnitImage before(port.state());
-                Press(setting, number, kSetButton, line, permanent, input);
+                Click(setting, number, kSetButton, line, permanent, input);
                 ASSERT_EQ(before.ChangesTo(port.state()),
                           (Changes{{ParameterName(line, permanent, parameter), value}}));
                 const bool showsClock = parameter == 15 && !permanent && line != 8 && line != 15;
