@@ -34,14 +34,15 @@ class CountingPort : public zelvar::QtSerialPort {
   public:
     using QtSerialPort::QtSerialPort;
 
-    std::uint8_t ReadByte() override {
-        ++bytes;
-        return QtSerialPort::ReadByte();
+    std::size_t Read(std::span<std::uint8_t> buffer) override {
+        const std::size_t count = QtSerialPort::Read(buffer);
+        bytes += static_cast<int>(count);
+        return count;
     }
-    void WriteByte(std::uint8_t byte) override {
-        ++bytes;
-        frames += byte < zelvar::kNotHeader ? 1 : 0;
-        QtSerialPort::WriteByte(byte);
+    void SendAndWait(std::span<const std::uint8_t> sent, double seconds) override {
+        bytes += static_cast<int>(sent.size());
+        frames += sent.empty() ? 0 : 1;
+        QtSerialPort::SendAndWait(sent, seconds);
     }
 
     int bytes = 0;

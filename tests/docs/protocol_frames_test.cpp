@@ -123,7 +123,8 @@ class ProgramSide : public LinkFixture {
         }
         port.replies = {worked.reply};
         view.log.clear();
-        EXPECT_EQ(link.Transact(command), !worked.reply.empty());
+        const std::optional<Reply> reply = link.Transact(command);
+        EXPECT_EQ(reply.has_value(), !worked.reply.empty());
         EXPECT_EQ(HexText(port.sent.back().wire), HexText(worked.sent));
         const bool logged = command.count > 0 || worked.reply.size() > 2;
         if (logged && !worked.reply.empty()) {
@@ -131,15 +132,13 @@ class ProgramSide : public LinkFixture {
             EXPECT_EQ(view.log, ">>" + HexText(worked.sent) + unused + "  <<" +
                                     HexText(worked.reply) + "\r\n");
         }
-        CheckKind(worked);
+        CheckKind(worked, reply);
     }
 
   private:
-    void CheckKind(const WorkedFrame& worked) const {
+    static void CheckKind(const WorkedFrame& worked, const std::optional<Reply>& reply) {
         for (const auto& [name, kind] : kKinds) {
-            EXPECT_EQ(!worked.reply.empty() && MatchesReply(kind, link.Reply()),
-                      worked.kind == name)
-                << name;
+            EXPECT_EQ(reply && MatchesReply(kind, *reply), worked.kind == name) << name;
         }
         EXPECT_TRUE(worked.kind.empty() || kKinds.count(worked.kind) == 1) << worked.kind;
     }

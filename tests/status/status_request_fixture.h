@@ -4,39 +4,13 @@
 
 #include <functional>
 #include <optional>
-#include <string>
-#include <utility>
 #include <vector>
 
 #include "status/status_request.h"
+#include "support/recording_view.h"
 #include "support/status_responder.h"
 
 namespace zelvar::testing {
-
-/// Records what a status request shows on its way.
-class RecordingView : public StatusRequestView {
-  public:
-    /// @param now tells how many frames have been sent
-    explicit RecordingView(std::function<std::size_t()> now) : now_(std::move(now)) {}
-
-    void ShowStatus(const SystemStatus& status) override { shown.push_back(status); }
-    void ShowCentralUnit(const CentralUnit& /*unit*/) override { Note("unit"); }
-    void ListTractionModules(bool classic) override {
-        Note(classic ? "classic traction" : "traction");
-    }
-    void ListPointMotorModules(bool classic) override {
-        Note(classic ? "classic points" : "points");
-    }
-
-    std::vector<SystemStatus> shown;
-    /// What was shown, with the number of frames sent before it.
-    std::vector<std::pair<std::string, std::size_t>> notes;
-
-  private:
-    void Note(const char* what) { notes.emplace_back(what, now_()); }
-
-    std::function<std::size_t()> now_;
-};
 
 /// A status request of a described layout.
 class StatusRequestFixture : public LinkFixture {

@@ -15,7 +15,8 @@ class StatusTwin : public TwinLink {
     SystemStatus Request(const DescribedLayout& layout, bool classic = false) {
         port.Connect(layout.ForTheUnit());
         registry = ModuleRegistry();
-        const auto status = StatusRequest(link, progress, clock, registry).Run(classic);
+        const auto status =
+            StatusRequest(link, progress, clock, registry, requestView).Run(classic);
         EXPECT_TRUE(status);
         return status.value_or(SystemStatus());
     }
@@ -100,7 +101,7 @@ TEST_F(StatusTwin, EveryVersionArrivesAsItIs) {
         layout.protocolVersion = version;
         port.Connect(layout);
         Do(ProtocolVersionRequest());
-        ASSERT_EQ(DecodeVersion(link.Reply()[3], link.Reply()[4]), version);
+        ASSERT_EQ(ReadProtocolVersion(*reply), version);
     }
 }
 
@@ -119,7 +120,7 @@ TEST_F(StatusTwin, TheStateOfTheSystemIsThatOfTheUnit) {
         port.Connect(AnyLayout(2).ForTheUnit());
         port.state().hold = (state & 1) != 0;
         port.state().fault = (state & 2) != 0;
-        const auto status = StatusRequest(link, progress, clock, registry).Run(false);
+        const auto status = StatusRequest(link, progress, clock, registry, requestView).Run(false);
         ASSERT_TRUE(status);
         EXPECT_EQ(Text(SystemStateName(status->systemState)), kNames[state]);
     }
@@ -129,7 +130,7 @@ TEST_F(StatusTwin, AReplyThatComesWithAPollStillCounts) {
     const DescribedLayout layout = AnyLayout(3);
     port.Connect(layout.ForTheUnit());
     port.unit().DeferContent(1);
-    const auto status = StatusRequest(link, progress, clock, registry).Run(false);
+    const auto status = StatusRequest(link, progress, clock, registry, requestView).Run(false);
     ASSERT_TRUE(status);
     EXPECT_EQ(FormatVersion(status->protocolVersion), layout.protocolVersion);
 }
