@@ -162,6 +162,10 @@ void MainWindow::ConnectReplies() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
+    if (platform_.gate.IsBusy()) {
+        // The program ends inside a handler, which is to send and show nothing more.
+        platform_.port.Close();
+    }
     Form_Unload();
 }
 
@@ -257,7 +261,8 @@ void MainWindow::cmdStatus_MouseDown(int button, int shift) {
     }
     const std::optional<SystemStatus> status =
         StatusRequest(link_, *statusBar_, platform_.clock, registry_, *this).Run(classic);
-    if (!status) {
+    // The program may have ended meanwhile; nothing must come into view again.
+    if (!status || !isVisible()) {
         return;
     }
     if (status->classic) {
