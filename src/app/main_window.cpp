@@ -127,12 +127,9 @@ void MainWindow::ConnectControls() {
     connect(portBar_->lblCom, &ServiceLabel::DblClick, this,
             gate.Handler([this] { lblCom_DblClick(); }));
     for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
-        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::toggled, this,
-                gate.Handler([this, index](bool chosen) {
-                    if (chosen) {
-                        optBaud_Click(index);
-                    }
-                }));
+        // Choosing the chosen rate again counts, too, so it is the click that matters.
+        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::clicked, this,
+                gate.Handler([this, index](bool) { optBaud_Click(index); }));
     }
 }
 
