@@ -127,12 +127,9 @@ void MainWindow::ConnectControls() {
     connect(portBar_->lblCom, &ServiceLabel::DblClick, this,
             gate.Handler([this] { lblCom_DblClick(); }));
     for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
-        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::toggled, this,
-                gate.Handler([this, index](bool chosen) {
-                    if (chosen) {
-                        optBaud_Click(index);
-                    }
-                }));
+        // Choosing the chosen rate again counts, too, so it is the click that matters.
+        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::clicked, this,
+                gate.Handler([this, index](bool) { optBaud_Click(index); }));
     }
 }
 
@@ -162,6 +159,10 @@ void MainWindow::ConnectReplies() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
+    if (platform_.gate.IsBusy()) {
+        // The program ends inside a handler, which is to send and show nothing more.
+        platform_.port.Close();
+    }
     Form_Unload();
 }
 
@@ -257,7 +258,8 @@ void MainWindow::cmdStatus_MouseDown(int button, int shift) {
     }
     const std::optional<SystemStatus> status =
         StatusRequest(link_, *statusBar_, platform_.clock, registry_, *this).Run(classic);
-    if (!status) {
+    // The program may have ended meanwhile; nothing must come into view again.
+    if (!status || !isVisible()) {
         return;
     }
     if (status->classic) {

@@ -184,6 +184,25 @@ TEST_F(BaudChange, WhileOpenWithoutPollingItReopensAndDoesNotPoll) {
     EXPECT_FALSE(timer.enabled);
 }
 
+TEST_F(BaudChange, ChoosingTheChosenRateAgainReopensToo) {
+    StartPolling();
+    Click("optBaud(0)");
+    EXPECT_EQ(port.history, (History{"close", "open 1 19200,o,8,1"}));
+    EXPECT_TRUE(timer.enabled);
+    Click("optBaud(1)");
+    port.history.clear();
+    Click("optBaud(1)");
+    EXPECT_EQ(port.history, (History{"close", "open 1 38400,o,8,1"}));
+}
+
+TEST_F(BaudChange, TheArrowKeysChooseOnceEach) {
+    OpenPort();
+    Find("optBaud(0)").setFocus();
+    QTest::keyClick(&Find("optBaud(0)"), Qt::Key_Right);
+    EXPECT_EQ(port.history, (History{"close", "open 1 38400,o,8,1"}));
+    EXPECT_TRUE(Find<QRadioButton>("optBaud(1)").isChecked());
+}
+
 TEST_F(BaudChange, WhenReopeningFailsThePortStaysClosedAndPollingOff) {
     StartPolling();
     port.openable = {};

@@ -48,12 +48,16 @@ WindowHands::WindowHands() = default;
 WindowHands::~WindowHands() = default;
 
 void WindowHands::ShowWindowOn(SerialPort& line) {
+    ShowWindowOn(line, messageBox);
+}
+
+void WindowHands::ShowWindowOn(SerialPort& line, MessageBox& boxes) {
     const auto path = [](int number) { return QStringLiteral("/dev/port%1").arg(number); };
     const auto description = [path](int number) {
         return path(number) + QStringLiteral(" (Adapter)");
     };
-    window = std::make_unique<MainWindow>(
-        Platform{line, timer, clock, messageBox, gate, path, description});
+    window =
+        std::make_unique<MainWindow>(Platform{line, timer, clock, boxes, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     window->BuildTabs();

@@ -57,6 +57,8 @@ class WindowHands : public ::testing::Test {
 
     /// Makes the window and shows it. @param line outlives the window
     void ShowWindowOn(SerialPort& line);
+    /// The same with other message boxes than `messageBox`. @param boxes outlives the window
+    void ShowWindowOn(SerialPort& line, MessageBox& boxes);
 
     template <typename Control = QWidget>
     Control& Find(const std::string& name) {
