@@ -16,6 +16,14 @@ if(ZELVAR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${ZELVAR_CCACHE}")
 endif()
 
+# What most files of a target include is read once a target, not once a file. A file still includes
+# what it uses: the preset `analyse` and a compiler without precompiled headers read nothing else.
+set(ZELVAR_STANDARD_HEADERS <algorithm> <array> <chrono> <cstdint> <functional> <map> <memory> <optional>
+                            <span> <sstream> <string> <string_view> <utility> <vector>)
+set(ZELVAR_QT_HEADERS <QAbstractItemView> <QApplication> <QCheckBox> <QComboBox> <QGridLayout> <QGroupBox>
+                      <QKeyEvent> <QLabel> <QLineEdit> <QMouseEvent> <QPushButton> <QRadioButton>
+                      <QStyleOption> <QTabWidget> <QTimer>)
+
 add_library(zelvar_options INTERFACE)
 if(MSVC)
     target_compile_options(zelvar_options INTERFACE /W4 $<$<BOOL:${ZELVAR_STRICT}>:/WX>
