@@ -68,8 +68,11 @@ std::string Shown(const toml::node& value) {
         // Control characters come as escapes, so that a message does not drive the terminal.
         out << toml::toml_formatter(value, toml::format_flags::allow_unicode_strings);
     }
-    const std::string text = out.str();
-    return text.size() <= kLongestShown ? text : text.substr(0, kLongestShown) + "...";
+    std::string text = out.str();
+    if (text.size() > kLongestShown) {
+        text.replace(kLongestShown, std::string::npos, "...");
+    }
+    return text;
 }
 
 }  // namespace
