@@ -188,8 +188,7 @@ void LineEditor::Accept(const std::string& line,
 
 void LineEditor::HideLine() {
     const LineInfoW* line = el_wline(editor_);
-    const auto before =
-        std::strlen(kPrompt) + static_cast<std::size_t>(line->cursor - line->buffer);
+    const auto before = std::strlen(kPrompt) + (line->cursor - line->buffer);
     const int rowsAbove = static_cast<int>(before) / TerminalColumns();
     std::string escape = "\r";
     if (rowsAbove > 0) {
@@ -239,7 +238,7 @@ unsigned char LineEditor::Complete() {
         return el_insertstr(editor_, rest.c_str()) == 0 ? CC_REFRESH : CC_REFRESH_BEEP;
     }
     HideLine();
-    WriteOut(kPrompt + line + "\n" + InColumns(words, static_cast<std::size_t>(TerminalColumns())));
+    WriteOut(kPrompt + line + "\n" + InColumns(words, TerminalColumns()));
     return CC_REDISPLAY;
 }
 

@@ -200,7 +200,7 @@ std::variant<DescribedLayout, std::string> ReadLayoutFile(const std::string& pat
     if (file.bad()) {
         return path + ": cannot be read";
     }
-    text.resize(static_cast<std::size_t>(file.gcount()));
+    text.resize(file.gcount());
     if (text.size() > kLargestFile) {
         return path + ": expected at most " + std::to_string(kLargestFile) + " bytes";
     }

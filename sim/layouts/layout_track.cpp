@@ -148,7 +148,7 @@ std::optional<std::size_t> TrackReader::SectionNamed(const std::string& name) co
     if (found == plan.sections.end()) {
         return std::nullopt;
     }
-    return static_cast<std::size_t>(found - plan.sections.begin());
+    return found - plan.sections.begin();
 }
 
 std::vector<std::size_t> TrackReader::Indexes(const DescribedEnd& end, std::string_view key) {

@@ -27,7 +27,7 @@ constexpr ArgumentList kMove = {Name("ANIMAL", &Animals), Optional(Number("CM", 
 constexpr ArgumentList kState = {kByte, Literal("state"), Literal("off")};
 constexpr ArgumentList kHex = {Bytes("HEX")};
 constexpr ArgumentList kMany = {Name("NUMBER", &Numbers)};
-constexpr ArgumentList kNobody = {Name("TRAIN", &NoNames)};
+constexpr ArgumentList kNoTrains = {Name("TRAIN", &NoNames)};
 constexpr ArgumentList kNone = {};
 
 struct FitCase {
@@ -112,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(
                    {},
                    "unknown animal horse: expected cat, cat fish or dog"},
         MisfitCase{"ManyNames", &kMany, "hundred", 0, {}, "unknown number hundred: none of the 9"},
-        MisfitCase{"NoNames", &kNobody, "red", 0, {}, "unknown train red: the layout has none"}),
+        MisfitCase{"NoNames", &kNoTrains, "red", 0, {}, "unknown train red: the layout has none"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(ArgumentListTest, HasAUsageAndRanges) {

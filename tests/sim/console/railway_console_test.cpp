@@ -53,7 +53,7 @@ TEST_F(RailwayConsole, PlacePutsATrainIntoTheMiddleAndStandsIt) {
     EXPECT_EQ(Part("train.red", "speed"), "0.0");
 }
 
-TEST_F(RailwayConsole, PlaceTakesNamesWithBlanks) {
+TEST_F(RailwayConsole, PlaceTakesNamesWithSpaces) {
     TrackPlan plan = LoopPlan();
     plan.sections[kSiding].name = "west 2";
     Build({AnalogTrain("red", kNorth), AnalogTrain("red express", kEast)}, plan);

@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kUnit =
     "[unit]\ntype = \"KB-E\"\nversion = \"1.02\"\nprotocol = \"3.11 B\"\n";
 
-/// The layout of a text that is right behind a unit; the test fails otherwise.
+/// The layout of a text that follows a unit; the test fails if there is a problem.
 Layout Read(const std::string& text) {
     const auto parsed = ParseLayout(std::string(kUnit) + text);
     if (const auto* problems = std::get_if<LayoutProblems>(&parsed)) {
