@@ -109,9 +109,8 @@ LineEditor::LineEditor(Completer completer, std::string historyFile)
 LineEditor::~LineEditor() {
     if (editing_) {
         HideLine();
-        Suspend();
     }
-    el_end(editor_);
+    el_end(editor_);  // restores the terminal, too
     history_end(history_);
 }
 

@@ -309,6 +309,8 @@ TEST_F(ProgramRuns, DifferWithAnotherSeed) {
 TEST_F(ProgramTest, TracePrintsTheFrames) {
     StartOnLink();
     EXPECT_EQ(Command("trace on"), "ok");
+    SendFrame({});
+    EXPECT_EQ(Receive(2), kEmptyReply) << "an empty poll, which is left out";
     SendFrame({1, 0});
     const auto withoutTime = [](const std::string& line) {
         constexpr std::size_t kTime = 12;
