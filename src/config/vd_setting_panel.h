@@ -30,8 +30,8 @@ class VDSettingPanel : public QFrame {
     int ButtonWidth() const;
     void SetButtonWidth(int width);
 
-    /// Shows the frame and its controls if they are for one of these kinds of modules.
-    void ShowVDSettingFrames(unsigned kinds, bool showAlways);
+    /// Shows the frame and its controls if they are for one of these types of modules.
+    void ShowVDSettingFrames(VDTypes types, bool showAlways);
     void ShowVDGetButtons(VDGetButtons buttons);
 
     VDInput Input() const;

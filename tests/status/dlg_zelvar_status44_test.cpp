@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "status/status_request.h"
+#include "support/recording_view.h"
 #include "support/status_responder.h"
 #include "support/window_fixture.h"
 
@@ -243,6 +244,7 @@ class FilledNewView : public LinkFixture {
     }
 
     ModuleRegistry registry;
+    RecordingView requestView;
     DlgZelvarStatus44 view;
 };
 
