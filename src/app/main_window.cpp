@@ -18,11 +18,6 @@ namespace zelvar {
 
 namespace {
 
-// In pixels at 96 dpi: every tab fits without scrolling, on small screens too. The width is what
-// the tabs need with DejaVu Sans, since they are built when the window is already in view.
-constexpr int kStartWidth = 969;
-constexpr int kStartHeight = 640;
-
 /// In milliseconds: the window is painted by then.
 constexpr int kDescribeDelay = 100;
 
@@ -36,12 +31,10 @@ MainWindow::MainWindow(const Platform& platform)
       services_{link_, platform.messageBox, *statusBar_, platform.clock, platform.gate},
       portBar_(new PortBar(this)),
       tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
-      vdTab_(tabs_, QStringLiteral("VDxx / QLRX-s"),
-             [this](QWidget* page) { return MakeVDTab(page); }),
-      jsTab_(tabs_, QStringLiteral("JS70"), [this](QWidget* page) { return MakeJSTab(page); }),
-      kbTab_(tabs_, QStringLiteral("KB-x"),
-             [this](QWidget* page) { return new KBTab(services_, page); }),
-      testTab_(tabs_, QStringLiteral("TEST"), [this](QWidget* page) { return MakeTestTab(page); }),
+      vdTab_(new VDTab(services_, registry_, tabs_)),
+      jsTab_(new JSTab(services_, tabs_)),
+      kbTab_(new KBTab(services_, tabs_)),
+      testTab_(new TestTab(services_, tabs_)),
       dlgMsgLog_(LazyWindow<LogWindow>::OnClose::Unload,
                  [] { return new LogWindow(MessageLogKind()); }),
       dlgAlarmLog_(LazyWindow<LogWindow>::OnClose::Unload,
@@ -69,40 +62,6 @@ MainWindow::~MainWindow() {
     Form_Unload();
 }
 
-VDTab* MainWindow::MakeVDTab(QWidget* page) {
-    auto* tab = new VDTab(services_, registry_, page);
-    tab->Fill({});
-    return tab;
-}
-
-JSTab* MainWindow::MakeJSTab(QWidget* page) {
-    auto* tab = new JSTab(services_, page);
-    tab->Fill({});
-    return tab;
-}
-
-TestTab* MainWindow::MakeTestTab(QWidget* page) {
-    auto* tab = new TestTab(services_, page);
-    connect(tab, &TestTab::FeedbackMonitorWanted, this,
-            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
-    return tab;
-}
-
-void MainWindow::BuildTabs() {
-    vdTab_.Get();
-    jsTab_.Get();
-    kbTab_.Get();
-    testTab_.Get();
-}
-
-void MainWindow::paintEvent(QPaintEvent* event) {
-    QMainWindow::paintEvent(event);
-    if (!isPainted_) {
-        isPainted_ = true;
-        QTimer::singleShot(0, this, &MainWindow::BuildTabs);
-    }
-}
-
 void MainWindow::BuildFrame() {
     auto* centre = new QWidget(this);
     auto* layout = new QVBoxLayout(centre);
@@ -110,12 +69,17 @@ void MainWindow::BuildFrame() {
     layout->addWidget(tabs_, 1);
     setCentralWidget(centre);
     setStatusBar(statusBar_);
-    resize(kStartWidth, kStartHeight);
+    tabs_->addTab(vdTab_, QStringLiteral("VDxx / QLRX-s"));
+    tabs_->addTab(jsTab_, QStringLiteral("JS70"));
+    tabs_->addTab(kbTab_, QStringLiteral("KB-x"));
+    tabs_->addTab(testTab_, QStringLiteral("TEST"));
+    resize(sizeHint());
 }
 
 void MainWindow::ConnectControls() {
     HandlerGate& gate = platform_.gate;
-    connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::BuildTabs);
+    connect(testTab_, &TestTab::FeedbackMonitorWanted, this,
+            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
     connect(portBar_->cboPort, &DropDownList::Chosen, this,
             gate.Handler([this] { cboPort_Click(); }));
     connect(portBar_->cmdRefresh, &QPushButton::clicked, this,
@@ -134,10 +98,10 @@ void MainWindow::ConnectControls() {
 }
 
 void MainWindow::ConnectReplies() {
-    link_.Handlers().SetHandler(
-        ReplyKind::VDConfig, [this](const Reply& reply) { vdTab_.Get().ShowVDConfigReply(reply); });
-    link_.Handlers().SetHandler(
-        ReplyKind::KBConfig, [this](const Reply& reply) { kbTab_.Get().ShowKBConfigReply(reply); });
+    link_.Handlers().SetHandler(ReplyKind::VDConfig,
+                                [this](const Reply& reply) { vdTab_->ShowVDConfigReply(reply); });
+    link_.Handlers().SetHandler(ReplyKind::KBConfig,
+                                [this](const Reply& reply) { kbTab_->ShowKBConfigReply(reply); });
     link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
         log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));
@@ -145,7 +109,7 @@ void MainWindow::ConnectReplies() {
         log.BringIntoView(false);
     });
     link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
-        testTab_.Get().ShowBlockSpeed(ReadBlockSpeedReport(reply));
+        testTab_->ShowBlockSpeed(ReadBlockSpeedReport(reply));
     });
     // A report loads the monitor without showing it; a tick asks it only when it is loaded.
     link_.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& reply) {
@@ -168,6 +132,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::Form_Load() {
     ScanPorts();
+    vdTab_->Fill({});
+    jsTab_->Fill({});
 }
 
 void MainWindow::Form_Unload() {
@@ -278,15 +244,15 @@ void MainWindow::ShowStatus(const SystemStatus& status) {
 }
 
 void MainWindow::ShowCentralUnit(const CentralUnit& unit) {
-    kbTab_.Get().ShowUnit(unit);
+    kbTab_->ShowUnit(unit);
 }
 
 void MainWindow::ListTractionModules(bool classic) {
-    vdTab_.Get().Fill(TractionModuleList(registry_, classic));
+    vdTab_->Fill(TractionModuleList(registry_, classic));
 }
 
 void MainWindow::ListPointMotorModules(bool classic) {
-    jsTab_.Get().Fill(PointMotorModuleList(registry_, classic));
+    jsTab_->Fill(PointMotorModuleList(registry_, classic));
 }
 
 void MainWindow::PortLost() {
@@ -305,7 +271,7 @@ void MainWindow::ShowSystemState(SystemState state) {
         return;
     }
     shownState_ = state;
-    testTab_.Get().ShowSystemState(state);
+    testTab_->ShowSystemState(state);
     statusBar_->ShowSystemState(state);
 }
 

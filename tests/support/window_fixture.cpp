@@ -60,7 +60,6 @@ void WindowHands::ShowWindowOn(SerialPort& line, MessageBox& boxes) {
         std::make_unique<MainWindow>(Platform{line, timer, clock, boxes, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    window->BuildTabs();
 }
 
 void WindowHands::ShowTabOf(QWidget& control) {
