@@ -11,6 +11,7 @@
 #include "controls/naming.h"
 #include "controls/number_text.h"
 #include "logs/message_log.h"
+#include "platform/nested_loop.h"
 #include "protocol/reports.h"
 #include "protocol/status.h"
 
@@ -28,7 +29,7 @@ MainWindow::MainWindow(const Platform& platform)
       link_(platform.port, platform.pollTimer, platform.clock, platform.messageBox, *this),
       poller_(link_, platform.port, platform.pollTimer),
       statusBar_(new StatusBar(this)),
-      services_{link_, platform.messageBox, *statusBar_, platform.clock, platform.gate},
+      services_{link_, platform.messageBox, *statusBar_, platform.clock},
       portBar_(new PortBar(this)),
       tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
       vdTab_(new VDTab(services_, registry_, tabs_)),
@@ -44,11 +45,10 @@ MainWindow::MainWindow(const Platform& platform)
       dlgZelvarStatus44_(LazyWindow<DlgZelvarStatus44>::OnClose::Keep,
                          [] { return new DlgZelvarStatus44; }),
       dlgZelvarFeedback_(LazyWindow<DlgZelvarFeedback>::OnClose::Unload,
-                         [this] { return new DlgZelvarFeedback(platform_.gate); }) {
+                         [] { return new DlgZelvarFeedback; }) {
     setObjectName(QStringLiteral("frmZelvarConfig"));
     setWindowTitle(QStringLiteral("ZelvarConfig 1.40B"));
     BuildFrame();
-    platform_.gate.SetBeginHandler([this] { link_.BeginHandler(); });
     platform_.port.SetLostHandler([this] { PortLost(); });
     ConnectControls();
     ConnectReplies();
@@ -58,7 +58,6 @@ MainWindow::MainWindow(const Platform& platform)
 MainWindow::~MainWindow() {
     platform_.pollTimer.SetEnabled(false);
     platform_.port.SetLostHandler({});
-    platform_.gate.SetBeginHandler({});
     Form_Unload();
 }
 
@@ -77,23 +76,17 @@ void MainWindow::BuildFrame() {
 }
 
 void MainWindow::ConnectControls() {
-    HandlerGate& gate = platform_.gate;
     connect(testTab_, &TestTab::FeedbackMonitorWanted, this,
             [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
-    connect(portBar_->cboPort, &DropDownList::Chosen, this,
-            gate.Handler([this] { cboPort_Click(); }));
-    connect(portBar_->cmdRefresh, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdRefresh_Click(); }));
-    connect(portBar_->cmdReset, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdReset_Click(); }));
-    connect(portBar_->cmdStatus, &PressButton::MouseDown, this,
-            gate.Handler([this](int button, int shift) { cmdStatus_MouseDown(button, shift); }));
-    connect(portBar_->lblCom, &ServiceLabel::DblClick, this,
-            gate.Handler([this] { lblCom_DblClick(); }));
+    connect(portBar_->cboPort, &DropDownList::Chosen, this, &MainWindow::cboPort_Click);
+    connect(portBar_->cmdRefresh, &QPushButton::clicked, this, &MainWindow::cmdRefresh_Click);
+    connect(portBar_->cmdReset, &QPushButton::clicked, this, &MainWindow::cmdReset_Click);
+    connect(portBar_->cmdStatus, &PressButton::MouseDown, this, &MainWindow::cmdStatus_MouseDown);
+    connect(portBar_->lblCom, &ServiceLabel::DblClick, this, &MainWindow::lblCom_DblClick);
     for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
         // Choosing the chosen rate again counts, too, so it is the click that matters.
         connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::clicked, this,
-                gate.Handler([this, index](bool) { optBaud_Click(index); }));
+                [this, index] { optBaud_Click(index); });
     }
 }
 
@@ -123,7 +116,7 @@ void MainWindow::ConnectReplies() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
-    if (platform_.gate.IsBusy()) {
+    if (NestedLoop::IsTurning()) {
         // The program ends inside a handler, which is to send and show nothing more.
         platform_.port.Close();
     }

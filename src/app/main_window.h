@@ -16,7 +16,6 @@
 #include "link/services.h"
 #include "logs/log_window.h"
 #include "platform/clock.h"
-#include "platform/handler_gate.h"
 #include "platform/message_box.h"
 #include "platform/serial_port.h"
 #include "platform/timer.h"
@@ -35,7 +34,6 @@ struct Platform {
     Timer& pollTimer;
     const Clock& clock;
     MessageBox& messageBox;
-    HandlerGate& gate;
     /// The device path behind a port number.
     PortBar::DescribePort devicePath;
     /// The path and, when the computer knows one, the adapter's description. May take a while.

@@ -144,11 +144,10 @@ void JSTab::ConnectControls() {
         {cmdHideJSConfig_, &JSTab::cmdHideJSConfig_Click},
     };
     for (const Click& click : clicks) {
-        connect(
-            click.button, &QPushButton::clicked, this,
-            services_.gate.Handler([this, handler = click.handler](bool) { (this->*handler)(); }));
+        connect(click.button, &QPushButton::clicked, this,
+                [this, handler = click.handler] { (this->*handler)(); });
     }
-    connect(cboJS_, &DropDownList::Chosen, this, services_.gate.Handler([this] { cboJS_Click(); }));
+    connect(cboJS_, &DropDownList::Chosen, this, &JSTab::cboJS_Click);
 }
 
 void JSTab::Fill(const SelectionList& list) {

@@ -203,7 +203,6 @@ TEST_F(StatusRequestTest, ADeviceThatVanishesDuringTheWaitEndsIt) {
         }
         return layout(frame);
     };
-    link.BeginHandler();
     EXPECT_FALSE(Run());
     EXPECT_EQ(port.sent.size(), 4U);
     EXPECT_EQ(messageBox.shown.size(), 1U);
@@ -216,7 +215,6 @@ TEST_F(StatusRequestTest, ADeviceThatVanishesAmongTheModulesIsToldOnceAndNothing
         }
         return layout(frame);
     };
-    link.BeginHandler();
     Run();
     EXPECT_EQ(port.sent.size(), 10U);
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
