@@ -214,9 +214,9 @@ void VDSettingPanel::PlaceBankRows(bool twoRows) {
     }
 }
 
-void VDSettingPanel::ShowVDSettingFrames(VDTypes types, bool showAlways) {
+void VDSettingPanel::ShowFor(VDTypes types, bool always) {
     const bool shown = setting_.shownFor.Intersects(types);
-    frame_->setVisible(shown || showAlways);
+    frame_->setVisible(shown || always);
     bool twoRows = false;
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         const bool fieldShown = setting_.numbers.fields[i].shownFor.Intersects(types);

@@ -31,7 +31,8 @@ class VDSettingPanel : public QFrame {
     void SetButtonWidth(int width);
 
     /// Shows the frame and its controls if they are for one of these types of modules.
-    void ShowVDSettingFrames(VDTypes types, bool showAlways);
+    /// @param always shows the frame in any case, but not what is in it
+    void ShowFor(VDTypes types, bool always);
     void ShowVDGetButtons(VDGetButtons buttons);
 
     VDInput Input() const;

@@ -243,6 +243,7 @@ class FilledNewView : public LinkFixture {
         return FindBelow<QLineEdit>(view, name.c_str()).text().toStdString();
     }
 
+    RecordingView requestView;
     ModuleRegistry registry;
     RecordingView requestView;
     DlgZelvarStatus44 view;

@@ -43,6 +43,7 @@ class ClassicView : public LinkFixture {
         view.Show(*status);
     }
 
+    RecordingView requestView;
     ModuleRegistry registry;
     RecordingView requestView;
     DlgZelvarStatus view;

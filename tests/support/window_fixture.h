@@ -18,7 +18,7 @@
 #include <string>
 
 #include "app/main_window.h"
-#include "platform/handler_gate.h"
+#include "platform/nested_loop.h"
 #include "support/doubles.h"
 
 namespace zelvar::testing {
@@ -95,7 +95,6 @@ class WindowHands : public ::testing::Test {
     FakeClock clock;
     FakeTimer timer;
     FakeMessageBox messageBox;
-    HandlerGate gate;
     std::unique_ptr<MainWindow> window;
 };
 
