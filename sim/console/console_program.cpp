@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "sim/console/console.h"
+#include "sim/console/state_listing.h"
 #include "sim/console/state_table.h"
 
 namespace zelvar::sim {
@@ -26,7 +27,7 @@ std::string Rate(int baud) {
 }
 
 ConsoleResult State(ConsoleContext& context, ConsoleArguments) {
-    std::vector<TableSection> sections = context.unit.Sections(context.now);
+    std::vector<TableSection> sections = StateSections(context.unit.state());
     sections.push_back({"Line",
                         {},
                         {{"rate", Rate(context.lineBaud)},
@@ -35,7 +36,7 @@ ConsoleResult State(ConsoleContext& context, ConsoleArguments) {
 }
 
 ConsoleResult Dump(ConsoleContext& context, ConsoleArguments) {
-    return {context.unit.Describe(context.now) + "silent=" + (context.faults.silent() ? "1" : "0") +
+    return {StateListing(context.unit.state()) + "silent=" + (context.faults.silent() ? "1" : "0") +
                 "\nline-baud=" + std::to_string(context.lineBaud) + "\nok",
             ConsoleAction::kNone};
 }

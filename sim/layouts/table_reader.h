@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "sim/layouts/toml_tree.h"
+#include "sim/text/word.h"
 
 namespace zelvar::sim {
 
@@ -19,12 +20,6 @@ struct LayoutProblem {
 };
 
 using LayoutProblems = std::vector<LayoutProblem>;
-
-/// A word of the description and what it stands for.
-struct Word {
-    std::string_view text;
-    int value;
-};
 
 /// The least and the greatest value that is right.
 struct Limits {
