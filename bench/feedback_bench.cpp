@@ -13,6 +13,7 @@
 #include <array>
 #include <chrono>
 
+#include "support/outcome.h"
 #include "test/feedback/dlg_zelvar_feedback.h"
 
 namespace {
@@ -60,7 +61,7 @@ double Microseconds(Clock::duration time, const benchmark::State& state) {
            static_cast<double>(state.iterations());
 }
 
-/// Both take turns, so that the machine's moods hit both. Painting the whole monitor is counted
+/// Both take turns, so that a busy machine slows both. Painting the whole monitor is counted
 /// apart; a frame has 16,000 microseconds for layout and painting together.
 void BM_RelayoutOf128Labels(benchmark::State& state) {
     zelvar::HandlerGate gate;
@@ -93,7 +94,7 @@ void BM_RelayoutOf128Labels(benchmark::State& state) {
         bareTime += middle - start;
     }
     if (last->text() != QString::number(base + zelvar::kFeedbackLabels - 1)) {
-        state.SkipWithError("the labels show other inputs");
+        zelvar::bench::Fail(state, "the labels show other inputs");
         return;
     }
     state.counters["bare_us"] = Microseconds(bareTime, state);
@@ -108,7 +109,5 @@ BENCHMARK(BM_RelayoutOf128Labels)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return zelvar::bench::RunBenchmarks(argc, argv);
 }

@@ -8,20 +8,19 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
+#include <QProcess>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
-#include <string>
 #include <string_view>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 #include "app/program.h"
 #include "platform/quit_on_signal.h"
-#include "support/simulator.h"
 
 namespace {
 
@@ -80,10 +79,13 @@ int RunProgram(int argc, char** argv, bool withTabs) {
     return QApplication::exec();
 }
 
-double Measure(const std::string& self, const char* mode) {
+double Measure(const char* mode) {
     const auto start = std::chrono::steady_clock::now();
-    const pid_t process = zelvar::bench::Start(self, {mode}, -1);
-    waitpid(process, nullptr, 0);
+    if (QProcess::execute(QCoreApplication::applicationFilePath(), {QString::fromLatin1(mode)}) !=
+        EXIT_SUCCESS) {
+        std::fprintf(stderr, "startup_bench: no window could be shown\n");
+        std::exit(EXIT_FAILURE);
+    }
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
     return took.count();
 }
@@ -103,15 +105,16 @@ int main(int argc, char** argv) {
     if (mode == "program" || mode == "tabs") {
         return RunProgram(argc, argv, mode == "tabs");
     }
+    const QCoreApplication application(argc, argv);
     std::vector<double> empty;
     std::vector<double> word;
     std::vector<double> program;
     std::vector<double> tabs;
     for (int run = 0; run < kRuns; ++run) {
-        empty.push_back(Measure(argv[0], "empty"));
-        word.push_back(Measure(argv[0], "word"));
-        program.push_back(Measure(argv[0], "program"));
-        tabs.push_back(Measure(argv[0], "tabs"));
+        empty.push_back(Measure("empty"));
+        word.push_back(Measure("word"));
+        program.push_back(Measure("program"));
+        tabs.push_back(Measure("tabs"));
     }
     const double emptyMedian = Median(empty);
     const double programMedian = Median(program);

@@ -10,15 +10,16 @@
 
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <string>
 #include <utility>
 
 #include "app/main_window.h"
 #include "controls/press_button.h"
+#include "harness/simulator.h"
 #include "platform/port_table.h"
-#include "platform/qt_message_box.h"
 #include "platform/qt_serial_port.h"
 #include "platform/qt_timer.h"
-#include "support/simulator.h"
 
 namespace {
 
@@ -33,32 +34,46 @@ class CountingPort : public zelvar::QtSerialPort {
   public:
     using QtSerialPort::QtSerialPort;
 
-    std::uint8_t ReadByte() override {
-        ++bytes;
-        return QtSerialPort::ReadByte();
+    std::size_t Read(std::span<std::uint8_t> buffer) override {
+        const std::size_t count = QtSerialPort::Read(buffer);
+        bytes += static_cast<int>(count);
+        return count;
     }
-    void WriteByte(std::uint8_t byte) override {
-        ++bytes;
-        frames += byte < zelvar::kNotHeader ? 1 : 0;
-        QtSerialPort::WriteByte(byte);
+    void SendAndWait(std::span<const std::uint8_t> sent, double seconds) override {
+        bytes += static_cast<int>(sent.size());
+        frames += sent.empty() ? 0 : 1;
+        QtSerialPort::SendAndWait(sent, seconds);
     }
 
     int bytes = 0;
     int frames = 0;
 };
 
+/// A question means that the request failed.
+class NoBox : public zelvar::MessageBox {
+  public:
+    zelvar::BoxAnswer Ask(const std::string& text, zelvar::BoxIcon /*icon*/,
+                          zelvar::BoxButtons /*buttons*/) override {
+        std::fprintf(stderr, "status_bench: the program asks: %s\n", text.c_str());
+        failed = true;
+        return zelvar::BoxAnswer::Ok;
+    }
+
+    bool failed = false;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    const zelvar::bench::Simulator simulator(
-        ZELVARSIM_PROGRAM,
-        {"--unit-delay", kUnitDelayMilliseconds, "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"});
     QApplication application(argc, argv);
-    CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Path()));
+    const zelvar::e2e::TempFolder folder;
+    const zelvar::e2e::Simulator simulator(folder, {"--unit-delay", kUnitDelayMilliseconds},
+                                           zelvar::e2e::Simulator::Line::kPaced);
+    CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Device()));
     zelvar::HandlerGate gate;
     zelvar::QtTimer timer(gate, zelvar::kPollInterval);
     const zelvar::SteadyClock clock;
-    zelvar::QtMessageBox box;
+    NoBox box;
     const auto describe = [](int number) { return QString::number(number); };
     zelvar::MainWindow window({port, timer, clock, box, gate, describe, describe});
     window.show();
@@ -71,6 +86,10 @@ int main(int argc, char** argv) {
         const auto start = std::chrono::steady_clock::now();
         status->click();
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+        if (box.failed || port.frames == 0) {
+            std::fprintf(stderr, "status_bench: the request failed\n");
+            return EXIT_FAILURE;
+        }
         const double wire = port.bytes * kBitsPerByte / kBaud;
         const double ideal = wire + port.frames * kUnitDelaySeconds;
         std::printf(

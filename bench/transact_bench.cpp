@@ -20,7 +20,8 @@
 
 #include "link/link.h"
 #include "platform/qt_serial_port.h"
-#include "support/pty.h"
+#include "support/answering_line.h"
+#include "support/outcome.h"
 
 namespace {
 
@@ -92,35 +93,39 @@ double Median(std::vector<double> times) {
     return times[times.size() / 2];
 }
 
-/// Both ways over the same pseudo-terminal, taking turns so that the machine's moods hit both; the
+/// Both ways over the same pseudo-terminal, taking turns so that a busy machine slows both; the
 /// medians are compared. The rest before each exchange, in microseconds, is the argument: none, as
 /// in a long sequence; enough for the other end to fall asleep; and that of the poll timer.
 void BM_TransactAgainstBareLoop(benchmark::State& state) {
-    const zelvar::bench::AnsweringPty pty;
-    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, pty.Path()));
-    port.SetPortNumber(1);
-    port.SetSettings("19200,o,8,1");
+    const zelvar::bench::AnsweringLine line;
+    // Before the program, which lets only root open the line beside it.
+    const int bare = open(line.Device().c_str(), O_RDWR | O_NOCTTY);
+    if (bare < 0) {
+        zelvar::bench::Fail(state, "cannot open the bare line");
+        return;
+    }
+    zelvar::QtSerialPort port(zelvar::PortTable(zelvar::PortNaming::Linux, line.Device()));
     NoTimer timer;
     NoBox box;
     NoView view;
     const zelvar::SteadyClock clock;
     zelvar::Link link(port, timer, clock, box, view);
-    if (!port.Open()) {
-        state.SkipWithError("cannot open the line");
+    if (!port.Open(1, 19200)) {
+        close(bare);
+        zelvar::bench::Fail(state, "cannot open the line");
         return;
     }
-    const int bare = open(pty.Path().c_str(), O_RDWR | O_NOCTTY);
     std::vector<double> bareTimes;
     std::vector<double> transactTimes;
     const std::chrono::microseconds rest(state.range(0));
-    bool ok = bare >= 0;
+    bool ok = true;
     while (state.KeepRunning()) {
         bareTimes.push_back(Timed(rest, [&] { ok = BareExchange(bare) && ok; }));
         transactTimes.push_back(Timed(rest, [&] { ok = link.Transact(kCommand) && ok; }));
     }
     close(bare);
     if (!ok) {
-        state.SkipWithError("an exchange failed");
+        zelvar::bench::Fail(state, "an exchange failed");
         return;
     }
     const double bareMedian = Median(bareTimes);
@@ -142,7 +147,5 @@ BENCHMARK(BM_TransactAgainstBareLoop)
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return zelvar::bench::RunBenchmarks(argc, argv);
 }

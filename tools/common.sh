@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 # SPDX-License-Identifier: MIT
 #
-# Shared by ./demo and ./check: installs what is missing on Debian and Ubuntu.
+# Shared by the scripts: installs what is missing on Debian and Ubuntu, and keeps the clone its
+# owner's. Sourced from the top folder of the clone.
 
 say() { printf '\n== %s\n' "$*"; }
 
@@ -9,6 +10,9 @@ die() {
     printf '%s\n' "$*" >&2
     exit 1
 }
+
+# The comment at the top of the script that runs is its help.
+print_help() { sed -n -e '1,/^#$/d' -e '/^#/!q' -e 's/^# \{0,1\}//p' "$1"; }
 
 # True when one of the packages of a choice "this|or-that" is installed.
 installed() {
@@ -31,44 +35,76 @@ available() {
 
 # need CHOICE...: installs what is missing, with sudo unless you are root. A choice is a package, or
 # several of which one does, since Debian and Ubuntu releases name some of them differently. One that
-# the system does not have at all is passed over with a word.
+# ends in "?" is left out where the system does not have it.
 need() {
     if ! command -v dpkg-query >/dev/null; then
-        say "This is no Debian or Ubuntu machine: please see to it that these are there: $*"
+        say "This is not a Debian or Ubuntu machine. Please make sure that it has: ${*%\?}"
         return 0
     fi
-    missing=()
+    local choice package missing=() packages=() unknown=() as_root=()
     for choice in "$@"; do
-        installed "$choice" || missing+=("$choice")
+        installed "${choice%\?}" || missing+=("$choice")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
-    say "Installing ${missing[*]}"
-    as_root=()
+
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || die "Please install sudo, or run this as root once."
-        as_root=(sudo)
+        command -v sudo >/dev/null && as_root=(sudo)
     fi
-    "${as_root[@]}" apt-get update -q
-    packages=()
+    if [ "$(id -u)" -eq 0 ] || [ ${#as_root[@]} -gt 0 ]; then
+        # A repository that cannot be reached is no error here: what is missing may come from another.
+        "${as_root[@]}" apt-get update -q || true
+    fi
     for choice in "${missing[@]}"; do
-        package=$(available "$choice")
+        package=$(available "${choice%\?}")
         if [ -n "$package" ]; then
             packages+=("$package")
-        else
-            echo "This system has no package $choice."
+        elif [ "${choice%\?}" = "$choice" ]; then
+            unknown+=("$choice")
         fi
     done
+    [ ${#unknown[@]} -eq 0 ] || die "apt does not know ${unknown[*]}.
+Is this computer online, and has it run \"apt-get update\" since it was set up?"
     [ ${#packages[@]} -eq 0 ] && return 0
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q \
-        --no-install-recommends "${packages[@]}"
+
+    local install=(apt-get install -y -q --no-install-recommends "${packages[@]}")
+    if [ "$(id -u)" -ne 0 ] && [ ${#as_root[@]} -eq 0 ]; then
+        die "Some packages are missing, and there is no sudo here. Please have an administrator run
+    ${install[*]}
+and start this again."
+    fi
+    say "Installing ${packages[*]}"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive "${install[@]}" ||
+        die "The packages could not be installed. Is this computer online?
+An administrator can install them with
+    ${install[*]}"
+}
+
+# keep_owner SCRIPT ARGUMENT...: root would leave files that the clone's owner cannot change, and git
+# refuses a clone that belongs to somebody else. So root hands over to the owner here.
+keep_owner() {
+    local owner name home groups=--clear-groups
+    owner=$(stat -c %u .)
+    if [ "$(id -u)" -eq 0 ] && [ "$owner" -ne 0 ]; then
+        # A folder from outside of a container may belong to a user without a name here.
+        name=$(getent passwd "$owner" | cut -d: -f1)
+        home=$(getent passwd "$owner" | cut -d: -f6)
+        [ -z "$name" ] || groups=--init-groups
+        say "Continuing as ${name:-user $owner}, to whom this folder belongs"
+        exec setpriv --reuid "$owner" --regid "$(stat -c %g .)" "$groups" \
+            env -u XDG_RUNTIME_DIR HOME="${home:-/tmp}" "$@"
+    fi
+    [ -w . ] || die "$PWD is not yours to write. Please make a clone of your own."
+    local foreign
+    foreign=$(find build -maxdepth 2 ! -writable -print -quit 2>/dev/null || true)
+    [ -z "$foreign" ] || die "$foreign is not yours to write: another user has built here.
+Please remove the folder: sudo rm -rf $PWD/build"
 }
 
 # What building the programs takes.
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev 'qt6-serialport-dev|libqt6serialport6-dev'
-    libgl-dev libedit-dev libtomlplusplus-dev)
+    libedit-dev libtomlplusplus-dev libcli11-dev)
 # What a window takes to show: the X11 platform plugin comes with Qt, fonts do not.
-RUN_PACKAGES=('libqt6widgets6|libqt6widgets6t64' 'libqt6serialport6|libqt6serialport6t64'
-    fonts-dejavu-core)
+RUN_PACKAGES=(fonts-dejavu-core)
 
 # With a compiler cache, what one clone has built serves the next.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "sim/text/word.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
 

@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "sim/protocol/module_status.h"
-#include "sim/text/word.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
 

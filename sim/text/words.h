@@ -11,6 +11,15 @@
 
 namespace zelvar::sim {
 
+/// A word and what it stands for.
+struct Word {
+    std::string_view text;
+    int value;
+};
+
+/// The word for a number; the number itself if there is none.
+std::string WordFor(std::span<const Word> words, int value);
+
 /// The words of a line, without the white space between them.
 std::vector<std::string> SplitWords(std::string_view line);
 

@@ -52,6 +52,8 @@ class CentralUnit {
     void Reboot(Time now);
     /// Empties the next `replies` replies that have content; later polls bring it.
     void DeferContent(int replies) { deferred_ = replies; }
+    /// How many replies are still to come empty.
+    int deferredReplies() const { return deferred_; }
 
     UnitState& state() { return state_; }
 

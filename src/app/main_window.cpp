@@ -10,13 +10,13 @@
 
 #include "controls/naming.h"
 #include "controls/number_text.h"
+#include "logs/message_log.h"
 #include "protocol/reports.h"
+#include "protocol/status.h"
 
 namespace zelvar {
 
 namespace {
-
-constexpr const char* kSettings[] = {"19200,o,8,1", "38400,o,8,1"};
 
 // In pixels at 96 dpi: every tab fits without scrolling, on small screens too. The width is what
 // the tabs need with DejaVu Sans, since they are built when the window is already in view.
@@ -127,33 +127,28 @@ void MainWindow::ConnectControls() {
     connect(portBar_->lblCom, &ServiceLabel::DblClick, this,
             gate.Handler([this] { lblCom_DblClick(); }));
     for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
-        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::toggled, this,
-                gate.Handler([this, index](bool chosen) {
-                    if (chosen) {
-                        optBaud_Click(index);
-                    }
-                }));
+        // Choosing the chosen rate again counts, too, so it is the click that matters.
+        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::clicked, this,
+                gate.Handler([this, index](bool) { optBaud_Click(index); }));
     }
 }
 
 void MainWindow::ConnectReplies() {
-    link_.Handlers().SetHandler(ReplyKind::VDConfig, [this](const ReplyBuffer& reply) {
-        vdTab_.Get().ShowVDConfigReply(reply);
-    });
-    link_.Handlers().SetHandler(ReplyKind::KBConfig, [this](const ReplyBuffer& reply) {
-        kbTab_.Get().ShowKBConfigReply(reply);
-    });
-    link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
+    link_.Handlers().SetHandler(
+        ReplyKind::VDConfig, [this](const Reply& reply) { vdTab_.Get().ShowVDConfigReply(reply); });
+    link_.Handlers().SetHandler(
+        ReplyKind::KBConfig, [this](const Reply& reply) { kbTab_.Get().ShowKBConfigReply(reply); });
+    link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
         log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));
         // In view at once, but without taking the keyboard from whoever is driving.
         log.BringIntoView(false);
     });
-    link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const ReplyBuffer& reply) {
+    link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
         testTab_.Get().ShowBlockSpeed(ReadBlockSpeedReport(reply));
     });
     // A report loads the monitor without showing it; a tick asks it only when it is loaded.
-    link_.Handlers().SetHandler(ReplyKind::Feedback, [this](const ReplyBuffer& reply) {
+    link_.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& reply) {
         dlgZelvarFeedback_.Get().Show(ReadFeedbackReport(reply));
     });
     poller_.SetFeedbackQuery([this] {
@@ -164,11 +159,14 @@ void MainWindow::ConnectReplies() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
+    if (platform_.gate.IsBusy()) {
+        // The program ends inside a handler, which is to send and show nothing more.
+        platform_.port.Close();
+    }
     Form_Unload();
 }
 
 void MainWindow::Form_Load() {
-    platform_.port.SetSettings(kSettings[0]);
     ScanPorts();
 }
 
@@ -181,7 +179,7 @@ void MainWindow::Form_Unload() {
 }
 
 void MainWindow::ScanPorts() {
-    portBar_->ShowPorts(FindUsablePorts(platform_.port));
+    portBar_->ShowPorts(FindUsablePorts(platform_.port, baudRate_));
     portBar_->DescribePorts(platform_.devicePath);
     // Asking the computer for its adapters takes longer than showing the window.
     QTimer::singleShot(kDescribeDelay, this,
@@ -189,7 +187,7 @@ void MainWindow::ScanPorts() {
 }
 
 bool MainWindow::OpenPort() {
-    if (platform_.port.Open()) {
+    if (platform_.port.Open(portNumber_, baudRate_)) {
         ShowOpenDevice();
         return true;
     }
@@ -215,7 +213,6 @@ void MainWindow::cboPort_Click() {
     const int number = ValToInt(portBar_->cboPort->currentText().toStdString(), 0, kLastPortNumber);
     if (number > 0) {
         portNumber_ = number;
-        platform_.port.SetPortNumber(number);
         OpenPort();
     }
 }
@@ -239,7 +236,7 @@ void MainWindow::optBaud_Click(int index) {
     const bool wasPolling = platform_.pollTimer.IsEnabled();
     platform_.port.Close();
     platform_.pollTimer.SetEnabled(false);
-    platform_.port.SetSettings(kSettings[index == 0 ? 0 : 1]);
+    baudRate_ = kBaudRates[index == 0 ? 0 : 1];
     if (wasOpen && !OpenPort()) {
         ShowSystemState(SystemState::Disconnected);
         return;
@@ -260,23 +257,36 @@ void MainWindow::cmdStatus_MouseDown(int button, int shift) {
         return;
     }
     const std::optional<SystemStatus> status =
-        StatusRequest(link_, *statusBar_, platform_.clock, registry_).Run(classic);
-    if (status) {
-        ShowStatus(*status);
+        StatusRequest(link_, *statusBar_, platform_.clock, registry_, *this).Run(classic);
+    // The program may have ended meanwhile; nothing must come into view again.
+    if (!status || !isVisible()) {
+        return;
+    }
+    if (status->classic) {
+        dlgZelvarStatus_.Get().BringIntoView(true);
+    } else {
+        dlgZelvarStatus44_.Get().BringIntoView(true);
     }
 }
 
 void MainWindow::ShowStatus(const SystemStatus& status) {
-    kbTab_.Get().ShowUnit(status.unit);
-    vdTab_.Get().Fill(TractionModuleList(registry_, status.classic));
-    jsTab_.Get().Fill(PointMotorModuleList(registry_, status.classic));
     if (status.classic) {
         dlgZelvarStatus_.Get().Show(status);
-        dlgZelvarStatus_.Get().BringIntoView(true);
     } else {
         dlgZelvarStatus44_.Get().Show(status);
-        dlgZelvarStatus44_.Get().BringIntoView(true);
     }
+}
+
+void MainWindow::ShowCentralUnit(const CentralUnit& unit) {
+    kbTab_.Get().ShowUnit(unit);
+}
+
+void MainWindow::ListTractionModules(bool classic) {
+    vdTab_.Get().Fill(TractionModuleList(registry_, classic));
+}
+
+void MainWindow::ListPointMotorModules(bool classic) {
+    jsTab_.Get().Fill(PointMotorModuleList(registry_, classic));
 }
 
 void MainWindow::PortLost() {
@@ -299,8 +309,22 @@ void MainWindow::ShowSystemState(SystemState state) {
     statusBar_->ShowSystemState(state);
 }
 
+void MainWindow::FrameSent(const FrameBytes& frame) {
+    AppendMessageLog(LogFrameSent(frame));
+}
+
+void MainWindow::ReplyReceived(const FrameBytes& frame, const Reply& reply) {
+    AppendMessageLog(LogReplyReceived(frame, reply));
+}
+
+void MainWindow::NoReply() {
+    AppendMessageLog(LogNoReply());
+}
+
 void MainWindow::AppendMessageLog(const std::string& text) {
-    dlgMsgLog_.Get().Append(Text(text));
+    if (!text.empty()) {
+        dlgMsgLog_.Get().Append(Text(text));
+    }
 }
 
 }  // namespace zelvar

@@ -43,8 +43,11 @@ struct Platform {
     PortBar::DescribePort describePort;
 };
 
+/// By the index of `optBaud`.
+inline constexpr int kBaudRates[] = {19200, 38400};
+
 /// The main window `frmZelvarConfig`: it puts the rooms together and owns the serial connection.
-class MainWindow : public QMainWindow, private LinkView {
+class MainWindow : public QMainWindow, private LinkView, private StatusRequestView {
     Q_OBJECT
 
   public:
@@ -80,14 +83,21 @@ class MainWindow : public QMainWindow, private LinkView {
     void cmdStatus_MouseDown(int button, int shift);
     void optBaud_Click(int index);
     void lblCom_DblClick();
-    void ShowStatus(const SystemStatus& status);
     void PortLost();
     void ShowOpenDevice();
     bool OpenPort();
 
     bool IsStopTicked() const override;
     void ShowSystemState(SystemState state) override;
-    void AppendMessageLog(const std::string& text) override;
+    void FrameSent(const FrameBytes& frame) override;
+    void ReplyReceived(const FrameBytes& frame, const Reply& reply) override;
+    void NoReply() override;
+    void AppendMessageLog(const std::string& text);
+
+    void ShowStatus(const SystemStatus& status) override;
+    void ShowCentralUnit(const CentralUnit& unit) override;
+    void ListTractionModules(bool classic) override;
+    void ListPointMotorModules(bool classic) override;
 
     Platform platform_;
     Link link_;
@@ -95,6 +105,7 @@ class MainWindow : public QMainWindow, private LinkView {
     ModuleRegistry registry_;
     /// The number last chosen in `cboPort`.
     int portNumber_ = 0;
+    int baudRate_ = kBaudRates[0];
     SystemState shownState_ = SystemState::Disconnected;
 
     StatusBar* statusBar_;

@@ -153,6 +153,12 @@ void StatusBar::PumpCancel() {
 }
 
 bool StatusBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Quit) {
+        // The program cannot end before the wait does.
+        cancelled_ = true;
+        qApp->removeEventFilter(this);
+        return false;
+    }
     return IsUserInput(event->type()) && !IsForCancel(watched, event);
 }
 

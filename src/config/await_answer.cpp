@@ -2,21 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "config/await_answer.h"
 
+#include "protocol/status.h"
+
 namespace zelvar {
 
-Awaited AwaitAnswer(Link& link, const Clock& clock,
-                    const std::function<bool(const ReplyBuffer&)>& isAnswer) {
+Awaited AskModule(Link& link, const Clock& clock, const Command& command,
+                  const std::function<bool(const Reply&)>& isAnswer) {
+    std::optional<Reply> reply = link.Transact(command);
     const double start = clock.SecondsSinceMidnight();
-    while (!isAnswer(link.Reply())) {
+    while (reply && !isAnswer(*reply)) {
         const double now = clock.SecondsSinceMidnight();
         if (now >= start + kAnswerLimit || now < start) {
             return Awaited::Silence;
         }
-        if (!link.Transact(kEmptyTransaction)) {
-            return Awaited::Failure;
-        }
+        reply = link.Transact(kEmptyTransaction);
     }
-    return Awaited::Answer;
+    return reply ? Awaited::Answer : Awaited::Failure;
 }
 
 }  // namespace zelvar

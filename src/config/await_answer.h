@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "link/link.h"
 #include "platform/clock.h"
@@ -15,11 +16,12 @@ constexpr double kAnswerLimit = 2.0;
 
 enum class Awaited { Answer, Silence, Failure };
 
-/// Waits for a module's answer to the command just sent. It may have come as the reply itself or
-/// come with one of the next polls; on `Answer` it is `link.Reply()`.
-/// @return `Silence` when it did not come in time, `Failure` after a failed exchange. A clock that
-/// falls back at midnight ends the wait early.
-Awaited AwaitAnswer(Link& link, const Clock& clock,
-                    const std::function<bool(const ReplyBuffer&)>& isAnswer);
+/// Sends a command to a module and waits for its answer, which comes as the reply itself or with
+/// one of the next polls.
+/// @param isAnswer takes a reply and keeps what it needs of the answer
+/// @return `Silence` when the answer did not come in time, `Failure` after a failed exchange. A
+/// clock that falls back at midnight ends the wait early.
+Awaited AskModule(Link& link, const Clock& clock, const Command& command,
+                  const std::function<bool(const Reply&)>& isAnswer);
 
 }  // namespace zelvar

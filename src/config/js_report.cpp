@@ -4,23 +4,14 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 
 #include "config/await_answer.h"
-#include "protocol/addresses.h"
 
 namespace zelvar {
 
 namespace {
 
-constexpr int kReportCode = 34;
-
-// How many data values the answers have.
-constexpr int kDefaultTimeValues = 4;
-constexpr int kDeviceValues = 6;
-
-constexpr const char* kPowers[] = {"Normal", "Low", "High", "Unlimited"};
-constexpr const char* kInvalidPower = "Invalid setting";
+constexpr std::string_view kInvalidPower = "Invalid setting";
 constexpr const char* kFollowsModule = " Default";
 
 // Columns of the report, in characters.
@@ -28,13 +19,6 @@ constexpr std::size_t kDeviceWidth = 6;
 constexpr std::size_t kTimeWidth = 8;
 constexpr std::size_t kDefaultTimeWidth = 4;
 constexpr std::size_t kMillisecondsWidth = 6;
-
-Command Request(std::uint8_t count, int module, bool permanent, int device) {
-    return {count,
-            {0, static_cast<std::uint8_t>(kFamilyJs + JsAddressOf(module)),
-             static_cast<std::uint8_t>(kReportCode + (permanent ? kPermanentBit : 0)),
-             static_cast<std::uint8_t>(device)}};
-}
 
 std::string RightAligned(int number, std::size_t width) {
     const std::string digits = std::to_string(number);
@@ -53,8 +37,8 @@ std::string TimeText(int sixtieths, std::size_t width) {
 }
 
 std::string PowerText(int power) {
-    const auto code = static_cast<std::size_t>(power);
-    return code < std::size(kPowers) ? kPowers[code] : kInvalidPower;
+    const auto code = static_cast<unsigned>(power);
+    return std::string(code < kJsPowers.size() ? kJsPowers[code] : kInvalidPower);
 }
 
 std::string DeviceRow(int device, const JsDeviceSettings& settings, int defaultTime) {
@@ -70,22 +54,13 @@ std::string MemoryText(const char* heading, const JsMemory& memory) {
     std::string text = std::string("\n") + heading + "\n";
     text += "Default Timing =" + TimeText(memory.defaultTime, kDefaultTimeWidth) + "\n";
     text += "Device  Timing  Power\n";
-    for (int device = 0; device < kJsDevices; ++device) {
-        text +=
-            DeviceRow(device, memory.devices[static_cast<std::size_t>(device)], memory.defaultTime);
+    for (int device = 0; const JsDeviceSettings& settings : memory.devices) {
+        text += DeviceRow(device++, settings, memory.defaultTime);
     }
     return text;
 }
 
 }  // namespace
-
-Command JsDefaultTimeRequest(int module, bool permanent) {
-    return Request(3, module, permanent, 0);
-}
-
-Command JsDeviceRequest(int module, bool permanent, int device) {
-    return Request(4, module, permanent, device);
-}
 
 std::optional<JsConfiguration> JsReportRequest::Run(int module) {
     constexpr int kRequests = 2 * (1 + kJsDevices);
@@ -104,36 +79,39 @@ std::optional<JsConfiguration> JsReportRequest::Run(int module) {
 }
 
 bool JsReportRequest::AskMemory(int module, bool permanent, JsMemory& memory) {
-    const ReplyBuffer& reply = services_.link.Reply();
-    if (!Ask(module, JsDefaultTimeRequest(module, permanent), kDefaultTimeValues)) {
+    const Command timeRequest = JsDefaultTimeRequest(module, permanent);
+    const bool answered = Ask(module, timeRequest, [&](const Reply& reply) {
+        const std::optional<int> time = ReadJsDefaultTime(reply, timeRequest);
+        memory.defaultTime = time.value_or(0);
+        return time.has_value();
+    });
+    if (!answered) {
         return false;
     }
-    memory.defaultTime = reply[4];
-    for (int device = 0; device < kJsDevices; ++device) {
-        if (!Ask(module, JsDeviceRequest(module, permanent, device), kDeviceValues)) {
+    for (int device = 0; JsDeviceSettings & settings : memory.devices) {
+        const Command request = JsDeviceRequest(module, permanent, device++);
+        const bool deviceAnswered = Ask(module, request, [&](const Reply& reply) {
+            const std::optional<JsDeviceSettings> read = ReadJsDevice(reply, request);
+            settings = read.value_or(JsDeviceSettings());
+            return read.has_value();
+        });
+        if (!deviceAnswered) {
             return false;
         }
-        memory.devices[static_cast<std::size_t>(device)] = {reply[5], reply[6]};
     }
     return true;
 }
 
-bool JsReportRequest::Ask(int module, const Command& request, int answerValues) {
-    if (!services_.link.Transact(request)) {
-        return false;
-    }
-    // An answer repeats the whole request and adds what was asked for.
-    const Awaited awaited =
-        AwaitAnswer(services_.link, services_.clock, [&](const ReplyBuffer& reply) {
-            return (reply[0] & kHeaderCountMask) == answerValues &&
-                   std::equal(request.values.begin(), request.values.begin() + request.count,
-                              reply.begin() + 1);
-        });
+bool JsReportRequest::Ask(int module, const Command& request,
+                          const std::function<bool(const Reply&)>& take) {
+    const Awaited awaited = AskModule(services_.link, services_.clock, request, take);
     if (awaited == Awaited::Silence) {
         services_.messageBox.Tell("No answer from module " + std::to_string(module),
                                   BoxIcon::Plain);
     }
-    services_.progress.Step();
+    if (awaited != Awaited::Failure) {
+        services_.progress.Step();
+    }
     return awaited == Awaited::Answer;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -10,13 +11,6 @@
 #include "protocol/point_settings.h"
 
 namespace zelvar {
-
-struct JsDeviceSettings {
-    /// In sixtieths of a second, 0..127; 0 stands for the module's default.
-    int time = 0;
-    /// 0..3; other codes have no meaning.
-    int power = 0;
-};
 
 /// One of a module's two memories.
 struct JsMemory {
@@ -32,12 +26,6 @@ struct JsConfiguration {
     JsMemory active;
 };
 
-/// The request for a module's default time. @param module 0..15
-Command JsDefaultTimeRequest(int module, bool permanent);
-
-/// The request for one device's settings. @param device 0..63
-Command JsDeviceRequest(int module, bool permanent, int device);
-
 /// Asks a point-motor module for everything that it has stored, in both memories.
 class JsReportRequest {
   public:
@@ -45,12 +33,13 @@ class JsReportRequest {
 
     /// Checks the port and asks. @param module 0..15
     /// @return nothing after a failed exchange, or when the module does not answer, which the user
-    /// is told
+    /// reads
     std::optional<JsConfiguration> Run(int module);
 
   private:
     bool AskMemory(int module, bool permanent, JsMemory& memory);
-    bool Ask(int module, const Command& request, int answerValues);
+    /// @param take reads a reply; @return whether it is the answer
+    bool Ask(int module, const Command& request, const std::function<bool(const Reply&)>& take);
 
     Services services_;
 };

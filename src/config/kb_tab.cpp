@@ -212,7 +212,7 @@ void KBTab::ShowKBConfigView(const KBConfigView& view) {
     cmdTM_[1]->setVisible(view.full);
 }
 
-void KBTab::ShowKBConfigReply(const ReplyBuffer& reply) {
+void KBTab::ShowKBConfigReply(const Reply& reply) {
     const KBSwitches switches = ReadKBConfigReply(reply);
     SetGroundColour(frmConfig_, kColourGreen);
     for (std::size_t i = 0; i < switches.size(); ++i) {

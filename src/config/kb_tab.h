@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <array>
+#include <string_view>
 
 #include "config/module_commands.h"
 #include "link/services.h"
@@ -16,6 +17,11 @@
 #include "status/central_unit.h"
 
 namespace zelvar {
+
+/// What the user reads when the unit has stopped answering in transparent mode.
+inline constexpr std::string_view kTransparentText =
+    "Your KB-E/KB-G is put in Transparent Mode\r\n"
+    "Reboot your KB-E/KB-G to restart normal operation";
 
 /// The "KB-x" tab: the central unit.
 class KBTab : public QWidget {
@@ -28,7 +34,7 @@ class KBTab : public QWidget {
     void ShowUnit(const CentralUnit& unit);
 
     /// Shows the unit's configuration switches, in green.
-    void ShowKBConfigReply(const ReplyBuffer& reply);
+    void ShowKBConfigReply(const Reply& reply);
 
   private:
     using Boxes = std::array<QCheckBox*, kKBSwitches>;

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "config/master_slave_check.h"
 
-#include <cstddef>
 #include <string_view>
 
 #include "config/await_answer.h"
 #include "config/module_commands.h"
 #include "config/selection_list.h"
-#include "config/vd_settings.h"
+#include "protocol/status.h"
+#include "protocol/traction_settings.h"
 
 namespace zelvar {
 
@@ -36,20 +36,6 @@ std::string TextOf(const Texts& texts, const char* other, int value) {
     return other + std::to_string(value);
 }
 
-bool IsAnswer(const ReplyBuffer& reply, int module, int parameter) {
-    constexpr int kFiveValues = kHeaderMark + 5;
-    // The answer's code differs from the command's in its low three bits alone.
-    constexpr int kCodeMask = 0x78;
-    const int code = (module / kVDPrimaryLines) * 16 + 8;
-    return (reply[0] & kHeaderKindMask) == kFiveValues && reply[1] == 0 &&
-           reply[2] == kFamilyVD + module % kVDPrimaryLines && (reply[3] & kCodeMask) == code &&
-           reply[4] == parameter;
-}
-
-ModuleCommand ReadOf(int parameter) {
-    return {kTargetVD, 2, 8, static_cast<std::uint8_t>(parameter), 0};
-}
-
 }  // namespace
 
 MasterSlaveCheck::MasterSlaveCheck(const Services& services, const ModuleRegistry& registry)
@@ -71,15 +57,12 @@ void MasterSlaveCheck::Run() {
 }
 
 bool MasterSlaveCheck::AskParameter(int module, int parameter, std::optional<int>& value) {
-    if (!services_.link.Transact(CommandForVD(ReadOf(parameter), module))) {
-        return false;
-    }
+    const Command command = CommandForVD(VDGetCommand(false, parameter), module);
     const Awaited awaited =
-        AwaitAnswer(services_.link, services_.clock,
-                    [&](const ReplyBuffer& reply) { return IsAnswer(reply, module, parameter); });
-    if (awaited == Awaited::Answer) {
-        value = services_.link.Reply()[5];
-    }
+        AskModule(services_.link, services_.clock, command, [&](const Reply& reply) {
+            value = ReadVDAnswer(reply, module, parameter);
+            return value.has_value();
+        });
     return awaited != Awaited::Failure;
 }
 
@@ -156,7 +139,7 @@ std::optional<std::string> MasterSlaveCheck::AskClocks() {
 }
 
 std::string MasterSlaveCheck::LabelOf(int module) const {
-    const bool isVdF = registry_.vdType[static_cast<std::size_t>(module)] == kVdF;
+    const bool isVdF = registry_.vdTypes.at(static_cast<unsigned>(module)) == VDType::VdF;
     return (isVdF ? "VD-F " : "VD60  ") + std::to_string(module) + ".";
 }
 

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "config/module_commands.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <initializer_list>
 #include <numeric>
 #include <string>
 #include <utility>
 
 #include "config/selection_list.h"
+#include "protocol/status.h"
 
 namespace zelvar {
 
@@ -19,22 +18,21 @@ struct Group {
     int data;
     /// Lines from here on are not looked at.
     int lines;
-    std::initializer_list<std::int16_t> types;
+    VDTypes types;
 };
 
 /// VD-F and QLRX-s have no secondary units, so they are looked for among the primary lines alone.
-const Group kGroups[] = {
-    {kAllVD60, kVDLines, {kVd60}},
-    {kAllQlrx, kVDPrimaryLines, {kQlrxS}},
-    {kAllVDF, kVDPrimaryLines, {kVdF}},
-    {kAllVDxx, kVDLines, {kVdF, kVd60}},
+constexpr Group kGroups[] = {
+    {kAllVD60, kVDLines, {VDType::Vd60}},
+    {kAllQlrx, kVDPrimaryLines, {VDType::QlrxS}},
+    {kAllVDF, kVDPrimaryLines, {VDType::VdF}},
+    {kAllVDxx, kVDLines, {VDType::VdF, VDType::Vd60}},
 };
 
 std::vector<int> LinesOfTypes(const ModuleRegistry& registry, const Group& group) {
     std::vector<int> lines;
     for (int m = 0; m < group.lines; ++m) {
-        const std::int16_t type = registry.vdType[static_cast<std::size_t>(m)];
-        if (std::find(group.types.begin(), group.types.end(), type) != group.types.end()) {
+        if (group.types.Contains(registry.vdTypes.at(static_cast<unsigned>(m)))) {
             lines.push_back(m);
         }
     }
@@ -88,7 +86,7 @@ bool ModuleCommands::SendToTarget(const ModuleCommand& command) {
         case kTargetJs:
             return SendToModules(command, queries_.js, CommandForJs);
         case kTargetUnit:
-            return services_.link.Transact(CommandForUnit(command));
+            return services_.link.Transact(CommandForUnit(command)).has_value();
         default:
             return true;
     }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <initializer_list>
 
 namespace zelvar {
 
@@ -13,20 +12,20 @@ namespace {
 struct Group {
     const char* text;
     int data;
-    std::initializer_list<std::int16_t> types;
+    VDTypes types;
     /// The Classic View has no entry for this group.
     bool newViewOnly;
 };
 
 /// In the order of the list.
-const Group kGroups[] = {
-    {"All_VDxx", kAllVDxx, {kVdF, kVd60}, true},
-    {"All_VD60", kAllVD60, {kVd60}, true},
-    {"All_VD-F", kAllVDF, {kVdF}, false},
-    {"All_QLRX", kAllQlrx, {kQlrxS}, false},
+constexpr Group kGroups[] = {
+    {"All_VDxx", kAllVDxx, {VDType::VdF, VDType::Vd60}, true},
+    {"All_VD60", kAllVD60, {VDType::Vd60}, true},
+    {"All_VD-F", kAllVDF, {VDType::VdF}, false},
+    {"All_QLRX", kAllQlrx, {VDType::QlrxS}, false},
 };
 
-/// A number in decimal behind one blank, as the lists show it.
+/// A number in decimal behind one space, as the lists show it.
 std::string Str(int number) {
     return " " + std::to_string(number);
 }
@@ -41,26 +40,26 @@ void SelectFirstModule(SelectionList& list, std::size_t groups) {
 
 SelectionList TractionModuleList(const ModuleRegistry& registry, bool classic) {
     const int lines = classic ? kClassicVDLines : kVDPrimaryLines;
-    const auto& types = registry.vdType;
+    const auto& types = registry.vdTypes;
     SelectionList list;
     for (const Group& group : kGroups) {
-        const bool present = std::any_of(types.begin(), types.begin() + lines, [&](auto type) {
-            return std::find(group.types.begin(), group.types.end(), type) != group.types.end();
-        });
+        const bool present =
+            std::any_of(types.begin(), types.begin() + lines,
+                        [&group](VDType type) { return group.types.Contains(type); });
         if (present && !(classic && group.newViewOnly)) {
             list.entries.push_back({group.text, group.data});
         }
     }
     const std::size_t groups = list.entries.size();
     for (int m = 0; m < lines; ++m) {
-        const std::int16_t type = types[static_cast<std::size_t>(m)];
+        const VDType type = types.at(static_cast<unsigned>(m));
         const int secondary = m + kVDPrimaryLines;
-        if (type == kVd60) {
+        if (type == VDType::Vd60) {
             list.entries.push_back({Str(m) + ".0", m});
-            if (types[static_cast<std::size_t>(secondary)] == kVd60) {
+            if (types.at(static_cast<unsigned>(secondary)) == VDType::Vd60) {
                 list.entries.push_back({Str(m) + ".1", secondary});
             }
-        } else if (type >= kVdUnknown) {
+        } else if (type != VDType::Absent) {
             list.entries.push_back({Str(m), m});
         }
     }
@@ -72,7 +71,7 @@ SelectionList PointMotorModuleList(const ModuleRegistry& registry, bool classic)
     const int modules = classic ? kClassicJsModules : kJsModules;
     SelectionList list;
     for (int j = 0; j < modules; ++j) {
-        if (registry.jsPresent[static_cast<std::size_t>(j)] == kJsPresent) {
+        if (registry.jsPresent.at(static_cast<unsigned>(j))) {
             if (list.entries.empty()) {
                 list.entries.push_back({"All", kAllJs});
             }

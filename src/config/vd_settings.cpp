@@ -8,16 +8,9 @@ namespace zelvar {
 
 namespace {
 
-constexpr int kConfigCode = 8;
-constexpr int kReplyCode = 10;
-constexpr int kSecondaryCode = 16;
-
-/// What a button press sends without the value, which only Set carries.
-constexpr int kSetLength = 3;
-
-constexpr unsigned kForBothVD = kForVD60 | kForVDF;
+constexpr VDTypes kForBothVD{VDType::Vd60, VDType::VdF};
 /// A VD60 has one bank of switch delays.
-constexpr unsigned kForTwoBanks = kForVDF | kForQlrx;
+constexpr VDTypes kForTwoBanks{VDType::VdF, VDType::QlrxS};
 
 constexpr int kNoInitialOption = -1;
 
@@ -123,9 +116,8 @@ const std::vector<VDSetting> kSettings{
 };
 
 ModuleCommand ConfigCommand(int button, bool permanent, int parameter, int value) {
-    return {kTargetVD, static_cast<std::uint8_t>(kSetLength - button), kConfigCode,
-            static_cast<std::uint8_t>((permanent ? kPermanentBit : 0) + parameter),
-            static_cast<std::uint8_t>(value)};
+    return button == kSetButton ? VDSetCommand(permanent, parameter, value)
+                                : VDGetCommand(permanent, parameter, value);
 }
 
 /// What the chosen option adds to the parameters of the numbers.
@@ -156,13 +148,16 @@ std::optional<ModuleCommand> VDCommandOf(const VDSetting& setting, std::size_t n
     return ConfigCommand(button, permanent, parameter, input.numbers[number].value);
 }
 
-std::optional<VDReply> ReadVDConfigReply(const ReplyBuffer& reply, std::optional<int> module,
+std::optional<VDReply> ReadVDConfigReply(const Reply& reply, std::optional<int> module,
                                          bool permanent) {
-    if (!module || *module < 0 || reply[2] != kFamilyVD + *module % kVDPrimaryLines ||
-        reply[3] != (*module / kVDPrimaryLines) * kSecondaryCode + kReplyCode) {
+    if (!module || *module < 0) {
         return std::nullopt;
     }
-    return VDReply{reply[4] - (permanent ? kPermanentBit : 0), reply[5]};
+    std::optional<VDReply> read = ReadVDConfigReply(reply, *module);
+    if (read && permanent) {
+        read->parameter -= kPermanentBit;
+    }
+    return read;
 }
 
 std::optional<std::size_t> FieldShowing(const VDSetting& setting, int parameter, int option) {

@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-#include "config/module_commands.h"
 #include "config/vd_type_view.h"
+#include "protocol/traction_settings.h"
 
 namespace zelvar {
 
@@ -18,9 +18,6 @@ constexpr int kGetButton = 1;
 
 /// In place of an index: the control is not a member of an array.
 constexpr int kNoIndex = -1;
-
-constexpr int kMasterSlaveParameter = 11;
-constexpr int kClockStateParameter = 15;
 
 /// When a number that is out of its range is brought into it.
 enum class Clamped { OnClick, OnChange };
@@ -35,7 +32,7 @@ struct VDField {
     const char* label = nullptr;
     const char* caption = "";
     /// It is hidden for all other kinds of modules.
-    unsigned shownFor = kForAny;
+    VDTypes shownFor = kForAny;
 };
 
 struct VDNumbers {
@@ -77,7 +74,7 @@ struct VDSetting {
     const char* title = "";
     VDPlace place = {};
     /// The frame is hidden for all other kinds of modules.
-    unsigned shownFor = kForAny;
+    VDTypes shownFor = kForAny;
     const char* button = "";
     /// Set, Get
     std::array<const char*, 2> captions{};
@@ -117,19 +114,11 @@ std::size_t VDCommandCount(const VDSetting& setting);
 std::optional<ModuleCommand> VDCommandOf(const VDSetting& setting, std::size_t number, int button,
                                          bool permanent, const VDInput& input);
 
-/// Erases all settings; the permanent bit belongs to it.
-constexpr ModuleCommand kVDErase{kTargetVD, 2, 8, kPermanentBit, 0};
-
-/// A parameter that a traction module has reported.
-struct VDReply {
-    int parameter = 0;
-    int value = 0;
-};
-
 /// @param module the line 0..63 that is chosen; for a group or none there is no reply
 /// @param permanent which settings the form shows
-/// @return nothing unless the reply is from that module and of these settings
-std::optional<VDReply> ReadVDConfigReply(const ReplyBuffer& reply, std::optional<int> module,
+/// @return nothing unless the reply is from that module and of these settings; the parameter is
+/// 1..15 then
+std::optional<VDReply> ReadVDConfigReply(const Reply& reply, std::optional<int> module,
                                          bool permanent);
 
 /// The field that shows a parameter. @param option the value of the chosen option

@@ -116,8 +116,8 @@ void VDTab::UpdateVDTypeView() {
         return;
     }
     const int chosen = *selection.data;
-    const std::int16_t type =
-        chosen < 0 ? std::int16_t{kVdUnknown} : registry_.vdType[static_cast<std::size_t>(chosen)];
+    const VDType type =
+        chosen < 0 ? VDType::Unknown : registry_.vdTypes.at(static_cast<unsigned>(chosen));
     const VDTypeView view = VDTypeViewOf(chosen, type);
     for (VDSettingPanel* panel : panels_) {
         const bool isMS = panel->Setting().options.parameter == kMasterSlaveParameter;
@@ -162,7 +162,7 @@ void VDTab::cmdErase_Click() {
     }
 }
 
-void VDTab::ShowVDConfigReply(const ReplyBuffer& reply) {
+void VDTab::ShowVDConfigReply(const Reply& reply) {
     const std::optional<VDReply> read =
         ReadVDConfigReply(reply, SelectionOf(*cboVD_).data, chkVDperm_->isChecked());
     if (!read) {

@@ -32,7 +32,7 @@ class VDTab : public QWidget {
     void Fill(const SelectionList& list);
 
     /// Shows a traction module's configuration reply, if it is what the form is about.
-    void ShowVDConfigReply(const ReplyBuffer& reply);
+    void ShowVDConfigReply(const Reply& reply);
 
   private:
     QLayout* LayOutTarget();

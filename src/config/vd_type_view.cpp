@@ -2,48 +2,48 @@
 // SPDX-License-Identifier: MIT
 #include "config/vd_type_view.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "config/selection_list.h"
-#include "status/module_registry.h"
 
 namespace zelvar {
 
 namespace {
 
+/// The key is the item data of a group, or the type of a module.
+template <typename Key>
 struct Row {
-    /// Item data of a group, or a type code.
-    int key;
+    Key key;
     VDTypeView view;
 };
 
-constexpr Row kGroupRows[] = {
+constexpr Row<int> kGroupRows[] = {
     {kAllVD60, {kForVD60, VDGetButtons::None, "VD60"}},
     {kAllQlrx, {kForQlrx, VDGetButtons::None, "QLRX-s"}},
     {kAllVDF, {kForVDF, VDGetButtons::None, "VD-F"}},
     {kAllVDxx, {kForVD60, VDGetButtons::CheckOnly, "VDxx"}},
 };
 
-constexpr Row kTypeRows[] = {
-    {kVdF, {kForVDF, VDGetButtons::All, "VD-F"}},
+constexpr Row<VDType> kTypeRows[] = {
+    {VDType::VdF, {kForVDF, VDGetButtons::All, "VD-F"}},
     // A QLRX-s takes settings but does not give them back.
-    {kQlrxS, {kForQlrx, VDGetButtons::None, "QLRX-s"}},
-    {kVd60, {kForVD60, VDGetButtons::All, "VD60", true, true}},
+    {VDType::QlrxS, {kForQlrx, VDGetButtons::None, "QLRX-s"}},
+    {VDType::Vd60, {kForVD60, VDGetButtons::All, "VD60", true, true}},
 };
 
 constexpr VDTypeView kUnknownView{kForAny, VDGetButtons::None, "?", false};
 
-template <typename Rows>
-VDTypeView Find(const Rows& rows, int key) {
-    for (const Row& row : rows) {
-        if (row.key == key) {
-            return row.view;
-        }
-    }
-    return kUnknownView;
+template <typename Rows, typename Key>
+VDTypeView Find(const Rows& rows, Key key) {
+    const auto found = std::find_if(std::begin(rows), std::end(rows),
+                                    [key](const auto& row) { return row.key == key; });
+    return found == std::end(rows) ? kUnknownView : found->view;
 }
 
 }  // namespace
 
-VDTypeView VDTypeViewOf(int data, std::int16_t type) {
+VDTypeView VDTypeViewOf(int data, VDType type) {
     return data < 0 ? Find(kGroupRows, data) : Find(kTypeRows, type);
 }
 

@@ -2,23 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
+#include "protocol/vd_type.h"
 
 namespace zelvar {
 
-// The kinds of traction modules that a control is for; sums of them are sets.
-constexpr unsigned kForVD60 = 1;
-constexpr unsigned kForVDF = 2;
-constexpr unsigned kForQlrx = 4;
-constexpr unsigned kForAny = kForVD60 | kForVDF | kForQlrx;
+// The types of traction modules that a control is for.
+inline constexpr VDTypes kForVD60{VDType::Vd60};
+inline constexpr VDTypes kForVDF{VDType::VdF};
+inline constexpr VDTypes kForQlrx{VDType::QlrxS};
+inline constexpr VDTypes kForAny = kAllVDTypes;
 
 /// Which "Get" buttons are offered: none, all of them, or "Check MS mode" alone.
 enum class VDGetButtons { None, All, CheckOnly };
 
 /// What the tab of the traction modules shows for a target.
 struct VDTypeView {
-    /// The frames that are for any of these kinds are shown.
-    unsigned frames = 0;
+    /// The frames that are for any of these types are shown.
+    VDTypes frames;
     VDGetButtons getButtons = VDGetButtons::None;
     const char* caption = "";
     bool captionVisible = true;
@@ -27,7 +27,7 @@ struct VDTypeView {
 };
 
 /// @param data item data of the selected entry: a line 0..63 or a group
-/// @param type for a line its type code, else ignored
-VDTypeView VDTypeViewOf(int data, std::int16_t type);
+/// @param type for a line its type, else ignored
+VDTypeView VDTypeViewOf(int data, VDType type);
 
 }  // namespace zelvar

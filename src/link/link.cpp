@@ -3,22 +3,15 @@
 #include "link/link.h"
 
 #include <algorithm>
-#include <numeric>
+#include <array>
+#include <string>
 
 namespace zelvar {
 
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
-/// The text of a data byte is this wide, so unused places are filled up with as many blanks.
-constexpr std::string_view kUnusedPlace = "   ";
-/// The text of a reply with at least one data byte: header, value and checksum are longer.
-constexpr std::size_t kReplyTextWithData = 7;
-/// A reply's sum is taken over the header and the eight places behind it.
-constexpr std::size_t kSummedPlaces = 9;
-constexpr int kLargestByte = 255;
-/// The running sum is cut only when it exceeds this; at exactly 256 it stays.
-constexpr int kSumLimit = 256;
+/// Room for what a line brings between two looks at it; more is read in the next round.
+constexpr std::size_t kReadSize = 64;
 
 }  // namespace
 
@@ -37,146 +30,84 @@ bool Link::CheckPort() {
     return false;
 }
 
-bool Link::Transact(const Command& command, std::string_view errorText) {
+std::optional<Reply> Link::Transact(const Command& command, std::string_view errorText) {
     pollTimer_.SetEnabled(false);
     if (!port_.IsOpen()) {
-        return false;
+        return std::nullopt;
     }
     exchangedInThisHandler_ = true;
     Flush();
-    std::string line = ">>";
-    if (SendFrame(command, line) == Sent::Overflow) {
-        port_.Flush();
+    const EncodedFrame frame = EncodeFrame(command, view_.IsStopTicked(), frameToggle_);
+    if (!frame.isWhole) {
+        // The bytes before the value that does not fit go out. This is intentional.
+        port_.SendAndWait(frame.bytes.View(), 0);
         messageBox_.Tell(std::string(kOverflowText), BoxIcon::Critical);
-        return false;
+        return std::nullopt;
     }
-    if (command.count != 0) {
-        view_.AppendMessageLog(line);
-    }
+    view_.FrameSent(frame.bytes);
     frameToggle_ = !frameToggle_;
-    const std::string replyText = ReceiveReply();
-    if (replyText.empty()) {
+    const std::optional<Reply> reply = ReceiveReply(frame.bytes);
+    if (!reply) {
         messageBox_.Tell(std::string(errorText.empty() ? kNoResponseText : errorText),
                          BoxIcon::Exclamation);
-        view_.AppendMessageLog(std::string(kLineEnd));
-        return false;
+        view_.NoReply();
+        return std::nullopt;
     }
-    ReportReply(command, line, replyText);
+    view_.ReplyReceived(frame.bytes, *reply);
+    handlers_.Dispatch(*reply);
     if (port_.IsOpen()) {
         pollTimer_.SetEnabled(true);
     }
-    return true;
-}
-
-void Link::ReportReply(const Command& command, const std::string& line,
-                       const std::string& replyText) {
-    // Polls would flood the log: only one that brings data is logged.
-    const bool isPoll = command.count == 0;
-    if (!isPoll || replyText.size() >= kReplyTextWithData) {
-        view_.AppendMessageLog((isPoll ? line : std::string()) + "  <<" + replyText +
-                               std::string(kLineEnd));
-    }
-    // The handlers get a copy, so that they see one reply whatever happens meanwhile.
-    const ReplyBuffer reply = reply_;
-    handlers_.Dispatch(reply);
+    return reply;
 }
 
 void Link::Flush() {
-    while (port_.BytesWaiting() > 0) {
-        port_.ReadByte();
+    std::array<std::uint8_t, kReadSize> discarded;
+    while (port_.Read(discarded) > 0) {
     }
 }
 
-void Link::SendByte(std::uint8_t byte, std::string& line) {
-    port_.WriteByte(byte);
-    line += FormatHexByte(byte);
-}
-
-Link::Sent Link::SendFrame(const Command& command, std::string& line) {
-    // A count above 7 spills into bit 4 of the header, and seven data bytes are sent.
-    const int header = command.count + kHeaderMark + (view_.IsStopTicked() ? kHeaderStop : 0) +
-                       (frameToggle_ ? kHeaderToggle : 0);
-    if (header > kLargestByte) {
-        return Sent::Overflow;
-    }
-    SendByte(static_cast<std::uint8_t>(header), line);
-    int sum = header;
-    const std::size_t sent = std::min<std::size_t>(command.count, kMaxDataBytes);
-    for (std::size_t i = 0; i < sent; ++i) {
-        const int byte = command.values[i] + kNotHeader;
-        if (byte > kLargestByte) {
-            return Sent::Overflow;
-        }
-        sum += byte;
-        if (sum > kSumLimit) {
-            sum -= kSumLimit;
-        }
-        SendByte(static_cast<std::uint8_t>(byte), line);
-    }
-    int checksum = kSumLimit - sum;
-    if (checksum < kNotHeader) {
-        checksum += kNotHeader;
-    }
-    // The frame goes out when the wait for its reply begins.
-    SendByte(static_cast<std::uint8_t>(checksum), line);
-    for (std::size_t i = sent; i < kMaxDataBytes; ++i) {
-        line += kUnusedPlace;
-    }
-    return Sent::Whole;
-}
-
-bool Link::WaitForFrame(std::string& text) {
-    constexpr int kNoHeaderYet = 8;
-    constexpr int kComplete = -1;
-    std::fill(reply_.begin(), reply_.begin() + kSummedPlaces, std::uint8_t{0});
-    int remaining = kNoHeaderYet;
-    std::size_t position = 0;
+bool Link::WaitForFrame(const FrameBytes& sent, FrameReader& reader) {
     const double start = clock_.SecondsSinceMidnight();
     const double limit = start + kReplyLimit;
     // At midnight the clock falls behind the start, which ends the wait early.
-    for (double now = start; now <= limit && now >= start && remaining != kComplete;
+    const auto timeLeftAt = [limit](double now) { return std::min(limit, kSecondsPerDay) - now; };
+    port_.SendAndWait(sent.View(), timeLeftAt(start));
+    std::array<std::uint8_t, kReadSize> buffer;
+    for (double now = clock_.SecondsSinceMidnight(); now <= limit && now >= start;
          now = clock_.SecondsSinceMidnight()) {
-        if (port_.BytesWaiting() == 0) {
+        const std::size_t count = port_.Read(buffer);
+        for (std::size_t i = 0; i < count; ++i) {
+            if (reader.Push(buffer[i])) {
+                return true;
+            }
+        }
+        if (count == 0) {
             if (!port_.IsOpen()) {
                 return false;
             }
-            port_.WaitForByte(std::min(limit, kSecondsPerDay) - now);
-            continue;
-        }
-        const std::uint8_t byte = port_.ReadByte();
-        if (byte < kNotHeader) {
-            // A header begins the frame anew at any time.
-            std::fill(reply_.begin(), reply_.begin() + kSummedPlaces, std::uint8_t{0});
-            reply_[0] = byte;
-            text = FormatHexByte(byte);
-            remaining = byte & kHeaderCountMask;
-            position = 1;
-        } else if (remaining < kNoHeaderYet) {
-            reply_[position++] = byte & kPayloadMask;
-            text += FormatHexByte(byte);
-            --remaining;
+            port_.SendAndWait({}, timeLeftAt(now));
         }
     }
-    return remaining == kComplete;
+    return false;
 }
 
-std::string Link::ReceiveReply() {
-    std::string text;
-    if (!WaitForFrame(text)) {
-        return {};
+std::optional<Reply> Link::ReceiveReply(const FrameBytes& frame) {
+    FrameReader reader;
+    if (!WaitForFrame(frame, reader) || !IsSumRight(reader.Frame())) {
+        return std::nullopt;
     }
-    const int sum = std::accumulate(reply_.begin(), reply_.begin() + kSummedPlaces, 0);
-    if ((sum & kPayloadMask) != 0) {
-        return {};
-    }
+    const Reply reply(reader.Frame());
+    ShowStateOf(reply);
+    return reply;
+}
+
+void Link::ShowStateOf(const Reply& reply) {
     if (view_.IsStopTicked()) {
         view_.ShowSystemState(SystemState::Stop);
-    } else if ((reply_[0] & kHeaderFault) != 0) {
-        view_.ShowSystemState(SystemState::Fault);
     } else {
-        view_.ShowSystemState(SystemState::Run);
+        view_.ShowSystemState(reply.IsFault() ? SystemState::Fault : SystemState::Run);
     }
-    return text;
 }
 
 }  // namespace zelvar

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include <optional>
+#include <span>
 #include <string_view>
 
 #include "link/reply_dispatch.h"
@@ -12,7 +12,8 @@
 #include "platform/message_box.h"
 #include "platform/serial_port.h"
 #include "platform/timer.h"
-#include "protocol/frame.h"
+#include "protocol/command.h"
+#include "protocol/reply.h"
 
 namespace zelvar {
 
@@ -30,8 +31,13 @@ class LinkView {
     virtual ~LinkView() = default;
     virtual bool IsStopTicked() const = 0;
     virtual void ShowSystemState(SystemState state) = 0;
-    /// @param text ASCII; lines end with "\r\n", and a line may come in several pieces
-    virtual void AppendMessageLog(const std::string& text) = 0;
+
+    // Each exchange reports a `FrameSent`, then either `ReplyReceived` or `NoReply`.
+    virtual void FrameSent(const FrameBytes& frame) = 0;
+    /// @param frame the one that was sent
+    virtual void ReplyReceived(const FrameBytes& frame, const Reply& reply) = 0;
+    /// The user has closed the message box about it.
+    virtual void NoReply() = 0;
 };
 
 /// The line to the central unit. `Transact` is the one door to it: nothing else writes to the
@@ -43,22 +49,19 @@ class Link {
 
     /// Sends one command and waits for its reply, `kReplyLimit` seconds at most. A valid reply
     /// updates the status line, goes to the reply handlers and switches polling on; without one
-    /// the user is told once and polling stays off.
-    /// @param errorText what the user is told when no valid reply comes; empty stands for
+    /// the user is informed once and polling stays off.
+    /// @param errorText what the user reads when no valid reply comes; empty stands for
     /// `kNoResponseText`
-    /// @return whether a valid reply came. A value above 127 shows `kOverflowText` and gives
-    /// false; with the port closed nothing is sent, nothing is shown and the result is false.
-    bool Transact(const Command& command, std::string_view errorText = {});
-
-    /// The last valid reply; after a failed exchange what came of one.
-    const ReplyBuffer& Reply() const { return reply_; }
+    /// @return the valid reply, if one came. A value above 127 shows `kOverflowText` and gives
+    /// none; with the port closed nothing is sent, nothing is shown and there is none.
+    std::optional<Reply> Transact(const Command& command, std::string_view errorText = {});
 
     ReplyDispatch& Handlers() { return handlers_; }
 
     bool IsOpen() const { return port_.IsOpen(); }
 
     /// Every command handler begins with this. @return whether the port is open; when it is not,
-    /// the user is told `kSelectPortText`, unless the device vanished during this very handler,
+    /// the user is shown `kSelectPortText`, unless the device vanished during this very handler,
     /// which the user knows from the exchange that failed.
     bool CheckPort();
 
@@ -66,14 +69,10 @@ class Link {
     void BeginHandler() { exchangedInThisHandler_ = false; }
 
   private:
-    enum class Sent { Whole, Overflow };
-
     void Flush();
-    Sent SendFrame(const Command& command, std::string& line);
-    void SendByte(std::uint8_t byte, std::string& line);
-    std::string ReceiveReply();
-    bool WaitForFrame(std::string& text);
-    void ReportReply(const Command& command, const std::string& line, const std::string& replyText);
+    std::optional<Reply> ReceiveReply(const FrameBytes& frame);
+    bool WaitForFrame(const FrameBytes& sent, FrameReader& reader);
+    void ShowStateOf(const Reply& reply);
 
     SerialPort& port_;
     Timer& pollTimer_;
@@ -81,7 +80,6 @@ class Link {
     MessageBox& messageBox_;
     LinkView& view_;
     ReplyDispatch handlers_;
-    ReplyBuffer reply_{};
     /// Flips after every frame sent, for the whole run of the program.
     bool frameToggle_ = false;
     bool exchangedInThisHandler_ = false;

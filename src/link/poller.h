@@ -15,10 +15,6 @@ constexpr int kPollInterval = 20;
 /// What a feedback query gives when no input is wanted.
 constexpr int kNoFeedbackWanted = -1;
 
-/// @param index 0..4095
-/// @return the command that asks for the state of one feedback input
-Command FeedbackRequest(int index);
-
 /// Asks the central unit for news with every tick of the poll timer.
 class Poller {
   public:

@@ -59,14 +59,18 @@ BoxAnswer QtMessageBox::Ask(const std::string& text, BoxIcon icon, BoxButtons bu
         beforeShow_();
     }
     QWidget* active = QApplication::activeWindow();
-    QMessageBox box(active != nullptr ? active : parent_.data());
-    box.setWindowTitle(QString::fromLatin1(kApplicationTitle));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdString(text).remove(QLatin1Char('\r')));
-    box.setIcon(IconOf(icon));
-    box.setStandardButtons(ButtonsOf(buttons));
-    box.setWindowModality(Qt::ApplicationModal);
-    return AnswerOf(box.exec(), buttons);
+    // When the program ends while the box is open, the box goes with the window that it stands
+    // before.
+    const QPointer<QMessageBox> box = new QMessageBox(active != nullptr ? active : parent_.data());
+    box->setWindowTitle(QString::fromLatin1(kApplicationTitle));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(QString::fromStdString(text).remove(QLatin1Char('\r')));
+    box->setIcon(IconOf(icon));
+    box->setStandardButtons(ButtonsOf(buttons));
+    box->setWindowModality(Qt::ApplicationModal);
+    const int button = box->exec();
+    delete box.data();
+    return AnswerOf(button, buttons);
 }
 
 }  // namespace zelvar

@@ -3,16 +3,13 @@
 #include "platform/qt_serial_port.h"
 
 #include <QFileInfo>
-#include <QStringList>
+#include <QSocketNotifier>
 
-#include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
-#ifdef Q_OS_UNIX
-#include <poll.h>
-#include <unistd.h>
-#endif
+#include "platform/line_io.h"
 
 namespace zelvar {
 
@@ -20,98 +17,84 @@ namespace {
 
 constexpr double kMillisecondsPerSecond = 1000;
 
-QSerialPort::Parity ParityOf(const QString& letter) {
-    if (letter == QLatin1String("o")) {
-        return QSerialPort::OddParity;
-    }
-    return letter == QLatin1String("e") ? QSerialPort::EvenParity : QSerialPort::NoParity;
-}
-
-#ifdef Q_OS_UNIX
-/// Hands the bytes to the system and sleeps until some come back. Nothing stands between the two
-/// calls: a thread that is not yet asleep when the line's own thread wakes up waits about 20 us
-/// longer for its reply.
-/// @return whether the system took all bytes; if not, those it took are gone from `bytes`
-bool SendAndSleep(int line, QByteArray& bytes, int milliseconds) {
-    const ssize_t taken = bytes.isEmpty() ? 0 : write(line, bytes.constData(), bytes.size());
-    if (taken == bytes.size()) {
-        pollfd wait{line, POLLIN, 0};
-        poll(&wait, 1, milliseconds);
-    }
-    bytes.remove(0, std::max<ssize_t>(taken, 0));
-    return bytes.isEmpty();
-}
-#endif
-
 }  // namespace
 
 QtSerialPort::QtSerialPort(PortTable table) : table_(std::move(table)) {
-    QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
-                     [this](QSerialPort::SerialPortError error) { NoteError(error); });
+    port_.setParity(QSerialPort::OddParity);
+    port_.setDataBits(QSerialPort::Data8);
+    port_.setStopBits(QSerialPort::OneStop);
 }
 
-void QtSerialPort::SetSettings(const std::string& settings) {
-    constexpr int kParts = 4;
-    const QStringList parts = QString::fromStdString(settings).split(QLatin1Char(','));
-    if (parts.size() != kParts) {
-        return;
-    }
-    port_.setBaudRate(parts[0].toInt());
-    port_.setParity(ParityOf(parts[1]));
-    port_.setDataBits(static_cast<QSerialPort::DataBits>(parts[2].toInt()));
-    port_.setStopBits(static_cast<QSerialPort::StopBits>(parts[3].toInt()));
-}
-
-bool QtSerialPort::Open() {
+QtSerialPort::~QtSerialPort() {
     Close();
-    const QString device = QString::fromStdString(table_.DeviceOf(number_));
+}
+
+bool QtSerialPort::Open(int number, int baudRate) {
+    Close();
+    const QString device = QString::fromStdString(table_.DeviceOf(number));
     // Most numbers of the table have no device; a look spares the attempt to lock and open it.
     const bool isPath = device.startsWith(QLatin1Char('/'));
     if (device.isEmpty() || (isPath && !QFileInfo::exists(device))) {
         return false;
     }
     port_.setPortName(device);
-    const bool opened = port_.open(QIODevice::ReadWrite);
-    if (!opened || lost_) {
-        Close();
+    port_.setBaudRate(baudRate);
+    if (!port_.open(QIODevice::ReadWrite)) {
         return false;
     }
+    WatchWhileIdle();
     return true;
 }
 
 void QtSerialPort::Close() {
+    idleWatch_.reset();
     if (port_.isOpen()) {
         port_.close();
     }
     lost_ = false;
-    held_.clear();
 }
 
-void QtSerialPort::NoteError(QSerialPort::SerialPortError error) {
-    switch (error) {
-        case QSerialPort::NoError:
-        case QSerialPort::TimeoutError:
-        case QSerialPort::OpenError:
-        case QSerialPort::NotOpenError:
-        case QSerialPort::UnsupportedOperationError:
-        case QSerialPort::DeviceNotFoundError:
-            return;
-        default:
-            break;
+void QtSerialPort::WatchWhileIdle() {
+#ifdef Q_OS_UNIX
+    // The only reader shall be this class.
+    for (QSocketNotifier* notifier : port_.findChildren<QSocketNotifier*>()) {
+        notifier->setEnabled(false);
     }
-    // When the other end goes, either one error comes or a flood of them: the first one counts.
+    idleWatch_ = std::make_unique<QSocketNotifier>(port_.handle(), QSocketNotifier::Read);
+    QObject::connect(idleWatch_.get(), &QSocketNotifier::activated, &port_,
+                     [this] { LookWhileIdle(); });
+#else
+    QObject::connect(&port_, &QSerialPort::errorOccurred, &port_, [this] {
+        if (IsLineLost(port_)) {
+            MarkLost();
+        }
+    });
+#endif
+}
+
+void QtSerialPort::LookWhileIdle() {
+    // Every exchange begins by discarding what has come before it, so nothing is lost here.
+    std::array<std::uint8_t, 256> discarded;
+    Read(discarded);
+}
+
+void QtSerialPort::MarkLost() {
     if (lost_ || !port_.isOpen()) {
         return;
     }
     lost_ = true;
+    if (idleWatch_ != nullptr) {
+        idleWatch_->setEnabled(false);
+    }
     // Not closed right here: this may be running inside a notifier that closing would delete.
     QMetaObject::invokeMethod(
         &port_, [this] { CloseLost(); }, Qt::QueuedConnection);
 }
 
 void QtSerialPort::CloseLost() {
-    // The port may have been closed or opened anew since.
+    // The port may have been closed or opened again since.
     if (lost_) {
+        idleWatch_.reset();
         port_.close();
         if (onLost_) {
             onLost_();
@@ -119,54 +102,22 @@ void QtSerialPort::CloseLost() {
     }
 }
 
-void QtSerialPort::Pump(int milliseconds) {
-    if (IsOpen() && port_.bytesAvailable() == 0) {
-        port_.waitForReadyRead(milliseconds);
-    }
-}
-
-std::size_t QtSerialPort::BytesWaiting() {
-    // While a frame is held back nothing can have come that `WaitForByte` would not find.
-    if (held_.isEmpty()) {
-        Pump(0);
-    }
-    return IsOpen() ? static_cast<std::size_t>(port_.bytesAvailable()) : 0;
-}
-
-std::uint8_t QtSerialPort::ReadByte() {
-    char byte = 0;
-    port_.getChar(&byte);
-    return static_cast<std::uint8_t>(byte);
-}
-
-void QtSerialPort::WriteByte(std::uint8_t byte) {
-    held_.append(static_cast<char>(byte));
-}
-
-void QtSerialPort::Flush() {
-    if (IsOpen() && !held_.isEmpty()) {
-        port_.write(held_);
-        port_.flush();
-    }
-    held_.clear();
-}
-
-void QtSerialPort::WaitForByte(double seconds) {
+void QtSerialPort::SendAndWait(std::span<const std::uint8_t> bytes, double seconds) {
     const int milliseconds = static_cast<int>(std::ceil(seconds * kMillisecondsPerSecond));
-#ifdef Q_OS_UNIX
-    if (IsOpen() && port_.bytesAvailable() == 0 && port_.bytesToWrite() == 0 &&
-        SendAndSleep(port_.handle(), held_, milliseconds)) {
-        Pump(0);
-        return;
+    if (IsOpen() && !SendAndWaitOn(port_, bytes, milliseconds)) {
+        MarkLost();
     }
-#endif
-    // What the system did not take goes out as soon as it can. No `flush` here: that takes a full
-    // line for a broken one.
-    if (IsOpen()) {
-        port_.write(held_);
+}
+
+std::size_t QtSerialPort::Read(std::span<std::uint8_t> buffer) {
+    if (!IsOpen()) {
+        return 0;
     }
-    held_.clear();
-    Pump(milliseconds);
+    const std::optional<std::size_t> count = ReadFrom(port_, buffer);
+    if (!count) {
+        MarkLost();
+    }
+    return count.value_or(0);
 }
 
 }  // namespace zelvar

@@ -4,11 +4,10 @@
 
 namespace zelvar {
 
-std::vector<int> FindUsablePorts(SerialPort& port) {
+std::vector<int> FindUsablePorts(SerialPort& port, int baudRate) {
     std::vector<int> usable;
     for (int number = 1; number <= kLastPortNumber; ++number) {
-        port.SetPortNumber(number);
-        if (port.Open()) {
+        if (port.Open(number, baudRate)) {
             usable.push_back(number);
         }
         port.Close();

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "protocol/frame.h"
+#include <vector>
+
+#include "protocol/command_row.h"
 
 namespace zelvar {
 
@@ -19,5 +21,7 @@ Command SetSignalAspect(int module, int pin, int aspect);
 
 /// @param output 0..511, of a GW70 @param instruction 0..63 @param parameter 0..127
 Command SetOutput(int output, int instruction, int parameter);
+
+std::vector<CommandRow> AccessoryCommands();
 
 }  // namespace zelvar

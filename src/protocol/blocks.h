@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "protocol/frame.h"
+#include <vector>
+
+#include "protocol/command_row.h"
 
 namespace zelvar {
 
@@ -17,5 +19,7 @@ Command LinkBlocks(int first, int second, BlockPolarity polarity);
 Command UnlinkBlocks(int first, UnlinkDirection direction, bool clearUnlinked);
 
 Command ClearBlock(int block);
+
+std::vector<CommandRow> BlockCommands();
 
 }  // namespace zelvar

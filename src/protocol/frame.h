@@ -5,7 +5,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
+#include <span>
+
+#include "protocol/command.h"
 
 namespace zelvar {
 
@@ -13,15 +15,12 @@ namespace zelvar {
 // value with bit 7 set, and a checksum with bit 7 set that makes the header and the low 7 bits of
 // all other bytes add up to a multiple of 128.
 
-constexpr std::size_t kMaxDataBytes = 7;
 /// Header, data bytes and checksum.
 constexpr std::size_t kMaxFrameBytes = 1 + kMaxDataBytes + 1;
 
 constexpr std::uint8_t kHeaderCountMask = 0x07;
 /// Always set in a header.
 constexpr std::uint8_t kHeaderMark = 0x08;
-/// The low nibble of a header: the mark and the number of data bytes.
-constexpr std::uint8_t kHeaderKindMask = 0x0F;
 /// Received only: the unit holds the layout.
 constexpr std::uint8_t kHeaderHold = 0x10;
 /// Sent: the Stop request.
@@ -36,27 +35,46 @@ constexpr std::uint8_t kNotHeader = 0x80;
 /// The payload of a byte that is not a header.
 constexpr std::uint8_t kPayloadMask = 0x7F;
 
-/// What `Transact` sends: the number of data bytes and their values.
-struct Command {
-    /// 0..7
-    std::uint8_t count = 0;
-    /// 0..127 each; the values from `count` on are not sent.
-    std::array<std::uint8_t, kMaxDataBytes> values{};
+/// The bytes of a frame as they stand on the wire.
+class FrameBytes {
+  public:
+    /// Adds a byte; there must be fewer than `kMaxFrameBytes`.
+    void Append(std::uint8_t byte) { bytes_[size_++] = byte; }
+    void Clear() { size_ = 0; }
 
-    bool operator==(const Command&) const = default;
+    std::size_t size() const { return size_; }
+    std::uint8_t operator[](std::size_t index) const { return bytes_[index]; }
+    const std::uint8_t* begin() const { return bytes_.data(); }
+    const std::uint8_t* end() const { return bytes_.data() + size_; }
+    std::span<const std::uint8_t> View() const { return {bytes_.data(), size_}; }
+
+  private:
+    std::array<std::uint8_t, kMaxFrameBytes> bytes_{};
+    std::size_t size_ = 0;
 };
 
-/// The command without data, with which the unit is asked for news.
-constexpr Command kEmptyTransaction{};
+struct EncodedFrame {
+    FrameBytes bytes;
+    /// False when a value did not fit: the bytes end before it.
+    bool isWhole = false;
+};
 
-/// Ends the unit's fault state.
-constexpr Command kResetFault{2, {1, 0}};
+EncodedFrame EncodeFrame(const Command& command, bool stop, bool toggle);
 
-/// The last valid reply: index 0 the header as received, index k the k-th data value with bit 7
-/// cleared, then the checksum with bit 7 cleared; 0 elsewhere.
-using ReplyBuffer = std::array<std::uint8_t, 10>;
+/// Puts a received frame together byte by byte. A header starts it again at any time; other bytes
+/// before the first header are ignored.
+class FrameReader {
+  public:
+    /// @return whether the frame is complete with this byte; then only `Frame` may follow
+    bool Push(std::uint8_t byte);
 
-/// A blank and two upper-case hexadecimal digits, as every byte stands in the message log.
-std::string FormatHexByte(std::uint8_t byte);
+    const FrameBytes& Frame() const { return frame_; }
+
+  private:
+    FrameBytes frame_;
+};
+
+/// @return whether the checksum of a complete frame fits
+bool IsSumRight(const FrameBytes& frame);
 
 }  // namespace zelvar

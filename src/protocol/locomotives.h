@@ -5,8 +5,9 @@
 #include <bitset>
 #include <cstddef>
 #include <optional>
+#include <vector>
 
-#include "protocol/frame.h"
+#include "protocol/command_row.h"
 
 namespace zelvar {
 
@@ -74,5 +75,7 @@ using MccFunctionSet = std::bitset<kMccFunctionCount>;
 
 /// @param decoder 0..4095
 Command MccFunctions(int decoder, const MccFunctionSet& functions);
+
+std::vector<CommandRow> LocomotiveCommands();
 
 }  // namespace zelvar

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "protocol/frame.h"
+#include "protocol/command.h"
 
 namespace zelvar {
 

@@ -4,14 +4,7 @@
 
 namespace zelvar {
 
-namespace {
-
-/// Payload values are 7 bits wide; what exceeds them travels in the value before.
-constexpr int kPayloadRange = 128;
-
-}  // namespace
-
-OvercurrentReport ReadOvercurrentReport(const ReplyBuffer& reply) {
+OvercurrentReport ReadOvercurrentReport(const Reply& reply) {
     return {(reply[1] & 0x01) * kPayloadRange + reply[2], (reply[1] & 0x02) != 0};
 }
 
@@ -20,16 +13,15 @@ std::string AlarmLine(const OvercurrentReport& report) {
            (report.detected ? " detected ............." : " .............. released") + "\r\n";
 }
 
-BlockSpeedReport ReadBlockSpeedReport(const ReplyBuffer& reply) {
-    return {(reply[1] & 0x01) * kPayloadRange + (reply[2] & kPayloadMask), reply[3] & 0x3F,
-            (reply[3] & 0xC0) == 0x40};
+BlockSpeedReport ReadBlockSpeedReport(const Reply& reply) {
+    return {(reply[1] & 0x01) * kPayloadRange + reply[2], reply[3] & 0x3F, (reply[3] & 0x40) != 0};
 }
 
 std::string SpeedReadOut(int speed, bool forward) {
     return (forward ? ">>" : "<<") + std::to_string(speed);
 }
 
-FeedbackReport ReadFeedbackReport(const ReplyBuffer& reply) {
+FeedbackReport ReadFeedbackReport(const Reply& reply) {
     return {(reply[1] & 0x0F) * kPayloadRange + reply[2], (reply[1] & 0x10) != 0};
 }
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "protocol/frame.h"
+#include "protocol/reply.h"
 
 namespace zelvar {
 
@@ -20,7 +20,7 @@ struct OvercurrentReport {
     bool operator==(const OvercurrentReport&) const = default;
 };
 
-OvercurrentReport ReadOvercurrentReport(const ReplyBuffer& reply);
+OvercurrentReport ReadOvercurrentReport(const Reply& reply);
 
 /// The line of the alarm log, with its line end.
 std::string AlarmLine(const OvercurrentReport& report);
@@ -35,7 +35,7 @@ struct BlockSpeedReport {
     bool operator==(const BlockSpeedReport&) const = default;
 };
 
-BlockSpeedReport ReadBlockSpeedReport(const ReplyBuffer& reply);
+BlockSpeedReport ReadBlockSpeedReport(const Reply& reply);
 
 /// The read-out of a speed: the direction mark, then the speed without a blank, such as ">>12".
 std::string SpeedReadOut(int speed, bool forward);
@@ -48,6 +48,6 @@ struct FeedbackReport {
     bool operator==(const FeedbackReport&) const = default;
 };
 
-FeedbackReport ReadFeedbackReport(const ReplyBuffer& reply);
+FeedbackReport ReadFeedbackReport(const Reply& reply);
 
 }  // namespace zelvar

@@ -24,6 +24,25 @@ int SumOf(const KBSwitches& boxes, std::size_t first, std::size_t count) {
     return sum;
 }
 
+/// @param bits switch i is ticked when bit i is set
+KBSwitches SwitchesOf(int bits) {
+    KBSwitches switches{};
+    for (std::size_t i = 0; i < switches.size(); ++i) {
+        switches[i] = (bits >> i & 1) != 0;
+    }
+    return switches;
+}
+
+template <int button>
+Command BuildConfiguration(std::span<const int> a) {
+    return CommandForUnit(KBConfigCommand(button, a[0] != 0, SwitchesOf(a[1])));
+}
+
+template <int index>
+Command BuildTransparentMode(std::span<const int> /*arguments*/) {
+    return TransparentModeCommand(index);
+}
+
 }  // namespace
 
 ModuleCommand KBConfigCommand(int button, bool permanent, const KBSwitches& switches) {
@@ -40,26 +59,44 @@ ModuleCommand KBOptionsCommand(const KBSwitches& options) {
 
 ModuleCommand Js64DeviceModeCommand(bool permanent, const KBSwitches& boxes) {
     constexpr int kModeBit = 16;
-    // Boxes i and i + 4 weigh the same, and both together carry into the next bit: it is meant.
+    // Boxes i and i + 4 weigh the same, and both together carry into the next bit. This is
+    // intentional.
     const int mode = SumOf(boxes, 0, kHalf) + SumOf(boxes, kHalf, kHalf);
     return {kTargetUnit, kConfigLength,
             static_cast<std::uint8_t>(kConfigCode + (permanent ? 1 : 0)),
             static_cast<std::uint8_t>(kModeBit + mode), 0};
 }
 
-KBSwitches ReadKBConfigReply(const ReplyBuffer& reply) {
+KBSwitches ReadKBConfigReply(const Reply& reply) {
     constexpr int kNibble = 16;
     const int value = (reply[4] % kNibble) * kNibble + reply[3] % kNibble;
-    KBSwitches switches{};
-    for (std::size_t i = 0; i < switches.size(); ++i) {
-        switches[i] = (value >> i & 1) != 0;
-    }
-    return switches;
+    return SwitchesOf(value);
 }
 
 Command TransparentModeCommand(int index) {
     constexpr int kModeStep = 16;
-    return {3, {1, kOptionsCode, static_cast<std::uint8_t>((index + 1) * kModeStep)}};
+    return CommandOf({1, kOptionsCode, (index + 1) * kModeStep});
+}
+
+std::vector<CommandRow> UnitCommands() {
+    using Arguments = std::span<const int>;
+    const CommandParameter permanent{"permanent", 0, 1};
+    const CommandParameter switches{"switches", 0, 255};
+    return {
+        {"unit-set-configuration", {permanent, switches}, &BuildConfiguration<0>},
+        {"unit-set-device-mode",
+         {permanent, {"boxes", 0, 255}},
+         [](Arguments a) {
+             return CommandForUnit(Js64DeviceModeCommand(a[0] != 0, SwitchesOf(a[1])));
+         }},
+        {"unit-get-configuration", {permanent, switches}, &BuildConfiguration<1>},
+        {"unit-set-options",
+         {{"options", 0, 127}},
+         [](Arguments a) { return CommandForUnit(KBOptionsCommand(SwitchesOf(a[0]))); }},
+        {"transparent-channel-0", {}, &BuildTransparentMode<0>},
+        {"transparent-channel-1", {}, &BuildTransparentMode<1>},
+        {"transparent-boot-loader", {}, &BuildTransparentMode<2>},
+    };
 }
 
 }  // namespace zelvar

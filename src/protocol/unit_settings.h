@@ -3,9 +3,11 @@
 #pragma once
 
 #include <array>
-#include <string_view>
+#include <vector>
 
+#include "protocol/command_row.h"
 #include "protocol/module_command.h"
+#include "protocol/reply.h"
 
 namespace zelvar {
 
@@ -15,7 +17,7 @@ constexpr int kKBSwitches = 8;
 /// Ticked or not, by index.
 using KBSwitches = std::array<bool, kKBSwitches>;
 
-/// @param button 0 Set, 1 Get; a Get carries the switches, too, and the unit takes no notice
+/// @param button 0 Set, 1 Get; a Get carries the switches, too, and the unit ignores them
 ModuleCommand KBConfigCommand(int button, bool permanent, const KBSwitches& switches);
 
 /// The options can only be written. With option 7 the byte exceeds what a frame can carry.
@@ -25,7 +27,7 @@ ModuleCommand KBOptionsCommand(const KBSwitches& options);
 ModuleCommand Js64DeviceModeCommand(bool permanent, const KBSwitches& boxes);
 
 /// The switches in a configuration reply.
-KBSwitches ReadKBConfigReply(const ReplyBuffer& reply);
+KBSwitches ReadKBConfigReply(const Reply& reply);
 
 constexpr int kTransparentModes = 3;
 
@@ -33,9 +35,6 @@ constexpr int kTransparentModes = 3;
 /// @param index 0 channel 0, 1 channel 1, 2 boot loader
 Command TransparentModeCommand(int index);
 
-/// What the user is told when the unit has stopped answering.
-inline constexpr std::string_view kTransparentText =
-    "Your KB-E/KB-G is put in Transparent Mode\r\n"
-    "Reboot your KB-E/KB-G to restart normal operation";
+std::vector<CommandRow> UnitCommands();
 
 }  // namespace zelvar

@@ -6,7 +6,7 @@
 
 namespace zelvar {
 
-int DecodeVersion(std::uint8_t high, std::uint8_t low) {
+int DecodeVersion(int high, int low) {
     return (high >> 3) * 1000 + (high & 7) * 100 + (low >> 3) * 10 + (low & 7);
 }
 

@@ -9,7 +9,7 @@ namespace zelvar {
 
 /// A version as it travels, two bytes of 0..127, as one number: 3101 is shown as 3.10 A.
 /// @return 0..15857
-int DecodeVersion(std::uint8_t high, std::uint8_t low);
+int DecodeVersion(int high, int low);
 
 /// A digit, a point and two digits; then, when the last decimal digit is not 0, a blank and the
 /// letter that it stands for. @param version at least 0

@@ -4,8 +4,6 @@
 
 #include <limits>
 
-#include "protocol/version.h"
-
 namespace zelvar {
 
 namespace {
@@ -26,7 +24,8 @@ constexpr KBConfigView kFull{true, true, false};
 constexpr KBConfigView kFullAndSpare{true, true, true};
 
 constexpr UnitRow kUnits[] = {
-    // The prefix of a KB-F has no blank, on purpose: its version follows directly (KB-F1.02).
+    // The prefix of a KB-F has no space: its version follows directly (KB-F1.02). This is
+    // intentional.
     {1, "KB-F", "KB-F", kNoLimit, kHidden, kHidden},
     {2, "KB-E", "KB-E ", 1010, kFull, kFullAndSpare},
     {3, "KB-G", "KB-G ", 1010, kFull, kFullAndSpare},

@@ -5,15 +5,9 @@
 #include <string>
 #include <string_view>
 
-namespace zelvar {
+#include "protocol/status.h"
 
-/// The central unit as a status request found it.
-struct CentralUnit {
-    /// The code of its type, -1 until known.
-    int type = -1;
-    /// As `DecodeVersion` gives it, -1 until known.
-    int version = -1;
-};
+namespace zelvar {
 
 /// What the "KB-x" tab shows of its controls.
 struct KBConfigView {

@@ -119,14 +119,14 @@ void DlgZelvarStatus::Show(const SystemStatus& status) {
         const QString position = !status.dip        ? QString()
                                  : (*status.dip)[i] ? QStringLiteral("On")
                                                     : QStringLiteral("Off");
-        txtDIP_[i]->setText(position);
+        ShowInField(*txtDIP_[i], position);
     }
     for (std::size_t j = 0; j < txtJSstatus_.size(); ++j) {
-        txtJSstatus_[j]->setText(Text(ModuleStateText(status.js[j].state)));
+        ShowInField(*txtJSstatus_[j], Text(ModuleStateText(status.js[j].state)));
     }
     for (std::size_t m = 0; m < txtVDtype_.size(); ++m) {
-        txtVDtype_[m]->setText(Text(VDTypeText(status.vdTypes[m])));
-        txtVDstatus_[m]->setText(Text(ModuleStateText(status.vd[m].state)));
+        ShowInField(*txtVDtype_[m], Text(ClassicVDTypeText(status.vdTypes[m])));
+        ShowInField(*txtVDstatus_[m], Text(ModuleStateText(status.vd[m].state)));
     }
 }
 

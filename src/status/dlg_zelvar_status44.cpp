@@ -242,19 +242,19 @@ void DlgZelvarStatus44::BuildSignalControllers(int channel) {
 void DlgZelvarStatus44::Show(const SystemStatus& status) {
     ShowSystemFields(system_, status);
     for (std::size_t m = 0; m < txtVDtype_.size(); ++m) {
-        txtVDtype_[m]->setText(Text(VDTypeText(status.vdTypes[m])));
+        ShowInField(*txtVDtype_[m], Text(VDTypeText(status.vdTypes[m])));
     }
     for (std::size_t i = 0; i < txtVDstatus_.size(); ++i) {
-        txtVDstatus_[i]->setText(Text(ModuleStateText(status.vd[i].state)));
-        txtVDversion_[i]->setText(Text(VersionText(status.vd[i])));
+        ShowInField(*txtVDstatus_[i], Text(ModuleStateText(status.vd[i].state)));
+        ShowInField(*txtVDversion_[i], Text(VersionText(status.vd[i])));
     }
     for (std::size_t j = 0; j < txtJSstatus_.size(); ++j) {
-        txtJSstatus_[j]->setText(Text(ModuleStateText(status.js[j].state)));
-        txtJSver_[j]->setText(Text(JsVersionText(status.js[j])));
+        ShowInField(*txtJSstatus_[j], Text(ModuleStateText(status.js[j].state)));
+        ShowInField(*txtJSver_[j], Text(JsVersionText(status.js[j])));
     }
     for (std::size_t k = 0; k < txtYRstatus_.size(); ++k) {
-        txtYRstatus_[k]->setText(Text(ModuleStateText(status.yr[k].state)));
-        txtYRver_[k]->setText(Text(VersionText(status.yr[k])));
+        ShowInField(*txtYRstatus_[k], Text(ModuleStateText(status.yr[k].state)));
+        ShowInField(*txtYRver_[k], Text(VersionText(status.yr[k])));
     }
 }
 

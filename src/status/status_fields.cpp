@@ -14,7 +14,7 @@ QLineEdit* NewDisplayField(const QString& name, const QString& inWords, QWidget*
                            std::string_view text) {
     auto* field = Named(new QLineEdit(Text(text), parent), name, inWords);
     field->setReadOnly(true);
-    // A row of them must not make Tab a long way.
+    // Hundreds of them would make the way with Tab long.
     field->setFocusPolicy(Qt::ClickFocus);
     return field;
 }
@@ -42,12 +42,19 @@ SystemFields BuildSystemFields(QWidget* parent, QGridLayout& layout) {
     return {fields[0], fields[1], fields[2]};
 }
 
+void ShowInField(QLineEdit& field, const QString& text) {
+    if (field.text() != text) {
+        field.setText(text);
+        field.repaint();
+    }
+}
+
 void ShowSystemFields(const SystemFields& fields, const SystemStatus& status) {
-    fields.txtSystem->setText(Text(SystemStateName(status.systemState)));
-    fields.txtSysVer->setText(Text(SystemVersionText(status.unit)));
-    fields.txtProtVer->setText(status.protocolVersion < 0
-                                   ? QStringLiteral("?")
-                                   : Text(FormatVersion(status.protocolVersion)));
+    ShowInField(*fields.txtSystem, Text(SystemStateName(status.systemState)));
+    ShowInField(*fields.txtSysVer, Text(SystemVersionText(status.unit)));
+    ShowInField(*fields.txtProtVer, status.protocolVersion < 0
+                                        ? QStringLiteral("?")
+                                        : Text(FormatVersion(status.protocolVersion)));
 }
 
 }  // namespace zelvar

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <optional>
+#include <vector>
 
 #include "link/link.h"
 #include "platform/clock.h"
@@ -18,49 +17,61 @@ namespace zelvar {
 /// seconds.
 constexpr double kCancelOfferedAfter = 2.0;
 
-// The requests of the status request; what they ask for stands behind the leading 1.
-Command ProtocolVersionRequest();
-Command CentralUnitRequest();
-/// @param address the module's address byte, 0..127
-Command ModuleStatusRequest(int address);
-/// @param table 0 DIP switches, 2 presence, 3 faults, 4 types, 6 point-motor modules
-Command StatusTableRequest(int table);
+/// Shows what a status request finds while it goes on.
+class StatusRequestView {
+  public:
+    virtual ~StatusRequestView() = default;
+
+    /// After every step, beginning with everything cleared. @param status what is known by now
+    virtual void ShowStatus(const SystemStatus& status) = 0;
+
+    // Once each, in this order; what is not reached keeps what it showed.
+    virtual void ShowCentralUnit(const CentralUnit& unit) = 0;
+    /// The registry has the traction modules. @param classic only the lines of the Classic View
+    virtual void ListTractionModules(bool classic) = 0;
+    virtual void ListPointMotorModules(bool classic) = 0;
+};
 
 /// Asks the central unit and every module slot for type, state and version, one exchange after
 /// the other, and fills the module registry.
 class StatusRequest {
   public:
-    StatusRequest(Link& link, Progress& progress, const Clock& clock, ModuleRegistry& registry);
+    StatusRequest(Link& link, Progress& progress, const Clock& clock, ModuleRegistry& registry,
+                  StatusRequestView& view);
 
     /// @param classicAsked the user wants the Classic View whatever the protocol version
-    /// @return nothing when the first request fails or its wait is cancelled; the registry is
-    /// unchanged then.
+    /// @return nothing when the first request fails, its wait is cancelled or the device vanishes:
+    /// then the request ends where it is
     std::optional<SystemStatus> Run(bool classicAsked);
 
   private:
     bool AskProtocolVersion();
-    bool ReadProtocolVersion();
+    bool TakeProtocolVersion(const std::optional<Reply>& reply);
     void AskCentralUnit();
-    void AskNewView();
+    bool AskNewView();
+    bool AskTractionModules();
     void AskTractionModule(int line);
     void AskSecondaryUnit(int line);
+    bool AskPointMotorModules();
     void AskPointMotorModule(int position);
-    void AskSignalController(int index);
-    void AskClassicView();
+    bool AskSignalControllers();
+    void AskSignalController(int module);
+    bool AskClassicView();
     void AskDipSwitches();
-    void AskClassicTractionModules();
+    void AskClassicPresence();
+    void AskClassicTypes();
+    void AskClassicFaults();
     void AskClassicPointMotorModules();
-    bool AskModule(int address);
-    /// @param length the number of data bytes that the answer must have
-    bool AskTable(int table, int length);
-    void ForEachTableBit(int bytes, const std::function<void(int module, bool set)>& use) const;
-    bool ReplyIs(int length, int request) const;
-    std::uint8_t ReplyAt(int index) const;
+    std::optional<ModuleStatus> AskModule(int address);
+    std::vector<bool> AskTable(StatusTable table, int values);
+    /// Shows what a step has found. @return whether there is still a device to ask
+    bool Shown();
 
     Link& link_;
     Progress& progress_;
     const Clock& clock_;
     ModuleRegistry& registry_;
+    StatusRequestView& view_;
     SystemStatus status_;
 };
 

@@ -4,8 +4,6 @@
 
 #include <cstddef>
 
-#include "protocol/version.h"
-
 namespace zelvar {
 
 namespace {
@@ -14,7 +12,7 @@ namespace {
 constexpr std::array<std::string_view, 7> kModuleStates{"?",     "--",   "OK",   "Idle",
                                                         "Fault", "Hold", "Error"};
 /// In the order of `VDType`.
-constexpr std::array<std::string_view, 6> kVDTypes{"?", "--", "N.A.", "VD-F", "VD60", "QLRX-s"};
+constexpr std::array<std::string_view, 5> kVDTypes{"--", "?", "VD-F", "QLRX-s", "VD60"};
 
 constexpr std::array<std::string_view, 4> kSystemStates{"OK", "Hold", "Fault", "Fault+Hold"};
 
@@ -33,6 +31,10 @@ std::string_view ModuleStateText(ModuleState state) {
 
 std::string_view VDTypeText(VDType type) {
     return kVDTypes[static_cast<std::size_t>(type)];
+}
+
+std::string_view ClassicVDTypeText(VDType type) {
+    return type == VDType::Absent ? "N.A." : VDTypeText(type);
 }
 
 std::string_view SystemStateName(int state) {

@@ -20,10 +20,11 @@ enum class ModuleState { Unknown, Absent, Ok, Idle, Fault, Hold, Error };
 /// "?", "--", "OK", "Idle", "Fault", "Hold" or "Error".
 std::string_view ModuleStateText(ModuleState state);
 
-enum class VDType { Unknown, Absent, NotAvailable, VdF, Vd60, QlrxS };
-
-/// "?", "--", "N.A.", "VD-F", "VD60" or "QLRX-s".
+/// "?", "--", "VD-F", "VD60" or "QLRX-s", as the new view shows it.
 std::string_view VDTypeText(VDType type);
+
+/// The same in the Classic View, where a module that is absent has the type "N.A.".
+std::string_view ClassicVDTypeText(VDType type);
 
 /// @param state 0..3, the Hold and Fault bits of a reply
 /// @return "OK", "Hold", "Fault" or "Fault+Hold"; "?" for any other value
@@ -32,17 +33,17 @@ std::string_view SystemStateName(int state);
 /// One module, or one unit of a VD60, in a status view.
 struct ModuleLine {
     ModuleState state = ModuleState::Absent;
-    /// Nothing until a module told it; 0 when the module has none to tell.
+    /// Nothing until the module has answered; 0 when it reports none.
     std::optional<int> version;
 };
 
-/// "--" when nothing was told, "?" when a traction module or signal controller tells none.
+/// "--" before an answer, "?" when a traction module or signal controller reports no version.
 std::string VersionText(const ModuleLine& line);
 
-/// The same for a point-motor module, which shows "--" in both cases, on purpose.
+/// The same for a point-motor module, which shows "--" in both cases. This is intentional.
 std::string JsVersionText(const ModuleLine& line);
 
-/// Everything a status request found out. The two status views are two renderings of it.
+/// Everything a status request has found out so far. The two status views are renderings of it.
 struct SystemStatus {
     bool classic = false;
     /// 0..3
@@ -54,7 +55,7 @@ struct SystemStatus {
     std::array<ModuleLine, kVDLines> vd{};
     std::array<ModuleLine, kJsModules> js{};
     std::array<ModuleLine, kYRModules> yr{};
-    /// Whether each DIP switch is on; nothing when the unit did not tell. Classic View only.
+    /// Whether each DIP switch is on; nothing without an answer. Classic View only.
     std::optional<std::array<bool, 4>> dip;
 };
 

@@ -27,13 +27,13 @@ TEST_F(MainWindowTest, IsTitledWithNameAndVersionAlone) {
 }
 
 TEST_F(MainWindowTest, StartsWithItsCaptions) {
-    EXPECT_EQ(TextOf("lblCom"), QStringLiteral("CommPort"));
-    EXPECT_EQ(TextOf("optBaud(0)"), QStringLiteral("19k2"));
-    EXPECT_EQ(TextOf("optBaud(1)"), QStringLiteral("38k4"));
-    EXPECT_EQ(TextOf("Check_Stop"), QStringLiteral("Stop"));
-    EXPECT_EQ(TextOf("cmdReset"), QStringLiteral("Reset Fault"));
-    EXPECT_EQ(TextOf("cmdRefresh"), QStringLiteral("Refresh"));
-    EXPECT_EQ(TextOf("cmdStatus"), QStringLiteral("Status"));
+    EXPECT_EQ(TextOf("lblCom"), "CommPort");
+    EXPECT_EQ(TextOf("optBaud(0)"), "19k2");
+    EXPECT_EQ(TextOf("optBaud(1)"), "38k4");
+    EXPECT_EQ(TextOf("Check_Stop"), "Stop");
+    EXPECT_EQ(TextOf("cmdReset"), "Reset Fault");
+    EXPECT_EQ(TextOf("cmdRefresh"), "Refresh");
+    EXPECT_EQ(TextOf("cmdStatus"), "Status");
     EXPECT_EQ(Find("cmdStatus").toolTip(), QStringLiteral("Shift+Click for Classic View"));
 }
 
@@ -48,10 +48,10 @@ TEST_F(MainWindowTest, StartsWithStopTickedAndTheBaudRatesHidden) {
 TEST_F(MainWindowTest, StartsDisconnectedWithPollingOff) {
     EXPECT_FALSE(port.IsOpen());
     EXPECT_FALSE(timer.enabled);
-    EXPECT_EQ(port.settings, "19200,o,8,1");
-    EXPECT_EQ(TextOf("lblTestSystemStatus"), QStringLiteral("System Status = Disconnected"));
-    EXPECT_EQ(TextOf("lblBarStatus"), QStringLiteral("System Status = Disconnected"));
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("No port open"));
+    EXPECT_EQ(port.baud, 19200);
+    EXPECT_EQ(TextOf("lblTestSystemStatus"), "System Status = Disconnected");
+    EXPECT_EQ(TextOf("lblBarStatus"), "System Status = Disconnected");
+    EXPECT_EQ(TextOf("lblBarDevice"), "No port open");
     EXPECT_TRUE(messageBox.shown.empty());
     EXPECT_TRUE(port.written.empty());
 }
@@ -99,7 +99,7 @@ TEST_F(MainWindowTest, ResetFaultSendsOneAndZero) {
     EXPECT_EQ(port.SentValues(), (Requests{{1, 0}}));
     // Stop is ticked, so the header asks for it.
     EXPECT_EQ(port.written, (Bytes{0x2A, 0x81, 0x80, 0xD5}));
-    EXPECT_EQ(TextOf("lblTestSystemStatus"), QStringLiteral("System Status = Stop"));
+    EXPECT_EQ(TextOf("lblTestSystemStatus"), "System Status = Stop");
 }
 
 TEST_F(MainWindowTest, WithoutAPortCommandsAskForOne) {
@@ -126,7 +126,7 @@ TEST_P(StatusLines, FollowEveryReply) {
     port.replies = {WireFrame({}, GetParam().header)};
     Click("cmdReset");
     for (const char* name : {"lblTestSystemStatus", "lblBarStatus"}) {
-        EXPECT_EQ(TextOf(name).toStdString(), GetParam().text);
+        EXPECT_EQ(TextOf(name), GetParam().text);
         EXPECT_EQ(Find(name).palette().color(QPalette::WindowText), QColor(GetParam().colour));
     }
 }

@@ -15,7 +15,7 @@ namespace {
 
 using History = std::vector<std::string>;
 
-const QString kDisconnected = QStringLiteral("System Status = Disconnected");
+const std::string kDisconnected = "System Status = Disconnected";
 
 class PortChoice : public WindowFixture {
   protected:
@@ -76,7 +76,7 @@ TEST_F(PortChoice, RefreshClosesThePortAndSaysDisconnected) {
     EXPECT_FALSE(port.IsOpen());
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
     EXPECT_EQ(Find("lblTestSystemStatus").palette().color(QPalette::WindowText), QColor(0, 0, 0));
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("No port open"));
+    EXPECT_EQ(TextOf("lblBarDevice"), "No port open");
 }
 
 TEST_F(PortChoice, RefreshLeavesTheTimerAndItsNextTickSwitchesItOff) {
@@ -84,7 +84,7 @@ TEST_F(PortChoice, RefreshLeavesTheTimerAndItsNextTickSwitchesItOff) {
     port.ForgetSent();
     Click("cmdRefresh");
     EXPECT_TRUE(timer.enabled);
-    Tick();
+    Poll();
     EXPECT_FALSE(timer.enabled);
     EXPECT_TRUE(port.written.empty());
     EXPECT_TRUE(messageBox.shown.empty());
@@ -92,18 +92,18 @@ TEST_F(PortChoice, RefreshLeavesTheTimerAndItsNextTickSwitchesItOff) {
 
 TEST_F(PortChoice, ChoosingAPortOpensItAndSendsNothing) {
     port.history.clear();
-    Choose("cboPort", QStringLiteral("3"));
-    EXPECT_EQ(port.history, History{"open 3 19200,o,8,1"});
+    Choose("cboPort", "3");
+    EXPECT_EQ(port.history, History{"open 3 19200"});
     EXPECT_FALSE(timer.enabled);
     EXPECT_TRUE(port.written.empty());
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("Port 3: /dev/port3, 19k2"));
+    EXPECT_EQ(TextOf("lblBarDevice"), "Port 3: /dev/port3, 19k2");
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
 }
 
 TEST_F(PortChoice, ChoosingTheOpenPortAgainReopensItAndLeavesPollingOff) {
     StartPolling();
-    Choose("cboPort", QStringLiteral("1"));
-    EXPECT_EQ(port.history, (History{"close", "open 1 19200,o,8,1"}));
+    Choose("cboPort", "1");
+    EXPECT_EQ(port.history, (History{"close", "open 1 19200"}));
     EXPECT_TRUE(port.IsOpen());
     EXPECT_FALSE(timer.enabled);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
@@ -111,25 +111,25 @@ TEST_F(PortChoice, ChoosingTheOpenPortAgainReopensItAndLeavesPollingOff) {
 
 TEST_F(PortChoice, ChoosingAnotherPortClosesTheFirst) {
     StartPolling();
-    Choose("cboPort", QStringLiteral("2"));
-    EXPECT_EQ(port.history, (History{"close", "open 2 19200,o,8,1"}));
+    Choose("cboPort", "2");
+    EXPECT_EQ(port.history, (History{"close", "open 2 19200"}));
     EXPECT_FALSE(timer.enabled);
 }
 
 TEST_F(PortChoice, APortThatCannotBeOpenedIsToldAndStaysClosed) {
     StartPolling();
     port.openable = {1};
-    Choose("cboPort", QStringLiteral("2"));
+    Choose("cboPort", "2");
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("Fout bij openen COM poort")});
     EXPECT_FALSE(port.IsOpen());
     EXPECT_FALSE(timer.enabled);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("No port open"));
+    EXPECT_EQ(TextOf("lblBarDevice"), "No port open");
 }
 
 TEST_F(PortChoice, TheToggleGoesOnAfterReopening) {
     StartPolling();
-    Choose("cboPort", QStringLiteral("1"));
+    Choose("cboPort", "1");
     Click("cmdReset");
     EXPECT_EQ(port.sent[0].Header() & 0x40, 0);
     EXPECT_EQ(port.sent[1].Header() & 0x40, 0x40);
@@ -138,7 +138,7 @@ TEST_F(PortChoice, TheToggleGoesOnAfterReopening) {
 class BaudChange : public PortChoice {
   protected:
     BaudChange() {
-        QTest::mouseDClick(&Find("lblCom"), Qt::LeftButton);
+        DoubleClick("lblCom");
         port.history.clear();
     }
 };
@@ -155,36 +155,52 @@ TEST_F(BaudChange, ADoubleClickOnCommPortShowsTheRatesAndTheMessageLog) {
 TEST_F(BaudChange, NothingHidesTheRatesAgain) {
     FindWindow("dlgMsgLog")->close();
     Click("cmdRefresh");
-    QTest::mouseDClick(&Find("lblCom"), Qt::LeftButton);
+    DoubleClick("lblCom");
     EXPECT_TRUE(Find("optBaud(1)").isVisible());
 }
 
 TEST_F(BaudChange, WhileClosedItChangesTheSettingsOnly) {
     Click("optBaud(1)");
-    EXPECT_EQ(port.settings, "38400,o,8,1");
     EXPECT_TRUE(port.history.empty());
     EXPECT_FALSE(timer.enabled);
-    Click("optBaud(0)");
-    EXPECT_EQ(port.settings, "19200,o,8,1");
-    Choose("cboPort", QStringLiteral("1"));
-    EXPECT_EQ(port.history, History{"open 1 19200,o,8,1"});
+    Choose("cboPort", "1");
+    EXPECT_EQ(port.history, History{"open 1 38400"});
 }
 
 TEST_F(BaudChange, WhilePollingItReopensAndGoesOnPolling) {
     StartPolling();
-    const QString before = TextOf("lblTestSystemStatus");
+    const std::string before = TextOf("lblTestSystemStatus");
     Click("optBaud(1)");
-    EXPECT_EQ(port.history, (History{"close", "open 1 38400,o,8,1"}));
+    EXPECT_EQ(port.history, (History{"close", "open 1 38400"}));
     EXPECT_TRUE(timer.enabled);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), before);
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("Port 1: /dev/port1, 38k4"));
+    EXPECT_EQ(TextOf("lblBarDevice"), "Port 1: /dev/port1, 38k4");
 }
 
 TEST_F(BaudChange, WhileOpenWithoutPollingItReopensAndDoesNotPoll) {
     OpenPort();
     Click("optBaud(1)");
-    EXPECT_EQ(port.history, (History{"close", "open 1 38400,o,8,1"}));
+    EXPECT_EQ(port.history, (History{"close", "open 1 38400"}));
     EXPECT_FALSE(timer.enabled);
+}
+
+TEST_F(BaudChange, ChoosingTheChosenRateAgainReopensToo) {
+    StartPolling();
+    Click("optBaud(0)");
+    EXPECT_EQ(port.history, (History{"close", "open 1 19200,o,8,1"}));
+    EXPECT_TRUE(timer.enabled);
+    Click("optBaud(1)");
+    port.history.clear();
+    Click("optBaud(1)");
+    EXPECT_EQ(port.history, (History{"close", "open 1 38400,o,8,1"}));
+}
+
+TEST_F(BaudChange, TheArrowKeysChooseOnceEach) {
+    OpenPort();
+    Find("optBaud(0)").setFocus();
+    QTest::keyClick(&Find("optBaud(0)"), Qt::Key_Right);
+    EXPECT_EQ(port.history, (History{"close", "open 1 38400,o,8,1"}));
+    EXPECT_TRUE(Find<QRadioButton>("optBaud(1)").isChecked());
 }
 
 TEST_F(BaudChange, WhenReopeningFailsThePortStaysClosedAndPollingOff) {
@@ -198,7 +214,7 @@ TEST_F(BaudChange, WhenReopeningFailsThePortStaysClosedAndPollingOff) {
     EXPECT_FALSE(port.IsOpen());
     EXPECT_FALSE(timer.enabled);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("No port open"));
+    EXPECT_EQ(TextOf("lblBarDevice"), "No port open");
 }
 
 class PortLoss : public PortChoice {};
@@ -210,7 +226,7 @@ TEST_F(PortLoss, WhileIdleIsShownWithoutABoxAndPollingIsOff) {
     port.onLost();
     EXPECT_FALSE(timer.enabled);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
-    EXPECT_EQ(TextOf("lblBarDevice"), QStringLiteral("Connection to port 1 lost"));
+    EXPECT_EQ(TextOf("lblBarDevice"), "Connection to port 1 lost");
     EXPECT_TRUE(messageBox.shown.empty());
     Click("cmdReset");
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("Please select Comm-Port")});
@@ -224,8 +240,8 @@ TEST_F(PortLoss, WhilePollingIsToldOnce) {
         return Bytes{};
     };
     messageBox.whileShown = [this] { port.onLost(); };
-    Tick();
-    Tick();
+    Poll();
+    Poll();
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
     EXPECT_FALSE(timer.enabled);
     EXPECT_EQ(TextOf("lblTestSystemStatus"), kDisconnected);
@@ -255,11 +271,11 @@ TEST_F(PortLoss, OnceTheDeviceIsBackRefreshAndChoosingThePortWorkAgain) {
     port.openable = {1};
     Click("cmdRefresh");
     EXPECT_EQ(Entries(), std::vector<std::string>{"1"});
-    Choose("cboPort", QStringLiteral("1"));
+    Choose("cboPort", "1");
     EXPECT_TRUE(port.IsOpen());
     Click("cmdReset");
     EXPECT_TRUE(timer.enabled);
-    EXPECT_EQ(TextOf("lblTestSystemStatus"), QStringLiteral("System Status = Stop"));
+    EXPECT_EQ(TextOf("lblTestSystemStatus"), "System Status = Stop");
     EXPECT_TRUE(messageBox.shown.empty());
 }
 

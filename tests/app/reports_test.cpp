@@ -21,7 +21,7 @@ class Reports : public WindowFixture {
     /// One tick whose poll is answered by these data values.
     void Report(const std::vector<int>& values) {
         port.replies = {WireFrame(values)};
-        Tick();
+        Poll();
     }
 
     static std::string LogText(const char* dialog, const char* field) {
@@ -75,13 +75,13 @@ TEST_F(Reports, TheMessageLogIsCreatedHiddenAndKeepsItsTextUntilItIsShown) {
     ASSERT_NE(FindWindow("dlgMsgLog"), nullptr);
     EXPECT_FALSE(FindWindow("dlgMsgLog")->isVisible());
     EXPECT_EQ(Messages(), ">> 28 D8                       << 0A B3 85 BE\n");
-    QTest::mouseDClick(&Find("lblCom"), Qt::LeftButton);
+    DoubleClick("lblCom");
     EXPECT_TRUE(FindWindow("dlgMsgLog")->isVisible());
     EXPECT_EQ(Messages(), ">> 28 D8                       << 0A B3 85 BE\n");
 }
 
 TEST_F(Reports, AClosedMessageLogIsCreatedAnewHiddenAndEmpty) {
-    QTest::mouseDClick(&Find("lblCom"), Qt::LeftButton);
+    DoubleClick("lblCom");
     Click("cmdReset");
     CloseByUser("dlgMsgLog");
     EXPECT_EQ(FindWindow("dlgMsgLog"), nullptr);
@@ -97,7 +97,7 @@ TEST_F(Reports, PollsWithoutDataDoNotEvenCreateTheMessageLog) {
 
 TEST_F(Reports, ClearLogEmptiesItsOwnWindowOnly) {
     Report({0x33, 5});
-    QTest::mouseDClick(&Find("lblCom"), Qt::LeftButton);
+    DoubleClick("lblCom");
     QTest::mouseClick(&FindBelow<QPushButton>(*FindWindow("dlgAlarmLog"), "cmdClear"),
                       Qt::LeftButton);
     EXPECT_EQ(Alarms(), "");
@@ -121,10 +121,10 @@ class BlockSpeeds : public Reports, public ::testing::WithParamInterface<SpeedRo
 
 TEST_P(BlockSpeeds, AreShownForTheChosenBlockOnly) {
     Find<QLineEdit>("txtTestBlock").setText(QString::fromUtf8(GetParam().wanted));
-    const std::string before = TextOf("lblTestAnalogSpeed").toStdString();
+    const std::string before = TextOf("lblTestAnalogSpeed");
     Report(GetParam().report);
     const std::string shown = GetParam().shown;
-    EXPECT_EQ(TextOf("lblTestAnalogSpeed").toStdString(), shown.empty() ? before : shown);
+    EXPECT_EQ(TextOf("lblTestAnalogSpeed"), shown.empty() ? before : shown);
     EXPECT_TRUE(messageBox.shown.empty());
 }
 
@@ -141,8 +141,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Reports, APollWithoutReplyIsToldOnceAndPollingStopsUntilACommandSucceeds) {
     port.replies = {Bytes{}};
-    Tick();
-    Tick();
+    Poll();
+    Poll();
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
     EXPECT_FALSE(timer.enabled);
     EXPECT_EQ(port.sent.size(), 1U);

@@ -19,7 +19,7 @@ class StatusButton : public WindowFixture {
         port.responder = std::ref(layout);
     }
 
-    static bool IsShown(const char* dialog) {
+    static bool IsInView(const char* dialog) {
         QWidget* view = FindWindow(dialog);
         return view != nullptr && view->isVisible();
     }

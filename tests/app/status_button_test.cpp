@@ -23,8 +23,8 @@ class StatusPresses : public StatusButton, public ::testing::WithParamInterface<
 TEST_P(StatusPresses, OpenTheViewThatFits) {
     layout.protocolVersion = GetParam().protocolVersion;
     QTest::mousePress(&Find("cmdStatus"), GetParam().button, GetParam().modifiers);
-    EXPECT_EQ(IsShown("dlgZelvarStatus"), GetParam().classic);
-    EXPECT_EQ(IsShown("dlgZelvarStatus44"), !GetParam().classic);
+    EXPECT_EQ(IsInView("dlgZelvarStatus"), GetParam().classic);
+    EXPECT_EQ(IsInView("dlgZelvarStatus44"), !GetParam().classic);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -45,7 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(StatusButton, SpaceAndEnterCountAsAPlainPress) {
     QTest::keyClick(&Find("cmdStatus"), Qt::Key_Space);
-    EXPECT_TRUE(IsShown("dlgZelvarStatus44"));
+    EXPECT_TRUE(IsInView("dlgZelvarStatus44"));
     const std::size_t once = port.sent.size();
     QTest::keyClick(&Find("cmdStatus"), Qt::Key_Return);
     EXPECT_EQ(port.sent.size(), 2 * once);
@@ -67,9 +67,9 @@ TEST_F(StatusButton, FillsBothListsAndSelectsTheFirstModules) {
 
 TEST_F(StatusButton, ChoosingAllPointMotorModulesHidesGetConfiguration) {
     Click("cmdStatus");
-    Choose("cboJS", QStringLiteral("All"));
+    Choose("cboJS", "All");
     EXPECT_TRUE(Find("cmdGetJSConfig").isHidden());
-    Choose("cboJS", QStringLiteral(" 9"));
+    Choose("cboJS", " 9");
     EXPECT_FALSE(Find("cmdGetJSConfig").isHidden());
 }
 
@@ -87,11 +87,11 @@ TEST_F(StatusButton, NamesTheCentralUnitOnItsTab) {
     EXPECT_TRUE(Find("lblKBtype").isHidden());
     layout.unit = {2, 1020};
     Click("cmdStatus");
-    EXPECT_EQ(TextOf("lblKBtype"), QStringLiteral("KB-E"));
+    EXPECT_EQ(TextOf("lblKBtype"), "KB-E");
     EXPECT_FALSE(Find("lblKBtype").isHidden());
     layout.unit.reset();
     Click("cmdStatus");
-    EXPECT_EQ(TextOf("lblKBtype"), QStringLiteral("?"));
+    EXPECT_EQ(TextOf("lblKBtype"), "?");
     EXPECT_EQ(Field("dlgZelvarStatus44", "txtSysVer"), "?");
 }
 

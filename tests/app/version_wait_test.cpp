@@ -63,7 +63,7 @@ TEST_F(VersionWait, CancelAppearsAfterTwoSecondsAndGoesWithTheRequest) {
     EXPECT_EQ(std::vector<bool>(shown.begin(), shown.begin() + 8),
               (std::vector<bool>{false, false, false, false, false, true, true, true}));
     EXPECT_FALSE(CancelShown());
-    EXPECT_TRUE(IsShown("dlgZelvarStatus44"));
+    EXPECT_TRUE(IsInView("dlgZelvarStatus44"));
 }
 
 TEST_F(VersionWait, CancelGoesAsSoonAsTheVersionHasCome) {
@@ -76,7 +76,7 @@ TEST_F(VersionWait, CancelGoesAsSoonAsTheVersionHasCome) {
                                                         : layout(frame);
     };
     Click("cmdStatus");
-    EXPECT_TRUE(IsShown("dlgZelvarStatus44"));
+    EXPECT_TRUE(IsInView("dlgZelvarStatus44"));
     EXPECT_FALSE(shownAmongTheModules) << "a button that does nothing";
 }
 
@@ -89,14 +89,14 @@ TEST_F(VersionWait, PressingCancelEndsItWithoutAViewOrABox) {
     };
     Click("cmdStatus");
     EXPECT_LT(exchanges, 10);
-    EXPECT_FALSE(IsShown("dlgZelvarStatus44"));
+    EXPECT_FALSE(IsInView("dlgZelvarStatus44"));
     EXPECT_TRUE(messageBox.shown.empty());
     EXPECT_FALSE(CancelShown());
     EXPECT_FALSE(Find("prgBar").isVisible());
     // The next request is not cancelled by it.
     layout.instead.clear();
     Click("cmdStatus");
-    EXPECT_TRUE(IsShown("dlgZelvarStatus44"));
+    EXPECT_TRUE(IsInView("dlgZelvarStatus44"));
 }
 
 class CancelKeys : public VersionWait, public ::testing::WithParamInterface<Qt::Key> {};
@@ -112,7 +112,7 @@ TEST_P(CancelKeys, CancelTheWait) {
     Find("cmdReset").setFocus();
     Click("cmdStatus");
     EXPECT_LT(exchanges, 10);
-    EXPECT_FALSE(IsShown("dlgZelvarStatus44"));
+    EXPECT_FALSE(IsInView("dlgZelvarStatus44"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, CancelKeys,
@@ -156,7 +156,7 @@ TEST_F(VersionWait, NothingElseReactsWhileItLasts) {
     EXPECT_EQ(Find<QAbstractButton>("Check_Stop").isChecked(), stopBefore);
     EXPECT_TRUE(port.IsOpen());
     EXPECT_TRUE(window->isVisible());
-    EXPECT_TRUE(IsShown("dlgZelvarStatus44")) << "the wait was cancelled by something else";
+    EXPECT_TRUE(IsInView("dlgZelvarStatus44")) << "the wait was cancelled by something else";
 }
 
 TEST_F(VersionWait, BeforeCancelIsOfferedNoEventIsLetIn) {

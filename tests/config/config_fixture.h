@@ -21,12 +21,13 @@ using Frames = std::vector<Values>;
 /// secondary units, and of kinds that do not belong where they are.
 inline ModuleRegistry MixedRegistry() {
     ModuleRegistry registry;
-    const std::pair<int, VdTypeCode> lines[] = {
-        {0, kVdF},   {5, kVd60}, {7, kQlrxS}, {12, kVdUnknown}, {15, kVdF},  {16, kQlrxS},
-        {19, kVd60}, {31, kVdF}, {37, kVd60}, {40, kVdF},       {51, kVd60}, {60, kQlrxS},
+    const std::pair<int, VDType> lines[] = {
+        {0, VDType::VdF},   {5, VDType::Vd60},   {7, VDType::QlrxS}, {12, VDType::Unknown},
+        {15, VDType::VdF},  {16, VDType::QlrxS}, {19, VDType::Vd60}, {31, VDType::VdF},
+        {37, VDType::Vd60}, {40, VDType::VdF},   {51, VDType::Vd60}, {60, VDType::QlrxS},
     };
     for (const auto& [line, type] : lines) {
-        registry.vdType[static_cast<std::size_t>(line)] = type;
+        registry.vdTypes.at(static_cast<unsigned>(line)) = type;
     }
     return registry;
 }

@@ -19,7 +19,7 @@ class JSTabTest : public LayoutFixture {
     JSTabTest() {
         modules = {{67, kJsStatus}, {81, kJsStatus}};
         RequestStatus();
-        Choose("cboJS", QStringLiteral(" 9"));
+        Choose("cboJS", " 9");
     }
 
     /// Answers everything that a report asks for.
@@ -37,33 +37,33 @@ class JSTabTest : public LayoutFixture {
 };
 
 TEST_F(JSTabTest, ADefaultTimeIsClampedAndSentPermanently) {
-    Type("txtJStime", QStringLiteral("200"));
-    Type("txtJSdevice", QStringLiteral("99"));
+    Type("txtJStime", "200");
+    Type("txtJSdevice", "99");
     Click("chkJSperm");
     Click("cmdTIME");
-    EXPECT_EQ(TextOf("txtJStime"), QStringLiteral("127"));
-    EXPECT_EQ(TextOf("txtJSdevice"), QStringLiteral("99")) << "only the time is clamped";
+    EXPECT_EQ(TextOf("txtJStime"), "127");
+    EXPECT_EQ(TextOf("txtJSdevice"), "99") << "only the time is clamped";
     EXPECT_EQ(port.SentValues(), (Frames{{}, {0, 81, 96, 127}, {}}));
 }
 
 TEST_F(JSTabTest, ADeviceTimeClampsBothFields) {
-    Type("txtJStime", QStringLiteral("-1"));
-    Type("txtJSdevice", QStringLiteral("64"));
+    Type("txtJStime", "-1");
+    Type("txtJSdevice", "64");
     Click("cmdDeviceTime");
-    EXPECT_EQ(TextOf("txtJStime"), QStringLiteral("0"));
-    EXPECT_EQ(TextOf("txtJSdevice"), QStringLiteral("63"));
+    EXPECT_EQ(TextOf("txtJStime"), "0");
+    EXPECT_EQ(TextOf("txtJSdevice"), "63");
     EXPECT_EQ(Commands(), (Frames{{0, 81, 32, 63, 0}}));
 }
 
 TEST_F(JSTabTest, ADevicePowerClampsTheDeviceAlone) {
-    Type("txtJStime", QStringLiteral("200"));
-    Type("txtJSdevice", QStringLiteral("70"));
+    Type("txtJStime", "200");
+    Type("txtJSdevice", "70");
     Click("optJSpower(2)");
     Click("cmdDevicePower");
     Click("chkJSperm");
     Click("cmdDevicePower");
-    EXPECT_EQ(TextOf("txtJStime"), QStringLiteral("200"));
-    EXPECT_EQ(TextOf("txtJSdevice"), QStringLiteral("63"));
+    EXPECT_EQ(TextOf("txtJStime"), "200");
+    EXPECT_EQ(TextOf("txtJSdevice"), "63");
     EXPECT_EQ(Commands(), (Frames{{0, 81, 40, 63, 2}, {0, 81, 104, 63, 2}}));
 }
 
@@ -81,7 +81,7 @@ const ShownBox kJsWarning{
     BoxIcon::Exclamation, BoxButtons::OkCancel};
 
 TEST_F(JSTabTest, EraseOfAllReachesSixteenPositions) {
-    Choose("cboJS", QStringLiteral("All"));
+    Choose("cboJS", "All");
     messageBox.answers = {BoxAnswer::Ok};
     Click("chkJSperm");
     Click("cmdJSerase");
@@ -165,7 +165,7 @@ TEST_F(JSTabTest, AReportIsOfferedForOneModuleAndGoneWithAnotherChoice) {
     EXPECT_TRUE(IsShown("cmdGetJSConfig"));
     AnswerReport();
     Click("cmdGetJSConfig");
-    Choose("cboJS", QStringLiteral("All"));
+    Choose("cboJS", "All");
     EXPECT_FALSE(IsShown("cmdGetJSConfig"));
     EXPECT_FALSE(IsShown("cmdHideJSConfig"));
     EXPECT_FALSE(IsShown("textJSReport"));
@@ -215,7 +215,7 @@ TEST_F(JSTabBeforeStatus, EveryControlHasItsCaption) {
         {"txtJStime", "0"},
     };
     for (const auto& [name, caption] : captions) {
-        EXPECT_EQ(TextOf(name), QString::fromUtf8(caption)) << name;
+        EXPECT_EQ(TextOf(name), caption) << name;
         EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
     }
 }

@@ -41,9 +41,8 @@ TEST_F(KBTabTest, ShowsAConfigurationReplyInGreenUntilTheButtonLosesTheFocus) {
     Click("cmdConfig(1)");
     for (int i = 0; i < 8; ++i) {
         const std::string name = Indexed("chkKBEconfig", i);
-        EXPECT_EQ(Find<QCheckBox>(name.c_str()).isChecked(), i == 0 || i == 2 || i == 4 || i == 5)
-            << name;
-        EXPECT_TRUE(IsGreen(name.c_str())) << name;
+        EXPECT_EQ(Find<QCheckBox>(name).isChecked(), i == 0 || i == 2 || i == 4 || i == 5) << name;
+        EXPECT_TRUE(IsGreen(name)) << name;
     }
     EXPECT_TRUE(IsGreen("frmConfig"));
     Click("cmdOptions");
@@ -158,10 +157,10 @@ TEST_P(KBTabView, ShowsWhatTheUnitSupports) {
     unitType = GetParam().type;
     RequestStatus();
     EXPECT_TRUE(IsShown("lblKBtype"));
-    EXPECT_EQ(TextOf("lblKBtype"), QString::fromUtf8(GetParam().caption));
+    EXPECT_EQ(TextOf("lblKBtype"), GetParam().caption);
     EXPECT_EQ(IsShown("frmConfig"), GetParam().frame);
     for (const int i : {0, 1, 2, 3, 5, 6}) {
-        EXPECT_EQ(IsShown(Indexed("chkKBEconfig", i).c_str()), GetParam().full) << i;
+        EXPECT_EQ(IsShown(Indexed("chkKBEconfig", i)), GetParam().full) << i;
     }
     EXPECT_TRUE(IsShown("chkKBEconfig(4)"));
     EXPECT_TRUE(IsShown("chkKBEconfig(7)"));
@@ -182,7 +181,7 @@ INSTANTIATE_TEST_SUITE_P(OfUnits, KBTabView,
 TEST_F(KBTabTest, ShowsEverythingBeforeTheFirstStatusRequest) {
     EXPECT_FALSE(IsShown("lblKBtype"));
     for (int i = 0; i < 8; ++i) {
-        EXPECT_TRUE(IsShown(Indexed("chkKBEconfig", i).c_str())) << i;
+        EXPECT_TRUE(IsShown(Indexed("chkKBEconfig", i))) << i;
     }
     for (const char* name : {"frmConfig", "cmdConfig(0)", "cmdConfig(1)", "cmdTM(0)", "cmdTM(1)",
                              "cmdTM(2)", "frm64DM"}) {
@@ -277,7 +276,7 @@ TEST_F(KBTabTest, EveryControlHasItsCaptionAndTooltip) {
         {"cmdTM(2)", "Bootloader Transp. Mode", ""},
     };
     for (const Control& control : controls) {
-        EXPECT_EQ(TextOf(control.name), QString::fromUtf8(control.caption)) << control.name;
+        EXPECT_EQ(TextOf(control.name), control.caption) << control.name;
         EXPECT_EQ(Find<QWidget>(control.name).toolTip(), QString::fromUtf8(control.tooltip))
             << control.name;
         EXPECT_FALSE(Find<QWidget>(control.name).accessibleName().isEmpty()) << control.name;

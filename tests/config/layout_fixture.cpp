@@ -49,14 +49,7 @@ Frames LayoutFixture::Commands() {
 void LayoutFixture::Receive(const Values& reply) {
     port.replies = {WireFrame(reply)};
     timer.enabled = true;
-    Tick();
-}
-
-bool LayoutFixture::IsGreen(const char* name) {
-    auto& control = Find<QWidget>(name);
-    const bool isField = qobject_cast<QLineEdit*>(&control) != nullptr;
-    const QColor ground = control.palette().color(isField ? QPalette::Base : QPalette::Window);
-    return ground == QColor(0, 255, 0) && control.autoFillBackground();
+    Poll();
 }
 
 }  // namespace zelvar::testing

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QColor>
-
 #include <map>
 #include <string>
 #include <vector>
@@ -40,9 +38,6 @@ class LayoutFixture : public WindowFixture {
 
     /// Delivers a reply unasked, with a poll.
     void Receive(const Values& reply);
-
-    bool IsShown(const char* name) { return !Find<QWidget>(name).isHidden(); }
-    bool IsGreen(const char* name);
 
     /// Status byte by module address.
     std::map<int, int> modules;

@@ -37,9 +37,9 @@ class MasterSlaveCheckTest : public ConfigFixture {
   protected:
     MasterSlaveCheckTest() {
         port.replyDelay = kPollTime;
-        registry.vdType[3] = kVdF;
-        registry.vdType[8] = kQlrxS;
-        registry.vdType[40] = kVd60;
+        registry.vdTypes[3] = VDType::VdF;
+        registry.vdTypes[8] = VDType::QlrxS;
+        registry.vdTypes[40] = VDType::Vd60;
     }
 
     void Answer(int module, int parameter, int value) {
@@ -83,7 +83,7 @@ TEST_F(MasterSlaveCheckTest, ReportsOneMasterAndAsksAboutTheClocks) {
 
 TEST_F(MasterSlaveCheckTest, NeverAsksAQlrx) {
     registry = ModuleRegistry();
-    registry.vdType[8] = kQlrxS;
+    registry.vdTypes[8] = VDType::QlrxS;
     Run();
     EXPECT_TRUE(Commands().empty());
     EXPECT_EQ(messageBox.shown, std::vector{Critical("\r\nYour system has no master!")});

@@ -40,10 +40,10 @@ class TypedNumber : public NumberFields, public ::testing::WithParamInterface<Ty
 
 TEST_P(TypedNumber, IsClampedWhenItsFieldIs) {
     const TypedCase& row = GetParam();
-    Type(row.field, QString::fromUtf8(row.typed));
-    EXPECT_EQ(TextOf(row.field), QString::fromUtf8(row.shown));
+    Type(row.field, row.typed);
+    EXPECT_EQ(TextOf(row.field), row.shown);
     Click(row.button);
-    EXPECT_EQ(TextOf(row.field), QString::fromUtf8(row.afterClick));
+    EXPECT_EQ(TextOf(row.field), row.afterClick);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -97,13 +97,13 @@ TEST_P(SpinControl, StepsByOneToBothEndsOfItsRange) {
     };
     for (const End& end : {End{row.maximum - 2, Qt::Key_Up, row.maximum},
                            End{row.minimum + 2, Qt::Key_Down, row.minimum}}) {
-        Type(row.field, QString::number(end.from));
+        Type(row.field, end.from);
         QTest::keyClick(&spin, end.key);
-        EXPECT_EQ(TextOf(row.field).toInt(), (end.from + end.last) / 2) << "one step";
+        EXPECT_EQ(NumberIn(row.field), (end.from + end.last) / 2) << "one step";
         QTest::keyClick(&spin, end.key);
-        EXPECT_EQ(TextOf(row.field).toInt(), end.last);
+        EXPECT_EQ(NumberIn(row.field), end.last);
         QTest::keyClick(&spin, end.key);
-        EXPECT_EQ(TextOf(row.field).toInt(), end.last) << "beyond the end";
+        EXPECT_EQ(NumberIn(row.field), end.last) << "beyond the end";
     }
 }
 

@@ -22,7 +22,7 @@ using Entries = std::vector<SelectionEntry>;
 
 struct ListRow {
     const char* name;
-    std::vector<std::pair<int, std::int16_t>> lines;
+    std::vector<std::pair<int, VDType>> lines;
     bool classic;
     Entries entries;
     int selected;
@@ -34,7 +34,7 @@ TEST_P(TractionModules, AreListedBehindTheirGroups) {
     const ListRow& row = GetParam();
     ModuleRegistry registry;
     for (const auto& [line, type] : row.lines) {
-        registry.vdType[static_cast<std::size_t>(line)] = type;
+        registry.vdTypes.at(static_cast<unsigned>(line)) = type;
     }
     const SelectionList list = TractionModuleList(registry, row.classic);
     EXPECT_EQ(list.entries, row.entries);
@@ -45,21 +45,30 @@ INSTANTIATE_TEST_SUITE_P(
     NewView, TractionModules,
     ::testing::Values(
         ListRow{"None", {}, false, {}, -1},
-        ListRow{"OneVdF", {{5, kVdF}}, false, {{"All_VDxx", -1}, {"All_VD-F", -2}, {" 5", 5}}, 2},
+        ListRow{"OneVdF",
+                {{5, VDType::VdF}},
+                false,
+                {{"All_VDxx", -1}, {"All_VD-F", -2}, {" 5", 5}},
+                2},
         ListRow{"OneVd60WithoutSecondary",
-                {{0, kVd60}},
+                {{0, VDType::Vd60}},
                 false,
                 {{"All_VDxx", -1}, {"All_VD60", -4}, {" 0.0", 0}},
                 2},
         ListRow{"Vd60Pair",
-                {{19, kVd60}, {51, kVd60}},
+                {{19, VDType::Vd60}, {51, VDType::Vd60}},
                 false,
                 {{"All_VDxx", -1}, {"All_VD60", -4}, {" 19.0", 19}, {" 19.1", 51}},
                 2},
-        ListRow{"OneQlrx", {{31, kQlrxS}}, false, {{"All_QLRX", -3}, {" 31", 31}}, 1},
-        ListRow{"OneUnknown", {{7, kVdUnknown}}, false, {{" 7", 7}}, 0},
+        ListRow{"OneQlrx", {{31, VDType::QlrxS}}, false, {{"All_QLRX", -3}, {" 31", 31}}, 1},
+        ListRow{"OneUnknown", {{7, VDType::Unknown}}, false, {{" 7", 7}}, 0},
         ListRow{"AllTypes",
-                {{1, kVdUnknown}, {2, kQlrxS}, {3, kVdF}, {4, kVd60}, {36, kVd60}, {30, kVdF}},
+                {{1, VDType::Unknown},
+                 {2, VDType::QlrxS},
+                 {3, VDType::VdF},
+                 {4, VDType::Vd60},
+                 {36, VDType::Vd60},
+                 {30, VDType::VdF}},
                 false,
                 {{"All_VDxx", -1},
                  {"All_VD60", -4},
@@ -72,9 +81,9 @@ INSTANTIATE_TEST_SUITE_P(
                  {" 4.1", 36},
                  {" 30", 30}},
                 4},
-        ListRow{"SecondaryWithoutItsPrimary", {{40, kVd60}}, false, {}, -1},
+        ListRow{"SecondaryWithoutItsPrimary", {{40, VDType::Vd60}}, false, {}, -1},
         ListRow{"SecondaryBesideAnotherType",
-                {{4, kVdF}, {36, kVd60}},
+                {{4, VDType::VdF}, {36, VDType::Vd60}},
                 false,
                 {{"All_VDxx", -1}, {"All_VD-F", -2}, {" 4", 4}},
                 2}),
@@ -82,16 +91,20 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     ClassicView, TractionModules,
-    ::testing::Values(ListRow{"None", {}, true, {}, -1},
-                      ListRow{"OneVdF", {{5, kVdF}}, true, {{"All_VD-F", -2}, {" 5", 5}}, 1},
-                      ListRow{"BothTypes",
-                              {{15, kQlrxS}, {0, kVdF}},
-                              true,
-                              {{"All_VD-F", -2}, {"All_QLRX", -3}, {" 0", 0}, {" 15", 15}},
-                              2},
-                      // Lines of an earlier new view stay in the registry, unseen.
-                      ListRow{"LinesBeyondItsRange", {{16, kVdF}, {31, kQlrxS}}, true, {}, -1}),
+    ::testing::Values(
+        ListRow{"None", {}, true, {}, -1},
+        ListRow{"OneVdF", {{5, VDType::VdF}}, true, {{"All_VD-F", -2}, {" 5", 5}}, 1},
+        ListRow{"BothTypes",
+                {{15, VDType::QlrxS}, {0, VDType::VdF}},
+                true,
+                {{"All_VD-F", -2}, {"All_QLRX", -3}, {" 0", 0}, {" 15", 15}},
+                2},
+        // Lines of an earlier new view stay in the registry, unseen.
+        ListRow{"LinesBeyondItsRange", {{16, VDType::VdF}, {31, VDType::QlrxS}}, true, {}, -1}),
     [](const auto& row) { return std::string(row.param.name); });
+
+/// Point-motor modules have no type.
+constexpr VDType kHere = VDType::Unknown;
 
 class PointMotorModules : public ::testing::TestWithParam<ListRow> {};
 
@@ -99,7 +112,7 @@ TEST_P(PointMotorModules, AreListedBehindAll) {
     const ListRow& row = GetParam();
     ModuleRegistry registry;
     for (const auto& [position, present] : row.lines) {
-        registry.jsPresent[static_cast<std::size_t>(position)] = present;
+        registry.jsPresent.at(static_cast<unsigned>(position)) = present != VDType::Absent;
     }
     const SelectionList list = PointMotorModuleList(registry, row.classic);
     EXPECT_EQ(list.entries, row.entries);
@@ -110,26 +123,23 @@ INSTANTIATE_TEST_SUITE_P(
     BothViews, PointMotorModules,
     ::testing::Values(
         ListRow{"None", {}, false, {}, -1},
-        ListRow{"One", {{9, kJsPresent}}, false, {{"All", -1}, {" 9", 9}}, 1},
+        ListRow{"One", {{9, kHere}}, false, {{"All", -1}, {" 9", 9}}, 1},
         ListRow{"FirstAndLast",
-                {{15, kJsPresent}, {0, kJsPresent}},
+                {{15, kHere}, {0, kHere}},
                 false,
                 {{"All", -1}, {" 0", 0}, {" 15", 15}},
                 1},
-        ListRow{"ClassicNone", {{8, kJsPresent}}, true, {}, -1},
-        ListRow{
-            "ClassicLast", {{7, kJsPresent}, {8, kJsPresent}}, true, {{"All", -1}, {" 7", 7}}, 1}),
+        ListRow{"ClassicNone", {{8, kHere}}, true, {}, -1},
+        ListRow{"ClassicLast", {{7, kHere}, {8, kHere}}, true, {{"All", -1}, {" 7", 7}}, 1}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(ModuleRegistryTest, StartsWithoutModules) {
     const ModuleRegistry registry;
-    EXPECT_EQ(registry.vdType.size(), 65U);
-    EXPECT_EQ(registry.jsPresent.size(), 17U);
-    for (const std::int16_t type : registry.vdType) {
-        EXPECT_EQ(type, -1);
+    for (const VDType type : registry.vdTypes) {
+        EXPECT_EQ(type, VDType::Absent);
     }
-    for (const std::int16_t present : registry.jsPresent) {
-        EXPECT_EQ(present, -1);
+    for (const bool present : registry.jsPresent) {
+        EXPECT_FALSE(present);
     }
 }
 

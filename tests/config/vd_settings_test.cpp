@@ -172,7 +172,7 @@ TEST(VDSettings, CoverTheParametersOneToFifteenOnce) {
 
 struct ReplyCase {
     const char* name;
-    ReplyBuffer reply;
+    std::vector<int> values;
     std::optional<int> module;
     bool permanent;
     /// -1: the reply is ignored.
@@ -182,30 +182,31 @@ struct ReplyCase {
 class ConfigReply : public ::testing::TestWithParam<ReplyCase> {};
 
 TEST_P(ConfigReply, IsReadOnlyFromTheChosenModule) {
-    const auto read = ReadVDConfigReply(GetParam().reply, GetParam().module, GetParam().permanent);
+    const auto read = ReadVDConfigReply(MakeReply(0x0D, GetParam().values), GetParam().module,
+                                        GetParam().permanent);
     EXPECT_EQ(read ? read->parameter : -1, GetParam().parameter);
     if (read) {
-        EXPECT_EQ(read->value, GetParam().reply[5]);
+        EXPECT_EQ(read->value, 9);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(
     OfModules, ConfigReply,
-    ::testing::Values(ReplyCase{"Channel0", {13, 0, 37, 10, 1, 9}, 5, false, 1},
-                      ReplyCase{"Channel1", {13, 0, 51, 10, 1, 9}, 19, false, 1},
-                      ReplyCase{"Secondary", {13, 0, 37, 26, 15, 9}, 37, false, 15},
-                      ReplyCase{"Permanent", {13, 0, 37, 10, 65, 9}, 5, true, 1},
-                      ReplyCase{"OtherModule", {13, 0, 38, 10, 1, 9}, 5, false, -1},
-                      ReplyCase{"SecondaryForPrimary", {13, 0, 37, 26, 1, 9}, 5, false, -1},
-                      ReplyCase{"PrimaryForSecondary", {13, 0, 37, 10, 1, 9}, 37, false, -1},
-                      ReplyCase{"OtherCode", {13, 0, 37, 8, 1, 9}, 5, false, -1},
-                      ReplyCase{"GroupChosen", {13, 0, 63, 10, 1, 9}, -1, false, -1},
-                      ReplyCase{"NothingChosen", {13, 0, 32, 10, 1, 9}, {}, false, -1}),
+    ::testing::Values(ReplyCase{"Channel0", {0, 37, 10, 1, 9}, 5, false, 1},
+                      ReplyCase{"Channel1", {0, 51, 10, 1, 9}, 19, false, 1},
+                      ReplyCase{"Secondary", {0, 37, 26, 15, 9}, 37, false, 15},
+                      ReplyCase{"Permanent", {0, 37, 10, 65, 9}, 5, true, 1},
+                      ReplyCase{"OtherModule", {0, 38, 10, 1, 9}, 5, false, -1},
+                      ReplyCase{"SecondaryForPrimary", {0, 37, 26, 1, 9}, 5, false, -1},
+                      ReplyCase{"PrimaryForSecondary", {0, 37, 10, 1, 9}, 37, false, -1},
+                      ReplyCase{"OtherCode", {0, 37, 8, 1, 9}, 5, false, -1},
+                      ReplyCase{"GroupChosen", {0, 63, 10, 1, 9}, -1, false, -1},
+                      ReplyCase{"NothingChosen", {0, 32, 10, 1, 9}, {}, false, -1}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(ConfigReplyOfTheOtherMemory, MatchesNoSetting) {
-    const auto permanentReply = ReadVDConfigReply({13, 0, 37, 10, 65, 9}, 5, false);
-    const auto activeReply = ReadVDConfigReply({13, 0, 37, 10, 1, 9}, 5, true);
+    const auto permanentReply = ReadVDConfigReply(MakeReply(0x0D, {0, 37, 10, 65, 9}), 5, false);
+    const auto activeReply = ReadVDConfigReply(MakeReply(0x0D, {0, 37, 10, 1, 9}), 5, true);
     ASSERT_TRUE(permanentReply && activeReply);
     for (const VDSetting& setting : VDSettings()) {
         for (const VDReply& reply : {*permanentReply, *activeReply}) {

@@ -39,7 +39,7 @@ TEST_P(FieldReply, IsWrittenInGreen) {
     const FieldCase& row = GetParam();
     EXPECT_FALSE(IsGreen(row.field));
     Report(row.parameter, row.value);
-    EXPECT_EQ(TextOf(row.field), QString::fromUtf8(row.shown));
+    EXPECT_EQ(TextOf(row.field), row.shown);
     EXPECT_TRUE(IsGreen(row.field));
 }
 
@@ -103,37 +103,37 @@ TEST_F(VDTabReply, AValueThatTheSettingDoesNotHaveChangesNothing) {
 
 TEST_F(VDTabReply, OfThePermanentMemoryIsShownOnlyWhilePermanentIsTicked) {
     Report(65, 9);
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("0"));
+    EXPECT_EQ(TextOf("txtHFI"), "0");
     Click("chkVDperm");
     Report(1, 8);
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("0"));
+    EXPECT_EQ(TextOf("txtHFI"), "0");
     Report(65, 9);
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("9"));
+    EXPECT_EQ(TextOf("txtHFI"), "9");
     EXPECT_TRUE(IsGreen("txtHFI"));
 }
 
 TEST_F(VDTabReply, OfAnotherModuleIsIgnored) {
     Receive({0, 45, 10, 1, 9});
     Receive({0, 44, 26, 1, 9});
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("0"));
+    EXPECT_EQ(TextOf("txtHFI"), "0");
 }
 
 TEST_F(VDTabReply, OfTheOtherLoopIsNotShown) {
     Report(14, 44);
-    EXPECT_EQ(TextOf("txtLC"), QStringLiteral("20"));
+    EXPECT_EQ(TextOf("txtLC"), "20");
     Click("OptLC(1)");
     Report(13, 33);
-    EXPECT_EQ(TextOf("txtLC"), QStringLiteral("20"));
+    EXPECT_EQ(TextOf("txtLC"), "20");
     Report(14, 44);
-    EXPECT_EQ(TextOf("txtLC"), QStringLiteral("44"));
+    EXPECT_EQ(TextOf("txtLC"), "44");
 }
 
 TEST_F(VDTabReply, ToAGetAppearsWhileTheCommandRuns) {
-    Choose("cboVD", QStringLiteral(" 12"));
+    Choose("cboVD", " 12");
     // The Get buttons are hidden for this type; the Set button's command serves as well.
     port.replies = {EmptyReply(), WireFrame({0, 44, 10, 8, 6}), EmptyReply()};
     Click("cmdDCShift(0)");
-    EXPECT_EQ(TextOf("txtDCShift"), QStringLiteral("6"));
+    EXPECT_EQ(TextOf("txtDCShift"), "6");
     EXPECT_TRUE(IsGreen("txtDCShift"));
 }
 
@@ -210,7 +210,7 @@ TEST_F(VDTabReply, ASpinControlTurnsItsFieldBackAndStepsFromWhatItShows) {
     Report(1, 9);
     ASSERT_TRUE(IsGreen("txtHFI"));
     Find<QAbstractSpinBox>("updownHFI").stepUp();
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("10"));
+    EXPECT_EQ(TextOf("txtHFI"), "10");
     EXPECT_FALSE(IsGreen("txtHFI"));
 }
 

@@ -24,7 +24,7 @@ class VDTabTest : public LayoutFixture {
                    {39, kQlrxStatus},
                    {44, kUnknownStatus}};
         RequestStatus();
-        EXPECT_EQ(TextOf("lblVDtype"), QStringLiteral("VD-F"));
+        EXPECT_EQ(TextOf("lblVDtype"), "VD-F");
     }
 };
 
@@ -43,16 +43,16 @@ class VDEntry : public VDTabTest, public ::testing::WithParamInterface<EntryCase
 
 TEST_P(VDEntry, IsClampedAndSent) {
     const EntryCase& row = GetParam();
-    Choose("cboVD", QStringLiteral(" 12"));
+    Choose("cboVD", " 12");
     if (*row.option != 0) {
         Click(row.option);
     }
     if (*row.field != 0) {
-        Type(row.field, QString::fromUtf8(row.typed));
+        Type(row.field, row.typed);
     }
     Click(row.button);
     if (*row.field != 0) {
-        EXPECT_EQ(TextOf(row.field), QString::fromUtf8(row.shown));
+        EXPECT_EQ(TextOf(row.field), row.shown);
     }
     EXPECT_EQ(Commands(), row.sent);
     EXPECT_TRUE(messageBox.shown.empty());
@@ -123,9 +123,9 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(VDTabTest, AGetClampsTheFieldAndSendsNoValue) {
-    Type("txtHFI", QStringLiteral("20"));
+    Type("txtHFI", "20");
     Click("cmdHFI(1)");
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("15"));
+    EXPECT_EQ(TextOf("txtHFI"), "15");
     EXPECT_EQ(port.SentValues(), (Frames{{}, {0, 37, 8, 1}, {}}));
 }
 
@@ -137,7 +137,7 @@ TEST_F(VDTabTest, PermanentAddsItsBitToTheParameter) {
 }
 
 TEST_F(VDTabTest, ASwitchDelayOfAVD60IsBankZeroAlone) {
-    Choose("cboVD", QStringLiteral(" 19.1"));
+    Choose("cboVD", " 19.1");
     Click("cmdSW(0)");
     EXPECT_EQ(Commands(), (Frames{{0, 51, 24, 4, 0}, {0, 51, 24, 6, 0}}));
 }
@@ -159,14 +159,14 @@ TEST_F(VDTabTest, ASwitchDelayOfAVDFIsBothBanks) {
 }
 
 TEST_F(VDTabTest, AGroupReachesEachOfItsModules) {
-    Choose("cboVD", QStringLiteral("All_VD60"));
+    Choose("cboVD", "All_VD60");
     Click("cmdHFI(0)");
     EXPECT_EQ(port.SentValues(), (Frames{{}, {0, 51, 8, 1, 0}, {0, 51, 24, 1, 0}, {}}));
 }
 
 TEST_F(VDTabTest, WithThePortClosedEverySettingTellsItOnceAndStillClamps) {
-    Choose("cboVD", QStringLiteral(" 12"));
-    Type("txtHFI", QStringLiteral("20"));
+    Choose("cboVD", " 12");
+    Type("txtHFI", "20");
     Click("cmdRefresh");
     for (const char* button : {"cmdHFI(0)", "cmdAL(0)", "cmdSW(0)", "cmdDCShift(0)", "cmdPWMM(0)",
                                "cmdOCD(0)", "cmdMS(0)", "cmdPC(0)", "cmdLC(0)", "cmdAD(0)"}) {
@@ -175,7 +175,7 @@ TEST_F(VDTabTest, WithThePortClosedEverySettingTellsItOnceAndStillClamps) {
         EXPECT_EQ(messageBox.shown, std::vector{Exclamation("Please select Comm-Port")}) << button;
     }
     EXPECT_TRUE(port.sent.empty());
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("15"));
+    EXPECT_EQ(TextOf("txtHFI"), "15");
 }
 
 const ShownBox kVDWarning{
@@ -205,7 +205,7 @@ TEST_F(VDTabTest, EraseAsksBeforeItLooksAtThePort) {
 }
 
 TEST_F(VDTabTest, TheMasterSlaveCheckRunsForAllVDxxAlone) {
-    Choose("cboVD", QStringLiteral("All_VDxx"));
+    Choose("cboVD", "All_VDxx");
     port.responder = [](const SentFrame& frame) {
         return frame.values.size() == 4
                    ? WireFrame({0, frame.values[1], frame.values[2] + 2, frame.values[3], 2})
@@ -222,7 +222,7 @@ TEST_F(VDTabTest, TheMasterSlaveCheckRunsForAllVDxxAlone) {
                        BoxIcon::Critical, BoxButtons::Ok}}))
             << button;
     }
-    Choose("cboVD", QStringLiteral(" 5"));
+    Choose("cboVD", " 5");
     port.ForgetSent();
     Click("cmdMS(1)");
     EXPECT_EQ(Commands(), (Frames{{0, 37, 8, 11}}));
@@ -247,16 +247,16 @@ TEST_F(VDTabWithoutStatus, ASettingAsksForAStatusRequestAndSendsTheEmptyTransact
 
 TEST_F(VDTabWithoutStatus, AReplyIsIgnored) {
     Receive({0, 32, 10, 1, 9});
-    EXPECT_EQ(TextOf("txtHFI"), QStringLiteral("0"));
+    EXPECT_EQ(TextOf("txtHFI"), "0");
     EXPECT_FALSE(IsGreen("txtHFI"));
 }
 
 TEST_F(VDTabWithoutStatus, FieldsAndSpinControlsStartAtTheirMinimum) {
     for (const char* name : {"txtHFI", "txtAL(0)", "txtAL(1)", "txtSW(0)", "txtSW(1)", "txtSW(2)",
                              "txtSW(3)", "txtDCShift", "txtAD"}) {
-        EXPECT_EQ(TextOf(name), QStringLiteral("0")) << name;
+        EXPECT_EQ(TextOf(name), "0") << name;
     }
-    EXPECT_EQ(TextOf("txtLC"), QStringLiteral("20"));
+    EXPECT_EQ(TextOf("txtLC"), "20");
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ class VDTabView : public LayoutFixture, public ::testing::WithParamInterface<Vie
 
     bool IsShownOnTab(const std::string& name) {
         // A field is shown and hidden with its spin control.
-        QWidget* control = &Find<QWidget>(name.c_str());
+        QWidget* control = &Find<QWidget>(name);
         if (qobject_cast<QAbstractSpinBox*>(control->parentWidget()) != nullptr) {
             control = control->parentWidget();
         }
@@ -67,7 +67,7 @@ class VDTabView : public LayoutFixture, public ::testing::WithParamInterface<Vie
 
 TEST_P(VDTabView, ShowsTheControlsOfTheTarget) {
     const ViewCase& row = GetParam();
-    Choose("cboVD", QString::fromUtf8(row.entry));
+    Choose("cboVD", row.entry);
     Names shown;
     for (const std::string& name : kAll) {
         if (IsShownOnTab(name)) {
@@ -75,9 +75,9 @@ TEST_P(VDTabView, ShowsTheControlsOfTheTarget) {
         }
     }
     EXPECT_EQ(shown, row.shown);
-    EXPECT_EQ(TextOf("lblVDtype"), QString::fromUtf8(row.caption));
+    EXPECT_EQ(TextOf("lblVDtype"), row.caption);
     EXPECT_EQ(IsShown("lblVDtype"), row.captionShown);
-    EXPECT_EQ(TextOf("cmdMS(1)"), QString::fromUtf8(row.msCaption));
+    EXPECT_EQ(TextOf("cmdMS(1)"), row.msCaption);
     EXPECT_TRUE(IsShown("frmSW"));
     for (const char* field : {"updownSW(0)", "updownSW(2)"}) {
         EXPECT_EQ(TopInFrame(field), row.oneRow ? 24 : 8) << field;
@@ -116,7 +116,7 @@ TEST_F(VDTabView, NothingMovesWhenTheTargetChanges) {
         places.emplace_back(&control, QRect(control.mapTo(window.get(), QPoint()), control.size()));
     }
     for (const char* entry : {"All_VD60", "All_QLRX", "All_VDxx", " 12", " 5", " 19.0"}) {
-        Choose("cboVD", QString::fromUtf8(entry));
+        Choose("cboVD", entry);
         // Hiding and showing asks for the layout anew by events, which are handled here and now.
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
@@ -131,10 +131,10 @@ TEST_F(VDTabView, ABorderStandsAroundTheMasterSlaveModeWithItsFrameAlone) {
     const auto& panel = Find<QFrame>("frmMS").parentWidget();
     const auto shape = [&] { return qobject_cast<QFrame*>(panel)->frameShape(); };
     for (const char* entry : {" 5", " 12", " 19.0", "All_VD-F"}) {
-        Choose("cboVD", QString::fromUtf8(entry));
+        Choose("cboVD", entry);
         EXPECT_EQ(shape(), QFrame::StyledPanel) << entry;
     }
-    Choose("cboVD", QStringLiteral("All_VDxx"));
+    Choose("cboVD", "All_VDxx");
     EXPECT_EQ(shape(), QFrame::NoFrame);
 }
 
@@ -152,7 +152,7 @@ TEST_F(VDTabView, EverySettingStandsUnderItsTitle) {
 }
 
 TEST_F(VDTabView, FitsIntoAThousandBySevenHundredAndTwentyPixels) {
-    Choose("cboVD", QStringLiteral(" 12"));
+    Choose("cboVD", " 12");
     EXPECT_LE(window->minimumSizeHint().width(), 1000);
     EXPECT_LE(window->minimumSizeHint().height(), 720);
 }
@@ -161,10 +161,10 @@ class VDTabBeforeStatus : public LayoutFixture {};
 
 TEST_F(VDTabBeforeStatus, ShowsAllFramesAndNoType) {
     for (const std::string& name : kAll) {
-        EXPECT_TRUE(IsShown(name.c_str())) << name;
+        EXPECT_TRUE(IsShown(name)) << name;
     }
     EXPECT_FALSE(IsShown("lblVDtype"));
-    EXPECT_EQ(TextOf("cmdMS(1)"), QStringLiteral("Get MS-mode"));
+    EXPECT_EQ(TextOf("cmdMS(1)"), "Get MS-mode");
 }
 
 TEST_F(VDTabBeforeStatus, EveryControlHasItsCaptionAndAnAccessibleName) {
@@ -211,7 +211,7 @@ TEST_F(VDTabBeforeStatus, EveryControlHasItsCaptionAndAnAccessibleName) {
                                                             {"OptLC(1)", "Loop B"},
                                                             {"chkVDperm", "Permanent"}};
     for (const auto& [name, caption] : captions) {
-        EXPECT_EQ(TextOf(name), QString::fromUtf8(caption)) << name;
+        EXPECT_EQ(TextOf(name), caption) << name;
         EXPECT_FALSE(Find<QWidget>(name).accessibleName().isEmpty()) << name;
     }
 }

@@ -31,14 +31,14 @@ bool IsFileOfTheProject(const std::string& name) {
     return false;
 }
 
-/// Whether a text in backticks is meant as a file of the project, which has a folder before it.
+/// Whether a text in backticks names a file of the project, which has a folder before it.
 bool LooksLikeAFile(const std::string& text) {
     static const std::regex kFile("(\\./)?[A-Za-z][A-Za-z0-9_.-]*(/[A-Za-z0-9_.-]*)*");
     return text.find('/') != std::string::npos && std::regex_match(text, kFile) &&
            !text.starts_with("build/");
 }
 
-/// The anchor that a heading gets: small letters, digits, and hyphens for blanks.
+/// The anchor that a heading gets: lowercase letters, digits, and hyphens for spaces.
 std::string AnchorOf(const std::string& heading) {
     std::string anchor;
     for (const char c : heading) {

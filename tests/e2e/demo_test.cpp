@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "harness/child_process.h"
-#include "harness/temp_folder.h"
 
 namespace zelvar::e2e {
 
@@ -47,12 +46,11 @@ class SideBySide : public ::testing::Test {
         const std::string programs = std::filesystem::path(ZELVARSIM_PROGRAM).parent_path();
         both_.emplace(
             std::vector<std::string>{ZELVAR_SOURCE_FOLDER "/tools/side-by-side", programs},
-            Variables{{"QT_QPA_PLATFORM", platform},
-                      {"DISPLAY", "/nowhere:99"},
-                      {"WAYLAND_DISPLAY", std::nullopt},
-                      {"TMPDIR", folder_.Path("")},
-                      {"ZELVAR_TEST_MARK", folder_.Path("mark")}},
-            folder_.Path("errors"));
+            StartOptions{{{"QT_QPA_PLATFORM", platform},
+                          {"DISPLAY", "/nowhere:99"},
+                          {"WAYLAND_DISPLAY", std::nullopt},
+                          {"TMPDIR", folder_.Path("")},
+                          {"ZELVAR_TEST_MARK", folder_.Path("mark")}}});
     }
 
     pid_t Find(const std::string& name) {
@@ -86,7 +84,7 @@ class SideBySide : public ::testing::Test {
 TEST_F(SideBySide, TheConsoleEndsBoth) {
     Start();
     Find("zelvarconfig");
-    ASSERT_TRUE(both_->Console().Send("quit"));
+    ASSERT_TRUE(both_->Send("quit"));
     EXPECT_EQ(End(), 0);
 }
 

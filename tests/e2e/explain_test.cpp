@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 //
-// What the program writes to its message log on a journey, told in words by the simulator.
+// The message log of a journey, explained in words by the simulator.
 #include <fstream>
 #include <sstream>
 
@@ -29,14 +29,11 @@ class ExplainedLog : public Journey {
         program->Choose("cboVD", " 1");
         program->Click("cmdHFI(1)");
         ASSERT_TRUE(program->Shows("txtHFI", "6"));
-        program->ToFront("cmdConfig(1)");
         program->Click("cmdConfig(1)");
-        program->ToFront("AnalogSpeed");
         program->Type("txtTestBlock", "5");
-        program->Ask({"key", "AnalogSpeed", "End"});
+        program->Key("AnalogSpeed", "End");
         ASSERT_TRUE(Until([&] { return unit->Count("command.analog-speed") == 1; }));
         for (const char* button : {"cmdEstopDCC", "cmdEstopMCC", "cmdTestJS70(1)", "cmdTestYR70"}) {
-            program->ToFront(button);
             program->Click(button);
         }
         unit->Do("overcurrent 133");
@@ -49,14 +46,13 @@ class ExplainedLog : public Journey {
         ASSERT_TRUE(Polls());
     }
 
-    /// The log as somebody saves it who has copied it, explained by a simulator of its own.
+    /// The log, copied into a file and explained by another simulator.
     std::vector<std::string> Explain(const std::string& log) {
         const std::string path = folder.Path("log");
         std::ofstream(path) << log;
-        ChildProcess explainer({ZELVARSIM_PROGRAM, "--explain", path}, {},
-                               folder.Path("explain.err"));
+        ChildProcess explainer({ZELVARSIM_PROGRAM, "--explain", path});
         std::vector<std::string> lines;
-        while (const std::optional<std::string> line = explainer.Console().Receive()) {
+        while (const std::optional<std::string> line = explainer.Receive()) {
             lines.push_back(*line);
         }
         EXPECT_EQ(explainer.WaitForExit(), 0);
@@ -66,7 +62,7 @@ class ExplainedLog : public Journey {
 
 TEST_F(ExplainedLog, OfAJourneyHasNoLineWithoutAMeaning) {
     Travel();
-    const std::string log = program->Text("txtMsgLog");
+    const std::string log = program->TextOf("txtMsgLog");
     const std::vector<std::string> lines = LinesOf(log);
     const std::vector<std::string> explained = Explain(log);
     ASSERT_EQ(explained.size(), lines.size());

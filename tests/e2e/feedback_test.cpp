@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include <map>
 #include <numeric>
-#include <set>
 
 #include "harness/journey.h"
 
@@ -20,13 +19,12 @@ constexpr char kInactive[] = "#ffffff";
 class FeedbackMonitor : public Journey {
   protected:
     void Open() {
-        program->ToFront("CommandTestFBM");
         program->Click("CommandTestFBM");
         ASSERT_TRUE(program->Says({"window", kMonitor}, "visible"));
         none_ = Colour("lblFBMform(3)");
     }
 
-    /// Inputs that are active before anybody has looked: their reports are gone.
+    /// Inputs that are active, their reports lost.
     void SetUnreported(const std::vector<int>& inputs) {
         for (const int input : inputs) {
             unit->Do("feedback " + std::to_string(input) + " 1");
@@ -35,9 +33,7 @@ class FeedbackMonitor : public Journey {
         ASSERT_EQ(unit->Count("pending-reports"), 0);
     }
 
-    std::string Colour(const std::string& label) {
-        return program->AskOne({"colour", label, "Window"});
-    }
+    std::string Colour(const std::string& label) { return program->ColourOf(label, "Window"); }
     std::string ColourOf(int label) { return Colour(Label(label)); }
     static std::string Label(int index) { return "lblFBM(" + std::to_string(index) + ")"; }
 
@@ -50,14 +46,6 @@ class FeedbackMonitor : public Journey {
         for (int label = 0; label < kLabels; ++label) {
             const auto other = others.find(label);
             EXPECT_EQ(ColourOf(label), other == others.end() ? colour : other->second) << label;
-        }
-    }
-
-    /// Makes the program fetch what waits, whatever its timer does: a configuration command does.
-    void AskForReports() {
-        while (unit->Count("pending-reports") > 0) {
-            program->Click("cmdOptions");
-            ASSERT_EQ(program->Box(), BoxText());
         }
     }
 
@@ -84,7 +72,7 @@ TEST_F(FeedbackMonitor, OpensEmptyAndFollowsTheInputs) {
     StartAndPoll();
     EXPECT_EQ(program->Window(kMonitor), "absent");
     Open();
-    EXPECT_EQ(program->AskOne({"title", kMonitor}), "Feedback Monitor");
+    EXPECT_EQ(program->TitleOf(kMonitor), "Feedback Monitor");
     EXPECT_NE(none_, kActive);
     EXPECT_NE(none_, kInactive);
     ExpectLabels(none_, {});
@@ -96,42 +84,6 @@ TEST_F(FeedbackMonitor, OpensEmptyAndFollowsTheInputs) {
     EXPECT_EQ(Requests(), 0) << "an opened monitor asks for nothing";
     program->Click("cmdReset");
     EXPECT_EQ(program->Box(), BoxText()) << "the main window keeps working";
-}
-
-TEST_F(FeedbackMonitor, KeepsWhatWasReportedBeforeItWasShown) {
-    StartAndPoll();
-    unit->Do("feedback 3 1");
-    ASSERT_TRUE(program->Says({"window", kMonitor}, "hidden")) << "made by the first report";
-    unit->Do("feedback 3 0");
-    unit->Do("feedback 12 1");
-    unit->Do("feedback 2047 1");
-    ASSERT_TRUE(Until([this] { return unit->Count("pending-reports") == 0; }));
-    ASSERT_TRUE(Polls());
-    EXPECT_EQ(program->Window(kMonitor), "hidden") << "no report brings it into view";
-    Open();
-    ExpectLabels(none_, {{3, kInactive}, {12, kActive}});
-
-    program->Ask({"close", kMonitor});
-    ASSERT_TRUE(program->Says({"window", kMonitor}, "absent"));
-    Open();
-    ExpectLabels(none_, {});
-}
-
-TEST_F(FeedbackMonitor, ShowsTheInputsOfItsLayout) {
-    StartAndPoll();
-    unit->Do("feedback 1807 1");
-    ASSERT_TRUE(program->Says({"window", kMonitor}, "hidden"));
-    Open();
-    ExpectLabels(none_, {});
-    program->Click("opFBmod(3)");
-    EXPECT_EQ(program->Text(Label(16)), "128");
-    EXPECT_EQ(program->Text(Label(127)), "911");
-    program->Click("opFBmod(1)");
-    EXPECT_EQ(program->Text(Label(127)), "239");
-    unit->Do("feedback 239 1");
-    EXPECT_TRUE(Becomes(127, kActive));
-    program->Click("opFBmod(0)");
-    ExpectLabels(none_, {});
 }
 
 TEST_F(FeedbackMonitor, RequestDataAsksForEachInputOnceInOrder) {
@@ -148,84 +100,6 @@ TEST_F(FeedbackMonitor, RequestDataAsksForEachInputOnceInOrder) {
     std::vector<int> all(kLabels);
     std::iota(all.begin(), all.end(), 0);
     EXPECT_EQ(Requested(), all);
-    EXPECT_EQ(program->BoxesShown().size(), 0U);
-}
-
-TEST_F(FeedbackMonitor, ASilentUnitEndsTheCycleWithOneBoxAndItGoesOnLater) {
-    StartAndOpen();
-    SetUnreported({1, 20});
-    program->Click("cmdReset");
-    Open();
-    program->Click("cmdFBMrefresh");
-    ASSERT_TRUE(Until([this] { return Requests() > 3; }));
-    unit->Do("silent on");
-    EXPECT_EQ(program->AwaitBox(), NoResponseBox());
-    program->Answer("OK");
-    EXPECT_TRUE(DoesNotPoll());
-    EXPECT_EQ(program->BoxesShown().size(), 1U);
-    EXPECT_EQ(ColourOf(1), kActive);
-    EXPECT_EQ(ColourOf(20), none_);
-
-    unit->Do("silent off");
-    program->Click("cmdReset");
-    EXPECT_TRUE(Becomes(20, kActive));
-    EXPECT_EQ(program->BoxesShown().size(), 1U);
-    int unknown = 0;
-    for (int label = 0; label < 20; ++label) {
-        unknown += ColourOf(label) == none_ ? 1 : 0;
-    }
-    EXPECT_EQ(unknown, 1) << "the one request that was lost is not repeated";
-}
-
-TEST_F(FeedbackMonitor, ReportsThatComeUnaskedInBetweenAreKept) {
-    StartAndOpen();
-    SetUnreported({2, 50, 100});
-    program->Click("cmdReset");
-    Open();
-    program->ToFront("cmdOptions");
-    unit->Do("trace on");
-    program->Click("cmdFBMrefresh");
-    ASSERT_TRUE(Until([this] { return Requests() > 3; }));
-    // Inputs whose turn is over, is still to come, or never comes; and other reports.
-    for (const char* report : {"feedback 0 1", "feedback 104 1", "feedback 100 0", "feedback 700 1",
-                               "speed 0 21 forward", "overcurrent 4"}) {
-        unit->Do(report);
-    }
-    // A handler's empty transactions bring them while the cycle runs.
-    AskForReports();
-    EXPECT_LT(Requests(), 100) << "the reports came too late for this test";
-    EXPECT_EQ(program->Window("dlgAlarmLog"), "visible");
-    constexpr int kLast = 110;
-    EXPECT_TRUE(Becomes(kLast, kInactive));
-    const std::set<int> active{0, 2, 50, 104};
-    for (int label = 0; label <= kLast; ++label) {
-        EXPECT_EQ(ColourOf(label), active.contains(label) ? kActive : kInactive) << label;
-    }
-    EXPECT_EQ(program->Text("lblTestAnalogSpeed"), ">>21");
-    std::vector<int> expected(kLast + 1);
-    std::iota(expected.begin(), expected.end(), 0);
-    std::erase_if(expected, [](int input) { return input == 100 || input == 104; });
-    std::vector<int> asked = Requested();
-    ASSERT_GE(asked.size(), expected.size());
-    asked.resize(expected.size());
-    EXPECT_EQ(asked, expected) << "what was reported meanwhile need not be asked for";
-    EXPECT_EQ(program->BoxesShown().size(), 0U);
-}
-
-TEST_F(FeedbackMonitor, AnswersThatComeLaterAreShownToo) {
-    StartAndOpen();
-    SetUnreported({2, 5});
-    program->Click("cmdReset");
-    Open();
-    program->ToFront("cmdOptions");
-    unit->Do("defer 6");
-    program->Click("cmdFBMrefresh");
-    EXPECT_TRUE(Becomes(6, kInactive));
-    AskForReports();
-    for (int label = 0; label <= 6; ++label) {
-        EXPECT_EQ(ColourOf(label), label == 2 || label == 5 ? kActive : kInactive) << label;
-    }
-    EXPECT_LT(Requests(), kLabels) << "the cycle still runs";
     EXPECT_EQ(program->BoxesShown().size(), 0U);
 }
 

@@ -76,13 +76,6 @@ std::vector<std::string> Words(const std::string& line) {
     return {std::istream_iterator<std::string>(in), {}};
 }
 
-/// One of the two programs that make the line longer.
-class Relay : public ChildProcess {
-  public:
-    Relay(const std::vector<std::string>& arguments, const std::string& errorFile)
-        : ChildProcess(arguments, {}, errorFile) {}
-};
-
 /// The program reaches the unit through ser2net and socat, set up as the manual says.
 class Network : public Journey {
   protected:
@@ -103,27 +96,22 @@ class Network : public Journey {
         std::ofstream(path) << configuration_;
         // Without -u a server that a test kills would leave the lock of its device behind.
         server_.emplace(std::vector<std::string>{ser2net_, "-n", "-d", "-u", "-c", path, "-P",
-                                                 folder.Path("pid")},
-                        folder.Path("ser2net.err"));
+                                                 folder.Path("pid")});
     }
 
     /// Returns when the line is up. The server may still be starting.
     void StartClient() {
-        const std::string log = folder.Path("socat" + std::to_string(++clients_) + ".err");
         const std::vector<std::string> addresses = Words(command_);
         client_.emplace(std::vector<std::string>{socat_, "-d", "-d", addresses[0],
-                                                 addresses[1] + ",retry=100,interval=0.1"},
-                        log);
-        ASSERT_TRUE(Until([&] {
-            std::ifstream in(log);
-            const std::string text(std::istreambuf_iterator<char>(in), {});
-            return text.find("starting data transfer") != std::string::npos;
+                                                 addresses[1] + ",retry=100,interval=0.1"});
+        ASSERT_TRUE(Until([this] {
+            return client_->Errors().find("starting data transfer") != std::string::npos;
         })) << client_->Describe();
     }
 
     void OpenPort() {
         program->Choose("cboPort", "1");
-        ASSERT_EQ(program->Text("lblBarDevice"), "Port 1: " + link_ + ", 19k2");
+        ASSERT_EQ(program->TextOf("lblBarDevice"), "Port 1: " + link_ + ", 19k2");
         program->Click("cmdReset");
         ASSERT_TRUE(program->Shows("lblBarStatus", "System Status = Stop"));
     }
@@ -141,9 +129,8 @@ class Network : public Journey {
     std::string link_ = folder.Path("line");
     std::string configuration_ = BlockOfManual("yaml", "%YAML");
     std::string command_ = BlockOfManual("sh", "socat ");
-    std::optional<Relay> server_;
-    std::optional<Relay> client_;
-    int clients_ = 0;
+    std::optional<ChildProcess> server_;
+    std::optional<ChildProcess> client_;
 };
 
 TEST_F(Network, StatusDriveAndAlarmWorkAsOnACable) {
@@ -151,9 +138,8 @@ TEST_F(Network, StatusDriveAndAlarmWorkAsOnACable) {
     EXPECT_TRUE(Polls());
     RequestStatus();
     EXPECT_GT(unit->Count("command.module-status"), 79) << "every place for a module is asked";
-    program->ToFront("AnalogSpeed");
     program->Type("txtTestBlock", "250");
-    program->Ask({"key", "AnalogSpeed", "End"});
+    program->Key("AnalogSpeed", "End");
     EXPECT_TRUE(Until([&] { return unit->Count("command.analog-speed") == 1; }));
     EXPECT_TRUE(program->Shows("lblTestAnalogSpeed", ">>63"));
     unit->Do("overcurrent 250");
@@ -165,9 +151,9 @@ TEST_F(Network, StatusDriveAndAlarmWorkAsOnACable) {
 TEST_F(Network, TheServerSetsTheRateOfTheLineNotTheProgram) {
     StartAll();
     EXPECT_EQ(unit->Value("line-baud"), "19200");
-    program->Ask({"doubleclick", "lblCom"});
+    program->DoubleClick("lblCom");
     program->Click("optBaud(1)");
-    EXPECT_EQ(program->Text("lblBarDevice"), "Port 1: " + link_ + ", 38k4");
+    EXPECT_EQ(program->TextOf("lblBarDevice"), "Port 1: " + link_ + ", 38k4");
     EXPECT_TRUE(Polls());
     EXPECT_EQ(unit->Value("line-baud"), "19200");
 }

@@ -46,7 +46,7 @@ class StatusViews : public Journey {
   protected:
     void ExpectField(const std::string& view, const std::string& field,
                      const std::string& expected) {
-        EXPECT_EQ(program->Text(view + "/" + field), expected) << field;
+        EXPECT_EQ(program->TextOf(view + "/" + field), expected) << field;
     }
 
     void ExpectUnits(const std::string& stateField, const std::string& versionField, int lines,
@@ -90,23 +90,28 @@ class StatusViews : public Journey {
             const bool present = module == 0 || module == 1 || module == 3;
             ExpectField(kClassicView, Indexed("txtJSstatus", module), present ? "OK" : kNone);
         }
-        EXPECT_EQ(program->Items("cboVD"), "All_VD-F|All_QLRX| 0| 1| 2| 4| 5| 6| 8| 9");
-        EXPECT_EQ(program->Text("cboVD"), " 0");
-        EXPECT_EQ(program->Items("cboJS"), "All| 0| 1| 3");
-        EXPECT_EQ(program->Text("cboJS"), " 0");
+        EXPECT_EQ(program->ItemsOf("cboVD"), "All_VD-F|All_QLRX| 0| 1| 2| 4| 5| 6| 8| 9");
+        EXPECT_EQ(program->TextOf("cboVD"), " 0");
+        EXPECT_EQ(program->ItemsOf("cboJS"), "All| 0| 1| 3");
+        EXPECT_EQ(program->TextOf("cboJS"), " 0");
     }
 };
 
 TEST_F(StatusViews, TheNewViewShowsTheWholeLayout) {
     StartAndOpen();
     RequestStatus();
-    EXPECT_EQ(program->AskOne({"title", kNewView}), "ZelvarConfig - Zelvar Status");
+    EXPECT_EQ(program->TitleOf(kNewView), "ZelvarConfig - Zelvar Status");
     ExpectField(kNewView, "txtSystem", "OK");
     ExpectField(kNewView, "txtSysVer", "KB-E 1.02");
     ExpectField(kNewView, "txtProtVer", "3.11 B");
     ExpectMixedLayout();
     EXPECT_NE(program->Window(kClassicView), "visible");
     EXPECT_EQ(program->BoxesShown().size(), 0U);
+    EXPECT_EQ(program->ItemsOf("cboVD"),
+              "All_VDxx|All_VD60|All_VD-F|All_QLRX| 0| 1| 2| 4.0| 4.1| 5.0| 6.0| 8| 9| 16| 19.0| "
+              "19.1| 24");
+    EXPECT_EQ(program->ItemsOf("cboJS"), "All| 0| 1| 3| 9| 15");
+    EXPECT_EQ(program->TextOf("frmZelvarConfig/lblKBtype"), "KB-E");
 
     // 32 primary units, the second units of four VD60s, 16 point-motor and 32 signal modules.
     EXPECT_EQ(unit->Count("command.module-status"), 32 + 4 + 16 + 32);
@@ -116,49 +121,9 @@ TEST_F(StatusViews, TheNewViewShowsTheWholeLayout) {
     EXPECT_EQ(unit->Count("broken-frames"), 0);
 }
 
-TEST_F(StatusViews, FillTheListsOfModules) {
-    StartAndOpen();
-    RequestStatus();
-    EXPECT_EQ(program->Items("cboVD"),
-              "All_VDxx|All_VD60|All_VD-F|All_QLRX| 0| 1| 2| 4.0| 4.1| 5.0| 6.0| 8| 9| 16| 19.0| "
-              "19.1| 24");
-    EXPECT_EQ(program->Text("cboVD"), " 0");
-    EXPECT_EQ(program->Items("cboJS"), "All| 0| 1| 3| 9| 15");
-    EXPECT_EQ(program->Text("cboJS"), " 0");
-    EXPECT_EQ(program->Text("frmZelvarConfig/lblKBtype"), "KB-E");
-    EXPECT_EQ(program->AskOne({"hidden", "frmZelvarConfig/lblKBtype"}), "no");
-}
-
-TEST_F(StatusViews, TheNextRequestRefreshesAnOpenView) {
-    StartAndOpen();
-    RequestStatus();
-    unit->Do("module 32 absent");
-    unit->Do("module 33 status 8");
-    unit->Do("hold on");
-    program->Click("cmdStatus");
-    EXPECT_TRUE(program->Shows("dlgZelvarStatus44/txtSystem", "Hold"));
-    ExpectField(kNewView, "txtVDstatus(0)", kNone);
-    ExpectField(kNewView, "txtVDtype(0)", kNone);
-    ExpectField(kNewView, "txtVDversion(0)", kNone);
-    ExpectField(kNewView, "txtVDstatus(1)", "OK");
-    EXPECT_EQ(program->Text("cboVD"), " 1");
-}
-
-TEST_F(StatusViews, ALayoutWithoutModulesLeavesTheListsEmpty) {
-    StartAndOpen({"--layout", "none"});
-    RequestStatus();
-    ExpectUnits("txtVDstatus", "txtVDversion", 64, {});
-    ExpectUnits("txtJSstatus", "txtJSver", 16, {});
-    ExpectUnits("txtYRstatus", "txtYRver", 32, {});
-    for (const char* list : {"cboVD", "cboJS"}) {
-        EXPECT_EQ(program->Items(list), "") << list;
-        EXPECT_EQ(program->Text(list), "") << list;
-    }
-}
-
 TEST_F(StatusViews, ShiftAndTheLeftButtonOpenTheClassicView) {
     StartAndOpen();
-    program->Ask({"press", "cmdStatus", "left", "shift"});
+    program->Press("cmdStatus", "left", "shift");
     ASSERT_TRUE(program->Says({"window", kClassicView}, "visible"));
     EXPECT_NE(program->Window(kNewView), "visible");
     ExpectField(kClassicView, "txtSysVer", "KB-E 1.02");
@@ -181,90 +146,7 @@ TEST_F(StatusViews, AnOldProtocolOpensTheClassicViewOnAPlainClick) {
     ExpectField(kClassicView, "txtDIP(2)", "On");
     ExpectField(kClassicView, "txtDIP(3)", "Off");
     ExpectClassicModules();
-    EXPECT_EQ(program->Text("frmZelvarConfig/lblKBtype"), "KB-F");
-}
-
-struct Press {
-    std::string name;
-    std::vector<std::string> command;
-};
-
-std::ostream& operator<<(std::ostream& out, const Press& press) {
-    return out << press.name;
-}
-
-class NewViewPress : public Journey, public ::testing::WithParamInterface<Press> {};
-
-TEST_P(NewViewPress, OpensTheNewView) {
-    StartAndOpen();
-    program->Ask(GetParam().command);
-    EXPECT_TRUE(program->Says({"window", kNewView}, "visible"));
-    EXPECT_NE(program->Window(kClassicView), "visible");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Press, NewViewPress,
-    ::testing::Values(Press{"Right", {"press", "cmdStatus", "right"}},
-                      Press{"Middle", {"press", "cmdStatus", "middle"}},
-                      Press{"ShiftRight", {"press", "cmdStatus", "right", "shift"}},
-                      Press{"ShiftCtrl", {"press", "cmdStatus", "left", "shift+ctrl"}},
-                      Press{"ShiftAlt", {"press", "cmdStatus", "left", "shift+alt"}},
-                      Press{"Space", {"key", "cmdStatus", "Space"}},
-                      Press{"Return", {"key", "cmdStatus", "Return"}}),
-    [](const auto& press) { return press.param.name; });
-
-struct SystemState {
-    std::string name;
-    std::string fault;
-    std::string hold;
-    std::string text;
-};
-
-std::ostream& operator<<(std::ostream& out, const SystemState& state) {
-    return out << state.text;
-}
-
-class SystemField : public Journey, public ::testing::WithParamInterface<SystemState> {};
-
-TEST_P(SystemField, NamesTheState) {
-    StartAndOpen({"--layout", "none"});
-    unit->Do("fault " + GetParam().fault);
-    unit->Do("hold " + GetParam().hold);
-    RequestStatus();
-    EXPECT_EQ(program->Text("dlgZelvarStatus44/txtSystem"), GetParam().text);
-}
-
-INSTANTIATE_TEST_SUITE_P(State, SystemField,
-                         ::testing::Values(SystemState{"Ok", "off", "off", "OK"},
-                                           SystemState{"Hold", "off", "on", "Hold"},
-                                           SystemState{"Fault", "on", "off", "Fault"},
-                                           SystemState{"Both", "on", "on", "Fault+Hold"}),
-                         [](const auto& state) { return state.param.name; });
-
-TEST_F(StatusViews, ShowChannel0HidesAndShowsItsFrames) {
-    StartAndOpen();
-    RequestStatus();
-    const auto size = [this] {
-        const std::string place = program->AskOne({"geometry", kNewView});
-        return place.substr(place.find(' ', place.find(' ') + 1) + 1);
-    };
-    EXPECT_FALSE(program->IsChecked("chkShowChannel0"));
-    EXPECT_TRUE(program->IsVisible("frmStatus(2)")) << "the layout follows the first click";
-    program->Click("chkShowChannel0");
-    for (const char* frame : {"frmStatus(0)", "frmStatus(2)", "frmStatus(4)"}) {
-        EXPECT_TRUE(program->IsVisible(frame)) << frame;
-    }
-    EXPECT_EQ(program->AskOne({"geometry", "frmStatus(5)"}), "768 8 105 433");
-    EXPECT_EQ(size(), "1002 453");
-    program->Click("chkShowChannel0");
-    for (const char* frame : {"frmStatus(0)", "frmStatus(2)", "frmStatus(4)"}) {
-        EXPECT_FALSE(program->IsVisible(frame)) << frame;
-    }
-    for (const char* frame : {"frmStatus(1)", "frmStatus(3)", "frmStatus(5)"}) {
-        EXPECT_TRUE(program->IsVisible(frame)) << frame;
-    }
-    EXPECT_EQ(program->AskOne({"geometry", "frmStatus(5)"}), "504 8 105 433");
-    EXPECT_EQ(size(), "627 453");
+    EXPECT_EQ(program->TextOf("frmZelvarConfig/lblKBtype"), "KB-F");
 }
 
 }  // namespace

@@ -19,26 +19,25 @@ class VanishingPort : public ScriptedPort {
   public:
     using ScriptedPort::ScriptedPort;
 
-    std::size_t BytesWaiting() override {
+    std::size_t Read(std::span<std::uint8_t> buffer) override {
         VanishIf(stage == Stage::Flush && written.empty());
-        return ScriptedPort::BytesWaiting();
+        const bool midReply = stage == Stage::MidReply && !written.empty();
+        const std::size_t count = ScriptedPort::Read(midReply ? buffer.first(1) : buffer);
+        VanishIf(midReply && count > 0);
+        return count;
     }
-    std::uint8_t ReadByte() override {
-        const std::uint8_t byte = ScriptedPort::ReadByte();
-        VanishIf(stage == Stage::MidReply && !written.empty());
-        return byte;
-    }
-    void WriteByte(std::uint8_t byte) override {
-        VanishIf(stage == Stage::FirstByte || (stage == Stage::LastByte && written.size() == 3));
-        ScriptedPort::WriteByte(byte);
-    }
-    void WaitForByte(double seconds) override {
+    void SendAndWait(std::span<const std::uint8_t> bytes, double seconds) override {
         ++waits;
-        VanishIf(stage == Stage::Wait);
-        // Nobody waits for a device that is gone.
-        if (open) {
-            ScriptedPort::WaitForByte(seconds);
+        VanishIf(stage == Stage::FirstByte);
+        if (stage == Stage::LastByte) {
+            ScriptedPort::SendAndWait(bytes.first(bytes.size() - 1), 0);
+            Vanish();
         }
+        if (stage == Stage::Wait) {
+            ScriptedPort::SendAndWait(bytes, 0);
+            Vanish();
+        }
+        ScriptedPort::SendAndWait(open ? bytes : bytes.first(0), seconds);
     }
 
     Stage stage = Stage::Flush;
@@ -109,8 +108,7 @@ INSTANTIATE_TEST_SUITE_P(Stages, DeviceVanishing,
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(LinkFixture, ADeviceThatVanishesBehindAWholeReplyLeavesPollingOff) {
-    link.Handlers().SetHandler(ReplyKind::Overcurrent,
-                               [this](const ReplyBuffer&) { port.Vanish(); });
+    link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply&) { port.Vanish(); });
     port.replies = {WireFrame({0x33, 5})};
     EXPECT_TRUE(link.Transact(kEmptyTransaction));
     EXPECT_FALSE(timer.enabled);

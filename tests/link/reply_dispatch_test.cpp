@@ -22,13 +22,13 @@ struct MatchRow {
     int header;
     int r1;
     int r2;
-    /// The kinds that match, by name with a blank behind each.
+    /// The kinds that match, by name with a space behind each.
     const char* kinds;
 };
 
-std::string Matching(const ReplyBuffer& reply) {
+std::string Matching(const Reply& reply) {
     std::string kinds;
-    for (std::size_t i = 0; i < kReplyKindCount; ++i) {
+    for (std::size_t i = 0; i < kKindNames.size(); ++i) {
         if (MatchesReply(static_cast<ReplyKind>(i), reply)) {
             kinds += std::string(kKindNames[i]) + " ";
         }
@@ -40,8 +40,7 @@ class ReplyTests : public ::testing::TestWithParam<MatchRow> {};
 
 TEST_P(ReplyTests, MatchByLengthAndFirstValues) {
     const MatchRow& row = GetParam();
-    const auto byte = [](int value) { return static_cast<std::uint8_t>(value); };
-    EXPECT_EQ(Matching({byte(row.header + 8), byte(row.r1), byte(row.r2)}), row.kinds);
+    EXPECT_EQ(Matching(MakeReply(row.header + 8, {row.r1, row.r2})), row.kinds);
 }
 
 // Every mask and value has a row on either side of it.
@@ -107,9 +106,7 @@ TEST(ReplyDispatch, NoReplyIsOfTwoKinds) {
     for (int header = 8; header < 16; ++header) {
         for (int r1 = 0; r1 < 128; ++r1) {
             for (int r2 = 0; r2 < 128; ++r2) {
-                const ReplyBuffer reply{static_cast<std::uint8_t>(header),
-                                        static_cast<std::uint8_t>(r1),
-                                        static_cast<std::uint8_t>(r2)};
+                const Reply reply = MakeReply(header, {r1, r2});
                 const std::string kinds = Matching(reply);
                 ASSERT_EQ(kinds.find(' '), kinds.empty() ? std::string::npos : kinds.size() - 1)
                     << kinds << header << ' ' << r1 << ' ' << r2;
@@ -120,28 +117,27 @@ TEST(ReplyDispatch, NoReplyIsOfTwoKinds) {
 
 TEST(ReplyDispatch, HandsTheReplyToTheHandlerOfItsKindAlone) {
     std::vector<std::string> called;
-    ReplyBuffer seen{};
+    int seen = 0;
     ReplyDispatch dispatch;
-    for (std::size_t i = 0; i < kReplyKindCount; ++i) {
-        dispatch.SetHandler(static_cast<ReplyKind>(i), [&, i](const ReplyBuffer& reply) {
+    for (std::size_t i = 0; i < kKindNames.size(); ++i) {
+        dispatch.SetHandler(static_cast<ReplyKind>(i), [&, i](const Reply& reply) {
             called.emplace_back(kKindNames[i]);
-            seen = reply;
+            seen = reply[2];
         });
     }
-    const ReplyBuffer reply{0x0B, 0x22, 7, 0x4C};
-    dispatch.Dispatch(reply);
+    dispatch.Dispatch(MakeReply(0x0B, {0x22, 7, 0x4C}));
     EXPECT_EQ(called, std::vector<std::string>{"BlockSpeed"});
-    EXPECT_EQ(seen, reply);
+    EXPECT_EQ(seen, 7);
 }
 
 TEST(ReplyDispatch, AKindWithoutHandlerIsPassedOver) {
     const ReplyDispatch dispatch;
-    EXPECT_NO_FATAL_FAILURE(dispatch.Dispatch({0x0A, 0x33, 5}));
+    EXPECT_NO_FATAL_FAILURE(dispatch.Dispatch(MakeReply(0x0A, {0x33, 5})));
 }
 
 TEST_F(LinkFixture, ABrokenReplyReachesNoHandler) {
     int calls = 0;
-    link.Handlers().SetHandler(ReplyKind::Overcurrent, [&](const ReplyBuffer&) { ++calls; });
+    link.Handlers().SetHandler(ReplyKind::Overcurrent, [&](const Reply&) { ++calls; });
     Bytes broken = WireFrame({0x33, 5});
     broken.back() ^= 1;
     port.replies = {broken, WireFrame({0x33, 5})};
@@ -154,7 +150,7 @@ TEST_F(LinkFixture, ABrokenReplyReachesNoHandler) {
 TEST_F(LinkFixture, ARepliesLogLineIsWrittenBeforeItsHandlerRuns) {
     std::string logInHandler;
     link.Handlers().SetHandler(ReplyKind::Overcurrent,
-                               [&](const ReplyBuffer&) { logInHandler = view.log; });
+                               [&](const Reply&) { logInHandler = view.log; });
     port.replies = {WireFrame({0x33, 5})};
     link.Transact(kEmptyTransaction);
     EXPECT_EQ(logInHandler, ">> 08 F8                       << 0A B3 85 BE\r\n");

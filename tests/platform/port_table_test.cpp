@@ -71,29 +71,28 @@ class PortScan : public ::testing::Test {
 
 TEST_F(PortScan, FindsThePortsThatCanBeOpenedInAscendingOrder) {
     port.openable = {16, 3, 9};
-    EXPECT_EQ(FindUsablePorts(port), (std::vector<int>{3, 9, 16}));
+    EXPECT_EQ(FindUsablePorts(port, 19200), (std::vector<int>{3, 9, 16}));
 }
 
 TEST_F(PortScan, FindsNothingWhereNothingCanBeOpened) {
     port.openable = {};
-    EXPECT_TRUE(FindUsablePorts(port).empty());
+    EXPECT_TRUE(FindUsablePorts(port, 19200).empty());
 }
 
 TEST_F(PortScan, NeverLooksBeyondSixteen) {
     port.openable = {16, 17, 18, 0};
-    EXPECT_EQ(FindUsablePorts(port), std::vector<int>{16});
+    EXPECT_EQ(FindUsablePorts(port, 19200), std::vector<int>{16});
     EXPECT_EQ(port.history.size(), 17U) << "16 attempts and one close";
 }
 
 TEST_F(PortScan, ClosesEachPortAtOnceAndEndsClosed) {
     port.openable = {1, 16};
-    port.settings = "s";
-    FindUsablePorts(port);
+    FindUsablePorts(port, 19200);
     EXPECT_FALSE(port.IsOpen());
     ASSERT_GE(port.history.size(), 3U);
-    EXPECT_EQ(port.history[0], "open 1 s");
+    EXPECT_EQ(port.history[0], "open 1 19200");
     EXPECT_EQ(port.history[1], "close");
-    EXPECT_EQ(port.history[2], "open 2 s");
+    EXPECT_EQ(port.history[2], "open 2 19200");
     EXPECT_EQ(port.history.back(), "close");
 }
 

@@ -7,80 +7,34 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdlib>
 #include <ctime>
-#include <fcntl.h>
 #include <functional>
 #include <string>
 #include <termios.h>
 #include <thread>
-#include <unistd.h>
 
+#include "harness/pseudo_terminal.h"
 #include "support/doubles.h"
 
 namespace zelvar::testing {
 namespace {
 
-/// The other end of a line.
-class PseudoTerminal {
-  public:
-    PseudoTerminal() : master_(posix_openpt(O_RDWR | O_NOCTTY)) {
-        EXPECT_EQ(grantpt(master_), 0);
-        EXPECT_EQ(unlockpt(master_), 0);
-        device_ = ptsname(master_);
-        // Raw from the start, so that nothing is echoed or translated.
-        termios settings{};
-        EXPECT_EQ(tcgetattr(master_, &settings), 0);
-        cfmakeraw(&settings);
-        EXPECT_EQ(tcsetattr(master_, TCSANOW, &settings), 0);
-    }
-    ~PseudoTerminal() { HangUp(); }
-    PseudoTerminal(const PseudoTerminal&) = delete;
-    PseudoTerminal& operator=(const PseudoTerminal&) = delete;
-
-    const std::string& Device() const { return device_; }
-    void Send(const Bytes& bytes) const {
-        EXPECT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-    }
-    Bytes Receive(std::size_t count) const {
-        Bytes bytes(count);
-        std::size_t got = 0;
-        while (got < count) {
-            const ssize_t more = read(master_, bytes.data() + got, count - got);
-            if (more <= 0) {
-                break;
-            }
-            got += static_cast<std::size_t>(more);
-        }
-        bytes.resize(got);
-        return bytes;
-    }
-    termios Settings() const {
-        termios settings{};
-        EXPECT_EQ(tcgetattr(master_, &settings), 0);
-        return settings;
-    }
-    void HangUp() {
-        if (master_ >= 0) {
-            close(master_);
-            master_ = -1;
-        }
-    }
-
-  private:
-    int master_;
-    std::string device_;
-};
+using e2e::PseudoTerminal;
 
 /// In milliseconds: far below the reply limit, far above what a busy machine takes.
 constexpr int kSoon = 1000;
+constexpr int kBaud = 19200;
+
+/// What has come by now.
+Bytes Take(QtSerialPort& port) {
+    Bytes buffer(64);
+    buffer.resize(port.Read(buffer));
+    return buffer;
+}
 
 class QtSerialPortTest : public ::testing::Test {
   protected:
     QtSerialPortTest() {
-        port.SetPortNumber(1);
-        port.SetSettings("19200,o,8,1");
         port.SetLostHandler([this] { ++lost; });
     }
 
@@ -93,35 +47,33 @@ class QtSerialPortTest : public ::testing::Test {
 
 TEST_F(QtSerialPortTest, OpensADeviceAndClosesIt) {
     EXPECT_FALSE(port.IsOpen());
-    EXPECT_TRUE(port.Open());
+    EXPECT_TRUE(port.Open(1, kBaud));
     EXPECT_TRUE(port.IsOpen());
     port.Close();
     EXPECT_FALSE(port.IsOpen());
-    EXPECT_TRUE(port.Open());
+    EXPECT_TRUE(port.Open(1, kBaud));
 }
 
 TEST_F(QtSerialPortTest, ADeviceInUseCannotBeOpenedAndIsNotListed) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     QtSerialPort other(TableOf(line.Device()));
-    other.SetPortNumber(1);
-    EXPECT_FALSE(other.Open());
-    EXPECT_TRUE(FindUsablePorts(other).empty());
+    EXPECT_FALSE(other.Open(1, kBaud));
+    EXPECT_TRUE(FindUsablePorts(other, kBaud).empty());
     port.Close();
-    EXPECT_EQ(FindUsablePorts(other), std::vector<int>{1});
+    EXPECT_EQ(FindUsablePorts(other, kBaud), std::vector<int>{1});
 }
 
 TEST_F(QtSerialPortTest, WhatIsNoDeviceCannotBeOpened) {
     QtSerialPort other(TableOf("/nonexistent/device::/dev/null"));
     for (const int number : {1, 2, 3, 4, 0, 17, -1}) {
-        other.SetPortNumber(number);
-        EXPECT_FALSE(other.Open()) << number;
+        EXPECT_FALSE(other.Open(number, kBaud)) << number;
         EXPECT_FALSE(other.IsOpen()) << number;
     }
 }
 
 struct SettingsRow {
     const char* name;
-    const char* settings;
+    int baudRate;
     speed_t speed;
 };
 
@@ -129,8 +81,7 @@ class SerialSettings : public QtSerialPortTest,
                        public ::testing::WithParamInterface<SettingsRow> {};
 
 TEST_P(SerialSettings, ReachTheDevice) {
-    port.SetSettings(GetParam().settings);
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, GetParam().baudRate));
     const termios settings = line.Settings();
     EXPECT_EQ(cfgetospeed(&settings), GetParam().speed);
     EXPECT_EQ(settings.c_cflag & CSIZE, static_cast<tcflag_t>(CS8));
@@ -140,106 +91,120 @@ TEST_P(SerialSettings, ReachTheDevice) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, SerialSettings,
-                         ::testing::Values(SettingsRow{"Slow", "19200,o,8,1", B19200},
-                                           SettingsRow{"Fast", "38400,o,8,1", B38400}),
+                         ::testing::Values(SettingsRow{"Slow", 19200, B19200},
+                                           SettingsRow{"Fast", 38400, B38400}),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(QtSerialPortTest, BytesGoOutInOrderAndUnchanged) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     const Bytes bytes{0x0A, 0x0D, 0x00, 0x03, 0x11, 0x13, 0x7F, 0x80, 0xFF};
-    for (const std::uint8_t byte : bytes) {
-        port.WriteByte(byte);
-    }
-    port.Flush();
+    port.SendAndWait(bytes, 0);
     EXPECT_EQ(line.Receive(bytes.size()), bytes);
 }
 
-TEST_F(QtSerialPortTest, TheWaitSendsWhatWasHeldBack) {
-    ASSERT_TRUE(port.Open());
-    port.WriteByte(0x08);
-    port.WriteByte(0xF8);
-    port.WaitForByte(0);
-    EXPECT_EQ(line.Receive(2), (Bytes{0x08, 0xF8}));
-}
-
-TEST_F(QtSerialPortTest, WhatTheSystemDoesNotTakeAtOnceFollowsWithLaterWaits) {
-    ASSERT_TRUE(port.Open());
-    Bytes bytes(100'000);  // more than a pseudo-terminal buffers
+/// More than a pseudo-terminal buffers.
+Bytes ManyBytes() {
+    Bytes bytes(100'000);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<std::uint8_t>(i % 251);
-        port.WriteByte(bytes[i]);
     }
-    port.WaitForByte(0);
+    return bytes;
+}
+
+TEST_F(QtSerialPortTest, WhatTheSystemDoesNotTakeAtOnceFollowsDuringTheWait) {
+    ASSERT_TRUE(port.Open(1, kBaud));
+    const Bytes bytes = ManyBytes();
     Bytes got;
-    std::atomic<bool> done{false};
     std::thread reader([&] {
         got = line.Receive(bytes.size());
-        done = true;
+        line.Send({0x08});
     });
-    while (!done) {
-        port.WaitForByte(0.01);
-    }
+    port.SendAndWait(bytes, 30);
     reader.join();
     EXPECT_EQ(got, bytes);
+    EXPECT_EQ(Take(port), Bytes{0x08});
+}
+
+TEST_F(QtSerialPortTest, WhatTheSystemHasNotTakenWhenTheTimeIsOverIsNotSentLater) {
+    ASSERT_TRUE(port.Open(1, kBaud));
+    const Bytes bytes = ManyBytes();
+    port.SendAndWait(bytes, 0.02);
+    EXPECT_TRUE(port.IsOpen());
+    std::thread closer([&] {
+        port.SendAndWait({}, 0.02);
+        port.Close();
+    });
+    // Ends when the other end is closed.
+    EXPECT_LT(line.Receive(bytes.size()).size(), bytes.size());
+    closer.join();
 }
 
 TEST_F(QtSerialPortTest, BytesComeInOrderAndUnchanged) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     const Bytes bytes{0x0A, 0x0D, 0x00, 0x03, 0x11, 0x13, 0x7F, 0x80, 0xFF};
     line.Send(bytes);
     Bytes got;
     while (got.size() < bytes.size()) {
-        if (port.BytesWaiting() == 0) {
-            port.WaitForByte(1);
-            ASSERT_GT(port.BytesWaiting(), 0U);
-        }
-        got.push_back(port.ReadByte());
+        port.SendAndWait({}, 1);
+        const Bytes more = Take(port);
+        ASSERT_FALSE(more.empty());
+        got.insert(got.end(), more.begin(), more.end());
     }
     EXPECT_EQ(got, bytes);
-    EXPECT_EQ(port.BytesWaiting(), 0U);
+    EXPECT_TRUE(Take(port).empty());
+}
+
+TEST_F(QtSerialPortTest, WhatComesWhileIdleIsDiscardedAndCostsNothing) {
+    ASSERT_TRUE(port.Open(1, kBaud));
+    line.Send(Bytes(1000, 0x80));
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        port.SendAndWait({}, 0);
+        return Take(port).empty();
+    }));
+    EXPECT_TRUE(port.IsOpen());
 }
 
 TEST_F(QtSerialPortTest, TheWaitEndsWithAByteAndElseWithItsTime) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     QElapsedTimer watch;
     watch.start();
-    port.WaitForByte(0.05);
+    port.SendAndWait({}, 0.05);
     EXPECT_GE(watch.elapsed(), 50);
     std::thread sender([this] { line.Send({0x08}); });
     watch.restart();
-    port.WaitForByte(30);
+    port.SendAndWait({}, 30);
     EXPECT_LT(watch.elapsed(), 5 * kSoon);
     sender.join();
-    EXPECT_EQ(port.ReadByte(), 0x08);
+    EXPECT_EQ(Take(port), Bytes{0x08});
 }
 
 TEST_F(QtSerialPortTest, TheWaitSleeps) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     const std::clock_t before = std::clock();
-    port.WaitForByte(0.3);
+    port.SendAndWait({}, 0.3);
     const double used = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
     EXPECT_LT(used, 0.1);
 }
 
-TEST_F(QtSerialPortTest, AHangUpEndsTheWaitAtOnceAndIsToldOnceFromTheEventLoop) {
-    ASSERT_TRUE(port.Open());
+TEST_F(QtSerialPortTest, AHangUpEndsTheWaitAtOnceAndIsReportedOnceFromTheEventLoop) {
+    ASSERT_TRUE(port.Open(1, kBaud));
     std::thread puller([this] { line.HangUp(); });
     QElapsedTimer watch;
     watch.start();
-    port.WaitForByte(30);
+    port.SendAndWait({}, 30);
     puller.join();
     EXPECT_LT(watch.elapsed(), 5 * kSoon);
-    port.WaitForByte(0);
+    port.SendAndWait({}, 0);
     EXPECT_FALSE(port.IsOpen());
-    EXPECT_EQ(port.BytesWaiting(), 0U);
-    EXPECT_EQ(lost, 0) << "told in the middle of a handler";
+    EXPECT_TRUE(Take(port).empty());
+    EXPECT_EQ(lost, 0) << "reported in the middle of a handler";
     EXPECT_TRUE(QTest::qWaitFor([this] { return lost > 0; }));
     QCoreApplication::processEvents();
     EXPECT_EQ(lost, 1);
 }
 
 TEST_F(QtSerialPortTest, AHangUpWhileIdleIsNoticedWithoutSpinning) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     line.HangUp();
     EXPECT_TRUE(QTest::qWaitFor([this] { return lost > 0; }));
     EXPECT_FALSE(port.IsOpen());
@@ -252,37 +217,31 @@ TEST_F(QtSerialPortTest, AHangUpWhileIdleIsNoticedWithoutSpinning) {
 }
 
 TEST_F(QtSerialPortTest, WritingToALostDeviceDoesNothing) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     line.HangUp();
-    port.WriteByte(0x08);
-    port.WriteByte(0xF8);
-    port.Flush();
-    port.WaitForByte(0.5);
+    port.SendAndWait(Bytes{0x08, 0xF8}, 0.5);
     EXPECT_FALSE(port.IsOpen());
-    port.WriteByte(0x08);
-    port.Flush();
-    EXPECT_EQ(port.ReadByte(), 0);
+    port.SendAndWait(Bytes{0x08}, 0);
+    EXPECT_TRUE(Take(port).empty());
 }
 
 TEST_F(QtSerialPortTest, AfterALossAnotherDeviceCanBeOpened) {
     const PseudoTerminal second;
     QtSerialPort both(TableOf(line.Device() + ":" + second.Device()));
-    both.SetPortNumber(1);
-    ASSERT_TRUE(both.Open());
+    ASSERT_TRUE(both.Open(1, kBaud));
     line.HangUp();
-    both.WaitForByte(1);
+    both.SendAndWait({}, 1);
     EXPECT_FALSE(both.IsOpen());
-    both.SetPortNumber(2);
-    EXPECT_TRUE(both.Open());
+    EXPECT_TRUE(both.Open(2, kBaud));
     QCoreApplication::processEvents();
     EXPECT_TRUE(both.IsOpen()) << "the news of the first loss closed the second device";
     second.Send({0x08});
-    both.WaitForByte(1);
-    EXPECT_EQ(both.ReadByte(), 0x08);
+    both.SendAndWait({}, 1);
+    EXPECT_EQ(Take(both), Bytes{0x08});
 }
 
 TEST_F(QtSerialPortTest, AnExchangeOverAHungUpLineFailsAtOnceWithOneBox) {
-    ASSERT_TRUE(port.Open());
+    ASSERT_TRUE(port.Open(1, kBaud));
     const SteadyClock clock;
     FakeTimer timer;
     FakeMessageBox messageBox;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "link/system_status.h"
+#include "support/doubles.h"
 
 namespace zelvar::testing {
 namespace {
@@ -23,7 +24,7 @@ class Overcurrent : public ::testing::TestWithParam<OvercurrentRow> {};
 
 TEST_P(Overcurrent, IsReadAndWrittenAsALine) {
     const OvercurrentRow& row = GetParam();
-    const OvercurrentReport report = ReadOvercurrentReport({0x0A, row.r1, row.r2});
+    const OvercurrentReport report = ReadOvercurrentReport(MakeReply(0x0A, {row.r1, row.r2}));
     EXPECT_EQ(report, row.report);
     EXPECT_EQ(AlarmLine(report), std::string(row.line) + "\r\n");
 }
@@ -54,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 struct SpeedRow {
     const char* name;
-    ReplyBuffer reply;
+    std::vector<int> values;
     BlockSpeedReport report;
     const char* readOut;
 };
@@ -62,18 +63,18 @@ struct SpeedRow {
 class BlockSpeed : public ::testing::TestWithParam<SpeedRow> {};
 
 TEST_P(BlockSpeed, IsReadAndShown) {
-    const BlockSpeedReport report = ReadBlockSpeedReport(GetParam().reply);
+    const BlockSpeedReport report = ReadBlockSpeedReport(MakeReply(0x0B, GetParam().values));
     EXPECT_EQ(report, GetParam().report);
     EXPECT_EQ(SpeedReadOut(report.speed, report.forward), GetParam().readOut);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Reports, BlockSpeed,
-    ::testing::Values(SpeedRow{"Forward", {0x0B, 0x22, 5, 0x4C}, {5, 12, true}, ">>12"},
-                      SpeedRow{"Backward", {0x0B, 0x22, 5, 0x0C}, {5, 12, false}, "<<12"},
-                      SpeedRow{"HighBlock", {0x0B, 0x23, 127, 0x40}, {255, 0, true}, ">>0"},
-                      SpeedRow{"FastestForward", {0x0B, 0x22, 0, 0x7F}, {0, 63, true}, ">>63"},
-                      SpeedRow{"FastestBackward", {0x0B, 0x22, 0, 0x3F}, {0, 63, false}, "<<63"}),
+    ::testing::Values(SpeedRow{"Forward", {0x22, 5, 0x4C}, {5, 12, true}, ">>12"},
+                      SpeedRow{"Backward", {0x22, 5, 0x0C}, {5, 12, false}, "<<12"},
+                      SpeedRow{"HighBlock", {0x23, 127, 0x40}, {255, 0, true}, ">>0"},
+                      SpeedRow{"FastestForward", {0x22, 0, 0x7F}, {0, 63, true}, ">>63"},
+                      SpeedRow{"FastestBackward", {0x22, 0, 0x3F}, {0, 63, false}, "<<63"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 struct FeedbackRow {
@@ -86,7 +87,8 @@ struct FeedbackRow {
 class Feedback : public ::testing::TestWithParam<FeedbackRow> {};
 
 TEST_P(Feedback, IsRead) {
-    EXPECT_EQ(ReadFeedbackReport({0x0A, GetParam().r1, GetParam().r2}), GetParam().report);
+    EXPECT_EQ(ReadFeedbackReport(MakeReply(0x0A, {GetParam().r1, GetParam().r2})),
+              GetParam().report);
 }
 
 INSTANTIATE_TEST_SUITE_P(Reports, Feedback,

@@ -77,9 +77,9 @@ TEST(TransparentMode, IsOneOfThreeOptionBytes) {
 }
 
 TEST(KBConfigReply, TakesTheLowFourBitsOfBothHalves) {
-    EXPECT_EQ(ReadKBConfigReply({12, 1, 14, 0x25, 0x13}), Ticked({0, 2, 4, 5}));
-    EXPECT_EQ(ReadKBConfigReply({12, 1, 14, 0x70, 0x70}), Ticked({}));
-    EXPECT_EQ(ReadKBConfigReply({12, 1, 15, 0x0F, 0x0F}), kAll);
+    EXPECT_EQ(ReadKBConfigReply(MakeReply(0x0C, {1, 14, 0x25, 0x13})), Ticked({0, 2, 4, 5}));
+    EXPECT_EQ(ReadKBConfigReply(MakeReply(0x0C, {1, 14, 0x70, 0x70})), Ticked({}));
+    EXPECT_EQ(ReadKBConfigReply(MakeReply(0x0C, {1, 15, 0x0F, 0x0F})), kAll);
 }
 
 class KBOptionsTest : public ConfigFixture {};

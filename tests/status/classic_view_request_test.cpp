@@ -32,7 +32,7 @@ class ClassicViewRequest : public StatusRequestFixture {
 
     static std::string Line(const SystemStatus& status, std::size_t i) {
         return std::string(ModuleStateText(status.vd[i].state)) + ' ' +
-               std::string(VDTypeText(status.vdTypes[i]));
+               std::string(ClassicVDTypeText(status.vdTypes[i]));
     }
 };
 
@@ -63,11 +63,13 @@ TEST_F(ClassicViewRequest, ReadsStatesAndTypes) {
 TEST_F(ClassicViewRequest, RegistersTheModulesThatAnswer) {
     ASSERT_TRUE(Run());
     for (int n = 0; n < 16; ++n) {
-        const int expected = n == 0 || n == 10 ? kVdF : n == 5 || n == 15 ? kQlrxS : kVdNone;
-        EXPECT_EQ(registry.vdType[static_cast<std::size_t>(n)], expected) << n;
+        const VDType expected = n == 0 || n == 10   ? VDType::VdF
+                                : n == 5 || n == 15 ? VDType::QlrxS
+                                                    : VDType::Absent;
+        EXPECT_EQ(registry.vdTypes.at(static_cast<unsigned>(n)), expected) << n;
     }
     for (int j = 0; j < 8; ++j) {
-        EXPECT_EQ(registry.jsPresent[static_cast<std::size_t>(j)], j == 3 || j == 4 ? 1 : -1) << j;
+        EXPECT_EQ(registry.jsPresent[static_cast<std::size_t>(j)], j == 3 || j == 4) << j;
     }
 }
 
@@ -96,7 +98,7 @@ TEST_F(ClassicViewRequest, WithoutTablesEverythingIsUnknownAndNothingRegistered)
     for (std::size_t j = 0; j < 8; ++j) {
         EXPECT_EQ(ModuleStateText(status->js[j].state), "?");
     }
-    EXPECT_EQ(registry.vdType, ModuleRegistry().vdType);
+    EXPECT_EQ(registry.vdTypes, ModuleRegistry().vdTypes);
     EXPECT_EQ(registry.jsPresent, ModuleRegistry().jsPresent);
 }
 
@@ -106,7 +108,7 @@ TEST_F(ClassicViewRequest, WithoutThePresenceTableNoModuleHasATypeOrAFault) {
     ASSERT_TRUE(status);
     for (std::size_t n = 0; n < 16; ++n) {
         EXPECT_EQ(Line(*status, n), "? N.A.");
-        EXPECT_EQ(registry.vdType[n], kVdNone);
+        EXPECT_EQ(registry.vdTypes[n], VDType::Absent);
     }
 }
 
@@ -117,7 +119,7 @@ TEST_F(ClassicViewRequest, WithoutTheTypeTableNothingIsRegistered) {
     EXPECT_EQ(Line(*status, 0), "OK ?");
     EXPECT_EQ(Line(*status, 1), "-- ?");
     EXPECT_EQ(Line(*status, 10), "Fault ?");
-    EXPECT_EQ(registry.vdType, ModuleRegistry().vdType);
+    EXPECT_EQ(registry.vdTypes, ModuleRegistry().vdTypes);
 }
 
 TEST_F(ClassicViewRequest, WithoutTheFaultTableModulesAreOk) {
@@ -173,18 +175,18 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(ClassicViewRequest, KeepsTheLinesThatItDoesNotKnow) {
-    registry.vdType[15] = kVdF;
-    registry.vdType[16] = kVd60;
-    registry.vdType[48] = kVd60;
-    registry.jsPresent[7] = kJsPresent;
-    registry.jsPresent[8] = kJsPresent;
+    registry.vdTypes[15] = VDType::VdF;
+    registry.vdTypes[16] = VDType::Vd60;
+    registry.vdTypes[48] = VDType::Vd60;
+    registry.jsPresent[7] = true;
+    registry.jsPresent[8] = true;
     layout.tables.clear();
     ASSERT_TRUE(Run());
-    EXPECT_EQ(registry.vdType[15], kVdNone);
-    EXPECT_EQ(registry.vdType[16], kVd60);
-    EXPECT_EQ(registry.vdType[48], kVd60);
-    EXPECT_EQ(registry.jsPresent[7], kJsAbsent);
-    EXPECT_EQ(registry.jsPresent[8], kJsPresent);
+    EXPECT_EQ(registry.vdTypes[15], VDType::Absent);
+    EXPECT_EQ(registry.vdTypes[16], VDType::Vd60);
+    EXPECT_EQ(registry.vdTypes[48], VDType::Vd60);
+    EXPECT_EQ(registry.jsPresent[7], false);
+    EXPECT_EQ(registry.jsPresent[8], true);
 }
 
 TEST_F(ClassicViewRequest, ProgressCountsTheTables) {

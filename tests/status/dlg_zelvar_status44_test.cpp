@@ -234,7 +234,7 @@ class FilledNewView : public LinkFixture {
   protected:
     void Fill(const StatusResponder& layout) {
         port.responder = layout;
-        const auto status = StatusRequest(link, progress, clock, registry).Run(false);
+        const auto status = StatusRequest(link, progress, clock, registry, requestView).Run(false);
         ASSERT_TRUE(status);
         view.Show(*status);
     }

@@ -37,7 +37,7 @@ class ClassicView : public LinkFixture {
     }
     void Fill(const StatusResponder& layout) {
         port.responder = layout;
-        const auto status = StatusRequest(link, progress, clock, registry).Run(true);
+        const auto status = StatusRequest(link, progress, clock, registry, requestView).Run(true);
         ASSERT_TRUE(status);
         view.Show(*status);
     }

@@ -89,7 +89,7 @@ TEST_F(NewViewRequest, AMixedLayoutFillsTheRegistry) {
     types[51] = 3;
     types[20] = 2;
     types[31] = 0;
-    EXPECT_EQ(registry.vdType, types);
+    EXPECT_EQ(registry.vdTypes, types);
     std::array<std::int16_t, 17> present{};
     present.fill(-1);
     present[0] = 1;
@@ -130,7 +130,7 @@ TEST_F(NewViewRequest, SignalControllersAreNotRegistered) {
         layout.modules[96 + k] = {kHere, 1020};
     }
     ASSERT_TRUE(Run());
-    EXPECT_EQ(registry.vdType, ModuleRegistry().vdType);
+    EXPECT_EQ(registry.vdTypes, ModuleRegistry().vdTypes);
     EXPECT_EQ(registry.jsPresent, ModuleRegistry().jsPresent);
 }
 
@@ -155,9 +155,9 @@ TEST_P(WrongModuleReplies, LeaveTheModulesOut) {
         EXPECT_EQ(line.state, ModuleState::Absent);
         EXPECT_EQ(VersionText(line), "--");
     }
-    EXPECT_EQ(registry.vdType[4], kVdNone);
-    EXPECT_EQ(registry.vdType[37], kVdNone);
-    EXPECT_EQ(registry.jsPresent[4], kJsAbsent);
+    EXPECT_EQ(registry.vdTypes[4], VDType::Absent);
+    EXPECT_EQ(registry.vdTypes[37], VDType::Absent);
+    EXPECT_EQ(registry.jsPresent[4], false);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -184,8 +184,8 @@ TEST_F(NewViewRequest, AModuleWithoutReplyIsLeftOutAndTheOthersAreAsked) {
     const auto status = Run();
     ASSERT_TRUE(status);
     EXPECT_EQ(status->vd[0].state, ModuleState::Absent);
-    EXPECT_EQ(registry.vdType[0], kVdNone);
-    EXPECT_EQ(registry.vdType[19], kVd60);
+    EXPECT_EQ(registry.vdTypes[0], VDType::Absent);
+    EXPECT_EQ(registry.vdTypes[19], VDType::Vd60);
     EXPECT_EQ(messageBox.shown.size(), 1U);
 }
 
@@ -194,7 +194,7 @@ TEST_F(NewViewRequest, ASecondRequestForgetsWhatIsGone) {
     ASSERT_TRUE(Run());
     layout.modules.clear();
     ASSERT_TRUE(Run());
-    EXPECT_EQ(registry.vdType, ModuleRegistry().vdType);
+    EXPECT_EQ(registry.vdTypes, ModuleRegistry().vdTypes);
     EXPECT_EQ(registry.jsPresent, ModuleRegistry().jsPresent);
 }
 

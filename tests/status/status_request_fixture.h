@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "status/status_request.h"
+#include "support/recording_view.h"
 #include "support/status_responder.h"
 
 namespace zelvar::testing {
@@ -17,11 +18,12 @@ class StatusRequestFixture : public LinkFixture {
     StatusRequestFixture() { port.responder = std::ref(layout); }
 
     std::optional<SystemStatus> Run(bool classicAsked = false) {
-        return StatusRequest(link, progress, clock, registry).Run(classicAsked);
+        return StatusRequest(link, progress, clock, registry, requestView).Run(classicAsked);
     }
 
     StatusResponder layout;
     ModuleRegistry registry;
+    RecordingView requestView{[this] { return port.sent.size(); }};
 };
 
 }  // namespace zelvar::testing

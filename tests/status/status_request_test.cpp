@@ -74,14 +74,14 @@ TEST(SystemStateNameTest, OtherValuesAreUnknown) {
 }
 
 TEST_F(StatusRequestTest, AFirstRequestWithoutReplyEndsItWithOneBoxAndTheOldRegistry) {
-    registry.vdType[3] = kVdF;
-    registry.jsPresent[2] = kJsPresent;
+    registry.vdTypes[3] = VDType::VdF;
+    registry.jsPresent[2] = true;
     port.replies = {Bytes{}};
     EXPECT_FALSE(Run());
     EXPECT_EQ(port.sent.size(), 1U);
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
-    EXPECT_EQ(registry.vdType[3], kVdF);
-    EXPECT_EQ(registry.jsPresent[2], kJsPresent);
+    EXPECT_EQ(registry.vdTypes[3], VDType::VdF);
+    EXPECT_EQ(registry.jsPresent[2], true);
     EXPECT_EQ(progress.ended, 1);
 }
 
@@ -185,9 +185,9 @@ TEST_F(StatusRequestTest, CancelEndsItAsAFailedFirstRequestDoes) {
     layout.instead[{1, 2}] = {};
     port.replyDelay = 0.4;
     progress.cancelAfterAsked = 3;
-    registry.vdType[3] = kVdF;
+    registry.vdTypes[3] = VDType::VdF;
     EXPECT_FALSE(Run());
-    EXPECT_EQ(registry.vdType[3], kVdF);
+    EXPECT_EQ(registry.vdTypes[3], VDType::VdF);
     EXPECT_TRUE(messageBox.shown.empty());
     EXPECT_EQ(progress.ended, 1);
     const Requests sent = port.SentValues();

@@ -21,8 +21,29 @@ Bytes WireFrame(std::initializer_list<int> values, int header) {
     return WireFrame(std::vector<int>(values), header);
 }
 
-bool ScriptedPort::Open() {
-    history.push_back("open " + std::to_string(number) + " " + settings);
+Reply ReplyOf(const Bytes& bytes) {
+    FrameReader reader;
+    bool complete = false;
+    for (const std::uint8_t byte : bytes) {
+        complete = reader.Push(byte);
+    }
+    EXPECT_TRUE(complete) << "not a complete frame";
+    return Reply(reader.Frame());
+}
+
+Reply MakeReply(int header, std::vector<int> values) {
+    values.resize(static_cast<std::size_t>(header & kHeaderCountMask));
+    Bytes bytes = WireFrame(values);
+    bytes.back() = static_cast<std::uint8_t>(
+        kNotHeader + ((bytes.back() + bytes.front() - header) & kPayloadMask));
+    bytes.front() = static_cast<std::uint8_t>(header);
+    return ReplyOf(bytes);
+}
+
+bool ScriptedPort::Open(int portNumber, int baudRate) {
+    number = portNumber;
+    baud = baudRate;
+    history.push_back("open " + std::to_string(number) + " " + std::to_string(baud));
     open = openable.count(number) > 0;
     return open;
 }
@@ -35,24 +56,20 @@ void ScriptedPort::Close() {
     incoming_.clear();
 }
 
-std::size_t ScriptedPort::BytesWaiting() {
-    std::size_t waiting = 0;
-    while (waiting < incoming_.size() && incoming_[waiting].first <= clock_.now) {
-        ++waiting;
-    }
-    return open ? waiting : 0;
+bool ScriptedPort::HasArrived() const {
+    return !incoming_.empty() && incoming_.front().first <= clock_.now;
 }
 
-std::uint8_t ScriptedPort::ReadByte() {
-    const std::uint8_t byte = incoming_.front().second;
-    incoming_.pop_front();
-    return byte;
+std::size_t ScriptedPort::Read(std::span<std::uint8_t> buffer) {
+    std::size_t count = 0;
+    for (; open && count < buffer.size() && HasArrived(); ++count) {
+        buffer[count] = incoming_.front().second;
+        incoming_.pop_front();
+    }
+    return count;
 }
 
-void ScriptedPort::WriteByte(std::uint8_t byte) {
-    if (!open) {
-        return;
-    }
+void ScriptedPort::Send(std::uint8_t byte) {
     written.push_back(byte);
     if (byte < 128) {
         partial_.clear();
@@ -78,9 +95,17 @@ void ScriptedPort::WriteByte(std::uint8_t byte) {
     Arrive(reply, replyDelay);
 }
 
-void ScriptedPort::WaitForByte(double seconds) {
+void ScriptedPort::SendAndWait(std::span<const std::uint8_t> bytes, double seconds) {
     // Time goes on by a little more than asked, as it does when an operating system sleeps.
     constexpr double kOversleep = 0.001;
+    for (const std::uint8_t byte : bytes) {
+        if (open) {
+            Send(byte);
+        }
+    }
+    if (seconds == 0 || HasArrived() || !open) {
+        return;
+    }
     if (!incoming_.empty() && incoming_.front().first <= clock_.now + seconds) {
         clock_.now = std::max(clock_.now, incoming_.front().first);
     } else {
@@ -135,7 +160,7 @@ BoxAnswer FakeMessageBox::Ask(const std::string& text, BoxIcon icon, BoxButtons 
     const BoxAnswer negative = isYesNo ? BoxAnswer::No : BoxAnswer::Cancel;
     const BoxAnswer positive = isYesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
     if (answers.empty()) {
-        ADD_FAILURE() << "nobody prepared an answer to: " << text;
+        ADD_FAILURE() << "no answer was prepared to: " << text;
         return negative;
     }
     const BoxAnswer answer = answers.front();

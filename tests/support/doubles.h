@@ -10,17 +10,20 @@
 #include <initializer_list>
 #include <ostream>
 #include <set>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "link/link.h"
+#include "logs/message_log.h"
 #include "platform/clock.h"
 #include "platform/message_box.h"
 #include "platform/progress.h"
 #include "platform/serial_port.h"
 #include "platform/timer.h"
-#include "protocol/frame.h"
+#include "protocol/reply.h"
+#include "protocol/status.h"
 
 namespace zelvar::testing {
 
@@ -29,6 +32,12 @@ using Bytes = std::vector<std::uint8_t>;
 /// A frame as it stands on the wire. @param header without the count and the mark
 Bytes WireFrame(std::initializer_list<int> values, int header = 0);
 Bytes WireFrame(const std::vector<int>& values, int header = 0);
+
+/// A reply as the program has received it. @param bytes a complete frame
+Reply ReplyOf(const Bytes& bytes);
+
+/// A reply with this header byte. @param values those that the header counts; missing ones are 0
+Reply MakeReply(int header, std::vector<int> values);
 
 /// The reply without data.
 inline Bytes EmptyReply() {
@@ -59,7 +68,7 @@ struct SentFrame {
     bool operator==(const SentFrame& other) const { return wire == other.wire; }
 };
 
-/// A serial line whose other end answers as told. Waiting moves the clock instead of sleeping.
+/// A serial line whose other end answers as scripted. Waiting moves the clock instead of sleeping.
 class ScriptedPort : public SerialPort {
   public:
     /// Gives what comes back for a frame; nothing for silence.
@@ -67,16 +76,11 @@ class ScriptedPort : public SerialPort {
 
     explicit ScriptedPort(FakeClock& clock) : clock_(clock) {}
 
-    void SetPortNumber(int value) override { number = value; }
-    void SetSettings(const std::string& value) override { settings = value; }
-    bool Open() override;
+    bool Open(int portNumber, int baudRate) override;
     void Close() override;
     bool IsOpen() const override { return open; }
-    std::size_t BytesWaiting() override;
-    std::uint8_t ReadByte() override;
-    void WriteByte(std::uint8_t byte) override;
-    void Flush() override { ++flushes; }
-    void WaitForByte(double seconds) override;
+    void SendAndWait(std::span<const std::uint8_t> bytes, double seconds) override;
+    std::size_t Read(std::span<std::uint8_t> buffer) override;
     void SetLostHandler(std::function<void()> handler) override { onLost = std::move(handler); }
 
     /// Bytes that arrive so many seconds from now.
@@ -100,15 +104,17 @@ class ScriptedPort : public SerialPort {
     std::set<int> openable = {1, 2, 3};
     bool open = false;
     int number = 0;
-    std::string settings;
-    int flushes = 0;
+    int baud = 0;
     Bytes written;
     std::vector<SentFrame> sent;
-    /// "open 3 19200,o,8,1" and "close", in order.
+    /// "open 3 19200" and "close", in order.
     std::vector<std::string> history;
     std::function<void()> onLost;
 
   private:
+    void Send(std::uint8_t byte);
+    bool HasArrived() const;
+
     FakeClock& clock_;
     std::deque<std::pair<double, std::uint8_t>> incoming_;
     Bytes partial_;
@@ -124,8 +130,8 @@ struct ShownBox {
 
 void PrintTo(const ShownBox& box, std::ostream* out);
 
-/// Records what was asked and answers as told. A question without a prepared answer, or with one
-/// that is not on offer, fails the test.
+/// Records what was asked and gives the prepared answers. A question without a prepared answer, or
+/// with one that is not on offer, fails the test.
 class FakeMessageBox : public MessageBox {
   public:
     BoxAnswer Ask(const std::string& text, BoxIcon icon, BoxButtons buttons) override;
@@ -156,7 +162,11 @@ class FakeLinkView : public LinkView {
   public:
     bool IsStopTicked() const override { return stopTicked; }
     void ShowSystemState(SystemState state) override { states.push_back(state); }
-    void AppendMessageLog(const std::string& text) override { log += text; }
+    void FrameSent(const FrameBytes& frame) override { log += LogFrameSent(frame); }
+    void ReplyReceived(const FrameBytes& frame, const Reply& reply) override {
+        log += LogReplyReceived(frame, reply);
+    }
+    void NoReply() override { log += LogNoReply(); }
 
     bool stopTicked = false;
     std::vector<SystemState> states;

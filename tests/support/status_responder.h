@@ -36,7 +36,7 @@ struct StatusResponder {
     struct Module {
         /// Status byte.
         int status = kHere;
-        /// Such as 1021 for 1.02 A; 0 for a module that tells none.
+        /// Such as 1021 for 1.02 A; 0 for a module that reports none.
         int version = 1020;
     };
 

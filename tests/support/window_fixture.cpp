@@ -3,7 +3,12 @@
 #include "support/window_fixture.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
+#include <QRadioButton>
 #include <QTabWidget>
+#include <QTimer>
+
+#include <cstdlib>
 
 namespace zelvar::testing {
 
@@ -17,13 +22,25 @@ std::string NamesBelow(const QWidget& root) {
     return names;
 }
 
-QWidget* FindWindow(const char* name) {
+QWidget* FindWindow(const std::string& name) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == QString::fromUtf8(name)) {
+        if (widget->objectName() == QString::fromStdString(name)) {
             return widget;
         }
     }
     return nullptr;
+}
+
+QPoint SpotOf(const QWidget& control) {
+    const bool hasIndicator = qobject_cast<const QCheckBox*>(&control) != nullptr ||
+                              qobject_cast<const QRadioButton*>(&control) != nullptr;
+    return hasIndicator ? QPoint(8, control.height() / 2) : control.rect().center();
+}
+
+void Settle() {
+    bool fired = false;
+    QTimer::singleShot(0, [&fired] { fired = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&fired] { return fired; }));
 }
 
 WindowHands::WindowHands() = default;
@@ -31,12 +48,16 @@ WindowHands::WindowHands() = default;
 WindowHands::~WindowHands() = default;
 
 void WindowHands::ShowWindowOn(SerialPort& line) {
+    ShowWindowOn(line, messageBox);
+}
+
+void WindowHands::ShowWindowOn(SerialPort& line, MessageBox& boxes) {
     const auto path = [](int number) { return QStringLiteral("/dev/port%1").arg(number); };
     const auto description = [path](int number) {
         return path(number) + QStringLiteral(" (Adapter)");
     };
-    window = std::make_unique<MainWindow>(
-        Platform{line, timer, clock, messageBox, gate, path, description});
+    window =
+        std::make_unique<MainWindow>(Platform{line, timer, clock, boxes, gate, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     window->BuildTabs();
@@ -55,20 +76,21 @@ void WindowHands::ShowTabOf(QWidget& control) {
     }
 }
 
-void WindowHands::Click(const char* name) {
-    auto& button = Find<QAbstractButton>(name);
-    ShowTabOf(button);
-    ASSERT_TRUE(button.isVisible()) << name << " is hidden";
-    // A check box or option reacts on its indicator and caption, not on the room behind them.
-    const bool isPushButton = qobject_cast<QPushButton*>(&button) != nullptr;
-    const QPoint place = isPushButton ? button.rect().center() : QPoint(8, button.height() / 2);
-    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, place);
+void WindowHands::Click(const std::string& button) {
+    auto& control = Find<QAbstractButton>(button);
+    ShowTabOf(control);
+    ASSERT_TRUE(control.isVisible()) << button << " is hidden";
+    QTest::mouseClick(&control, Qt::LeftButton, Qt::NoModifier, SpotOf(control));
 }
 
-void WindowHands::Choose(const char* list, const QString& entry) {
+void WindowHands::DoubleClick(const std::string& control) {
+    QTest::mouseDClick(&Find(control), Qt::LeftButton);
+}
+
+void WindowHands::Choose(const std::string& list, const std::string& entry) {
     auto& combo = Find<QComboBox>(list);
-    const int index = combo.findText(entry);
-    ASSERT_GE(index, 0) << list << " has no entry '" << entry.toStdString() << "'";
+    const int index = combo.findText(QString::fromStdString(entry));
+    ASSERT_GE(index, 0) << list << " has no entry '" << entry << "'";
     ShowTabOf(combo);
     ASSERT_TRUE(combo.isVisible()) << list << " is hidden";
     combo.showPopup();
@@ -76,34 +98,60 @@ void WindowHands::Choose(const char* list, const QString& entry) {
     QTest::keyClick(combo.view(), Qt::Key_Return);
 }
 
-void WindowHands::Type(const char* field, const QString& text) {
+void WindowHands::Type(const std::string& field, const std::string& text) {
     auto& edit = Find<QLineEdit>(field);
     ShowTabOf(edit);
     edit.setFocus();
     edit.selectAll();
-    if (text.isEmpty()) {
+    if (text.empty()) {
         QTest::keyClick(&edit, Qt::Key_Delete);
     } else {
-        QTest::keyClicks(&edit, text);
+        QTest::keyClicks(&edit, QString::fromStdString(text));
     }
 }
 
-QString WindowHands::TextOf(const char* name) {
-    auto& control = Find<QWidget>(name);
-    return control.property("text").toString();
+void WindowHands::Tick(const std::string& box, bool ticked) {
+    if (IsTicked(box) != ticked) {
+        Click(box);
+    }
+    EXPECT_EQ(IsTicked(box), ticked) << box;
 }
 
-void WindowFixture::OpenPort() {
-    Choose("cboPort", QStringLiteral("1"));
-    ASSERT_TRUE(port.IsOpen());
-    port.history.clear();
+void WindowHands::SlideTo(const std::string& slider, int value) {
+    auto& control = Find<QSlider>(slider);
+    ShowTabOf(control);
+    control.setFocus();
+    while (control.value() != value) {
+        const bool up = control.value() < value;
+        const bool far = std::abs(control.value() - value) >= control.pageStep();
+        QTest::keyClick(&control, far ? (up ? Qt::Key_PageUp : Qt::Key_PageDown)
+                                      : (up ? Qt::Key_Right : Qt::Key_Left));
+    }
+    Settle();
 }
 
-void WindowHands::Tick() {
-    if (timer.enabled && !gate.IsBusy()) {
+std::string WindowHands::TextOf(const std::string& control) {
+    return Find(control).property("text").toString().toStdString();
+}
+
+bool WindowHands::IsGreen(const std::string& control) {
+    const QWidget& widget = Find(control);
+    const bool isField = qobject_cast<const QLineEdit*>(&widget) != nullptr;
+    const QColor ground = widget.palette().color(isField ? QPalette::Base : QPalette::Window);
+    return ground == QColor(0, 255, 0) && widget.autoFillBackground();
+}
+
+void WindowHands::Poll(int ticks) {
+    for (int i = 0; i < ticks && timer.enabled && !gate.IsBusy(); ++i) {
         const HandlerGate::Scope scope(gate);
         window->Timer1_Timer();
     }
+}
+
+void WindowFixture::OpenPort() {
+    Choose("cboPort", "1");
+    ASSERT_TRUE(port.IsOpen());
+    port.history.clear();
 }
 
 }  // namespace zelvar::testing

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSlider>
 #include <QTest>
 #include <QWidget>
 
@@ -27,8 +28,8 @@ std::string NamesBelow(const QWidget& root);
 
 /// A control below a widget. Fails the test, naming what there is, when it is not found.
 template <typename Control = QWidget>
-Control& FindBelow(QWidget& root, const char* name) {
-    auto* control = root.findChild<Control*>(QString::fromUtf8(name));
+Control& FindBelow(QWidget& root, const std::string& name) {
+    auto* control = root.findChild<Control*>(QString::fromStdString(name));
     if (control == nullptr) {
         ADD_FAILURE() << "no control " << name << " of that kind; there are: " << NamesBelow(root);
         throw std::runtime_error(name);
@@ -37,9 +38,18 @@ Control& FindBelow(QWidget& root, const char* name) {
 }
 
 /// A window of the program, shown or not; null while it is not loaded.
-QWidget* FindWindow(const char* name);
+QWidget* FindWindow(const std::string& name);
+
+/// Where a user clicks a control: a check box or option reacts on its indicator and caption, not on
+/// the room behind them.
+QPoint SpotOf(const QWidget& control);
+
+/// Lets the event loop turn until a zero-delay timer that starts now has fired.
+void Settle();
 
 /// The main window and hands to work it with, on a line that the fixture behind it brings along.
+/// What acts on a control brings its tab to the front first, and fails when it is hidden. The
+/// end-to-end tests have the same words, in tools/driver/harness/driven_program.h.
 class WindowHands : public ::testing::Test {
   protected:
     WindowHands();
@@ -47,25 +57,37 @@ class WindowHands : public ::testing::Test {
 
     /// Makes the window and shows it. @param line outlives the window
     void ShowWindowOn(SerialPort& line);
+    /// The same with other message boxes than `messageBox`. @param boxes outlives the window
+    void ShowWindowOn(SerialPort& line, MessageBox& boxes);
 
     template <typename Control = QWidget>
-    Control& Find(const char* name) {
+    Control& Find(const std::string& name) {
         return FindBelow<Control>(*window, name);
     }
 
-    /// Presses a button of the main window with the mouse. Its tab comes to the front first.
-    void Click(const char* name);
-
+    void Click(const std::string& button);
+    void DoubleClick(const std::string& control);
     /// Chooses an entry of a list as a user does. Fails when there is no such entry.
-    void Choose(const char* list, const QString& entry);
-
+    void Choose(const std::string& list, const std::string& entry);
     /// Types a text over what a field shows.
-    void Type(const char* field, const QString& text);
+    void Type(const std::string& field, const std::string& text);
+    void Type(const std::string& field, int number) { Type(field, std::to_string(number)); }
+    /// Clicks a box unless it is ticked, or not ticked, already.
+    void Tick(const std::string& box, bool ticked);
+    /// Moves a slider with the keyboard until it stands at a value.
+    void SlideTo(const std::string& slider, int value);
 
-    QString TextOf(const char* name);
+    std::string TextOf(const std::string& control);
+    int NumberIn(const std::string& field) { return std::stoi(TextOf(field)); }
+    int ValueOf(const std::string& slider) { return Find<QSlider>(slider).value(); }
+    bool IsTicked(const std::string& box) { return Find<QAbstractButton>(box).isChecked(); }
+    /// Whether a control is there for the user, however far its tab is from the front.
+    bool IsShown(const std::string& control) { return !Find(control).isHidden(); }
+    /// Whether a control has the ground of what was read back from a module.
+    bool IsGreen(const std::string& control);
 
-    /// One tick of the poll timer, if it is enabled.
-    void Tick();
+    /// So many ticks of the poll timer, while it is enabled.
+    void Poll(int ticks = 1);
 
     /// Brings the tab that holds a control to the front.
     void ShowTabOf(QWidget& control);

@@ -76,14 +76,14 @@ TEST_P(NumberFields, StepsWithinItsRange) {
     EXPECT_TRUE(spin.isAccelerated());
     EXPECT_EQ(spin.property("minimum").toInt(), GetParam().minimum);
     EXPECT_EQ(spin.property("maximum").toInt(), GetParam().maximum);
-    EXPECT_EQ(TextOf(GetParam().field).toInt(), GetParam().minimum) << "at the start";
+    EXPECT_EQ(NumberIn(GetParam().field), GetParam().minimum) << "at the start";
     spin.stepDown();
-    EXPECT_EQ(TextOf(GetParam().field).toInt(), GetParam().minimum);
+    EXPECT_EQ(NumberIn(GetParam().field), GetParam().minimum);
     spin.stepUp();
-    EXPECT_EQ(TextOf(GetParam().field).toInt(), GetParam().minimum + 1);
+    EXPECT_EQ(NumberIn(GetParam().field), GetParam().minimum + 1);
     After(std::to_string(GetParam().maximum));
     spin.stepUp();
-    EXPECT_EQ(TextOf(GetParam().field).toInt(), GetParam().maximum);
+    EXPECT_EQ(NumberIn(GetParam().field), GetParam().maximum);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -109,14 +109,14 @@ INSTANTIATE_TEST_SUITE_P(
 using FieldsAndCaptions = DriveFixture;
 
 TEST_F(FieldsAndCaptions, TypedNumbersAreCorrectedAtOnce) {
-    Type("Text_Decoder", QStringLiteral("20000"));
-    EXPECT_EQ(TextOf("Text_Decoder"), QStringLiteral("10239"));
-    Type("Text_Decoder", QStringLiteral("0"));
-    EXPECT_EQ(TextOf("Text_Decoder"), QStringLiteral("1"));
-    Type("txtTestBlock", QStringLiteral("256"));
-    EXPECT_EQ(TextOf("txtTestBlock"), QStringLiteral("255"));
-    Type("txtTestBlock", QStringLiteral(""));
-    EXPECT_EQ(TextOf("txtTestBlock"), QString());
+    Type("Text_Decoder", "20000");
+    EXPECT_EQ(TextOf("Text_Decoder"), "10239");
+    Type("Text_Decoder", "0");
+    EXPECT_EQ(TextOf("Text_Decoder"), "1");
+    Type("txtTestBlock", "256");
+    EXPECT_EQ(TextOf("txtTestBlock"), "255");
+    Type("txtTestBlock", "");
+    EXPECT_EQ(TextOf("txtTestBlock"), "");
 }
 
 struct Captioned {
@@ -209,7 +209,7 @@ TEST_F(FieldsAndCaptions, EveryControlCarriesItsCaption) {
     for (const Captioned& row : kCaptions) {
         auto& control = Find<QWidget>(row.name);
         EXPECT_TRUE(control.inherits(row.kind)) << row.name;
-        EXPECT_EQ(TextOf(row.name), QString::fromUtf8(row.caption)) << row.name;
+        EXPECT_EQ(TextOf(row.name), row.caption) << row.name;
         EXPECT_FALSE(control.accessibleName().isEmpty()) << row.name;
     }
 }

@@ -57,7 +57,7 @@ TEST_F(TestTabTest, ClearingABlockPutsTheControlsToRestAndSendsOneCommand) {
     EXPECT_EQ(Slider("AnalogSpeed").value(), 0);
     EXPECT_EQ(Slider("DCCSpeed").value(), 0);
     EXPECT_EQ(Slider("MCCspeed").value(), 3) << "MCC knows no block";
-    EXPECT_EQ(TextOf("lblTestAnalogSpeed"), QStringLiteral("---"));
+    EXPECT_EQ(TextOf("lblTestAnalogSpeed"), "---");
     EXPECT_TRUE(Box("CheckAnalogDirection").isChecked());
     EXPECT_FALSE(Box("CheckAnalogLight").isChecked());
     EXPECT_TRUE(Box("CheckDCCDirection").isChecked());

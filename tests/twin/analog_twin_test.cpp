@@ -84,8 +84,8 @@ TEST_P(AnalogTwin, TheReportOfTheBlockReadsAsItRuns) {
         return;  // it stood before
     }
     Do(kEmptyTransaction);
-    ASSERT_TRUE(MatchesReply(ReplyKind::BlockSpeed, link.Reply()));
-    EXPECT_EQ(ReadBlockSpeedReport(link.Reply()), (BlockSpeedReport{block, speed, forward}));
+    ASSERT_TRUE(MatchesReply(ReplyKind::BlockSpeed, *reply));
+    EXPECT_EQ(ReadBlockSpeedReport(*reply), (BlockSpeedReport{block, speed, forward}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, AnalogTwin, ::testing::ValuesIn(kAnalogRows), NameOf<AnalogRow>);

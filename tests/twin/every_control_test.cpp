@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "config/vd_settings.h"
 #include "test/locomotives/drive_fixture.h"
 #include "twin/twin_window.h"
 
@@ -21,7 +22,7 @@ std::string Times(const std::string& name, int times) {
 
 /// A control that makes the program send, and what the unit calls it. A new one needs a row here.
 struct SendingControl {
-    const char* control;
+    std::string control;
     /// The module that it is pressed for.
     const char* module;
     std::string commands;
@@ -72,24 +73,6 @@ const SendingControl kPlainControls[] = {
     {"cmdTM(2)", "", "transparent-boot-loader"},
 };
 
-struct SettingButtons {
-    const char* set;
-    /// None for a QLRX-s: it takes settings and gives none back.
-    const char* get;
-    /// The modules that they are pressed for.
-    const char* module;
-    const char* moduleThatTells;
-    int commands;
-};
-
-const SettingButtons kSettingButtons[] = {
-    {"cmdSW(0)", "cmdSW(1)", " 0", " 0", 4},     {"cmdHFI(0)", "cmdHFI(1)", " 0", " 5.0", 1},
-    {"cmdAL(0)", "cmdAL(1)", " 5.1", " 5.1", 2}, {"cmdDCShift(0)", "cmdDCShift(1)", " 0", " 0", 1},
-    {"cmdPWMM(0)", "cmdPWMM(1)", " 0", " 0", 1}, {"cmdOCD(0)", "cmdOCD(1)", " 0", " 0", 1},
-    {"cmdMS(0)", "cmdMS(1)", " 0", " 5.0", 1},   {"cmdPC(0)", "cmdPC(1)", " 0", " 0", 1},
-    {"cmdLC(0)", nullptr, " 8", nullptr, 1},     {"cmdAD(0)", nullptr, " 8", nullptr, 1},
-};
-
 std::vector<SendingControl> SendingControls() {
     std::vector<SendingControl> all(std::begin(kPlainControls), std::end(kPlainControls));
     // What a status request asks for: 32 traction modules and three second units, 16 point-motor
@@ -99,18 +82,30 @@ std::vector<SendingControl> SendingControls() {
     const std::string memory =
         "points-get-default-time " + Times("points-get-device", sim::kPointDevices);
     all.push_back({"cmdGetJSConfig", "", memory + ' ' + memory});
-    for (const SettingButtons& row : kSettingButtons) {
-        all.push_back({row.set, row.module, Times("traction-set", row.commands)});
-        if (row.get != nullptr) {
-            all.push_back({row.get, row.moduleThatTells, Times("traction-get", row.commands)});
+    for (const VDSetting& setting : VDSettings()) {
+        const int commands = static_cast<int>(VDCommandCount(setting));
+        // Module 0 is a VD-F; 8 is a QLRX-s, which takes settings and gives none back.
+        const bool isVdF = setting.shownFor.Contains(VDType::VdF);
+        all.push_back({Member(setting.button, kSetButton), isVdF ? " 0" : " 8",
+                       Times("traction-set", commands)});
+        if (isVdF) {
+            all.push_back(
+                {Member(setting.button, kGetButton), " 0", Times("traction-get", commands)});
         }
     }
     return all;
 }
 
-/// Buttons that send nothing, or that nobody can press.
-const std::set<std::string> kQuietButtons{"cmdRefresh", "CommandTestFBM", "cmdHideJSConfig",
-                                          "cmdCancel",  "cmdLC(1)",       "cmdAD(1)"};
+/// Buttons that send nothing, or that are never offered.
+std::set<std::string> QuietButtons() {
+    std::set<std::string> quiet{"cmdRefresh", "CommandTestFBM", "cmdHideJSConfig", "cmdCancel"};
+    for (const VDSetting& setting : VDSettings()) {
+        if (!setting.shownFor.Contains(VDType::VdF)) {
+            quiet.insert(Member(setting.button, kGetButton));
+        }
+    }
+    return quiet;
+}
 
 class EveryControl : public TwinWindow {
   protected:
@@ -127,7 +122,7 @@ class EveryControl : public TwinWindow {
         if (auto* slider = window->findChild<QSlider*>(QString::fromStdString(name))) {
             SlideTo(name.c_str(), slider->value() == 0 ? 5 : 0);
         } else {
-            Press(name);
+            Click(name);
         }
     }
 
@@ -144,9 +139,9 @@ TEST_F(EveryControl, ThatSendsIsUnderstoodAsMeant) {
     for (const SendingControl& row : SendingControls()) {
         SCOPED_TRACE(row.control);
         if (*row.module != '\0') {
-            Choose("cboVD", QString::fromUtf8(row.module));
+            Choose("cboVD", row.module);
         }
-        if (std::string(row.control).find("rase") != std::string::npos) {
+        if (row.control.find("rase") != std::string::npos) {
             messageBox.answers = {BoxAnswer::Ok};
         }
         port.TakeCommands();
@@ -176,7 +171,7 @@ TEST_F(EveryControl, IsEitherListedOrQuiet) {
     for (const auto* slider : All<QSlider>()) {
         buttons.insert(slider->objectName().toStdString());
     }
-    std::set<std::string> listed = kQuietButtons;
+    std::set<std::string> listed = QuietButtons();
     for (const std::string& name : sending) {
         if (name.rfind("Check", 0) != 0) {
             listed.insert(name);
@@ -192,7 +187,7 @@ TEST_F(EveryControl, ABoxOrOptionThatIsNotListedSendsNothing) {
     }
     int pressed = 0;
     for (const char* module : {" 0", " 8"}) {
-        Choose("cboVD", QString::fromUtf8(module));
+        Choose("cboVD", module);
         for (auto* button : All<QAbstractButton>()) {
             const std::string name = button->objectName().toStdString();
             const bool isBox = qobject_cast<QCheckBox*>(button) != nullptr ||
@@ -202,7 +197,7 @@ TEST_F(EveryControl, ABoxOrOptionThatIsNotListedSendsNothing) {
                 continue;
             }
             port.TakeCommands();
-            Press(name);
+            Click(name);
             testing::Settle();
             EXPECT_EQ(Sent(), "") << name;
             ++pressed;

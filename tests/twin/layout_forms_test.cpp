@@ -10,22 +10,22 @@ class LayoutForms : public TwinWindow {};
 TEST_F(LayoutForms, PointsMoveByTheirNumber) {
     for (const int device : {0, 5, 127, 128, 255, 256, 300, 384, 511}) {
         const std::string point = "point." + std::to_string(device);
-        Enter("txtTestJS70device", device);
-        EXPECT_EQ(EffectOfPress("cmdTestJS70(1)"), (Changes{{point, 1}})) << "thrown";
-        EXPECT_EQ(EffectOfPress("cmdTestJS70(0)"), (Changes{{point, 0}})) << "straight";
+        Type("txtTestJS70device", device);
+        EXPECT_EQ(EffectOfClick("cmdTestJS70(1)"), (Changes{{point, 1}})) << "thrown";
+        EXPECT_EQ(EffectOfClick("cmdTestJS70(0)"), (Changes{{point, 0}})) << "straight";
     }
 }
 
 TEST_F(LayoutForms, PointsMoveByTheirModule) {
-    Press("chkTestJS70selectmodule");
+    Click("chkTestJS70selectmodule");
     for (const int module : {0, 7, 8, 11, 15}) {
         for (const int device : {0, 3, 63}) {
             const std::string point =
                 "point-of-module." + std::to_string(module) + '.' + std::to_string(device);
-            Enter("txtTestJS70module", module);
-            Enter("txtTestJS70device", device);
-            EXPECT_EQ(EffectOfPress("cmdTestJS70(1)"), (Changes{{point, 1}}));
-            EXPECT_EQ(EffectOfPress("cmdTestJS70(0)"), (Changes{{point, 0}}));
+            Type("txtTestJS70module", module);
+            Type("txtTestJS70device", device);
+            EXPECT_EQ(EffectOfClick("cmdTestJS70(1)"), (Changes{{point, 1}}));
+            EXPECT_EQ(EffectOfClick("cmdTestJS70(0)"), (Changes{{point, 0}}));
         }
     }
 }
@@ -33,11 +33,11 @@ TEST_F(LayoutForms, PointsMoveByTheirModule) {
 TEST_F(LayoutForms, SignalsShowTheirAspect) {
     for (const auto& [module, pin, aspect] :
          {std::tuple{0, 0, 1}, {0, 127, 11}, {2, 10, 3}, {15, 64, 8}, {16, 1, 2}, {31, 127, 11}}) {
-        Enter("txtTestYR70module", module);
-        Enter("txtTestYR70pin", pin);
-        Enter("txtTestYR70aspect", aspect);
+        Type("txtTestYR70module", module);
+        Type("txtTestYR70pin", pin);
+        Type("txtTestYR70aspect", aspect);
         EXPECT_EQ(
-            EffectOfPress("cmdTestYR70"),
+            EffectOfClick("cmdTestYR70"),
             (Changes{{"aspect." + std::to_string(module) + '.' + std::to_string(pin), aspect}}));
     }
 }
@@ -45,11 +45,11 @@ TEST_F(LayoutForms, SignalsShowTheirAspect) {
 TEST_F(LayoutForms, OutputsTakeInstructionAndParameter) {
     for (const auto& [output, instruction, parameter] :
          {std::tuple{0, 63, 1}, {127, 1, 127}, {128, 2, 3}, {300, 5, 100}, {511, 63, 127}}) {
-        Enter("txtTestGW70output", output);
-        Enter("txtTestGW70instruction", instruction);
-        Enter("txtTestGW70parameter", parameter);
+        Type("txtTestGW70output", output);
+        Type("txtTestGW70instruction", instruction);
+        Type("txtTestGW70parameter", parameter);
         const std::string name = "output." + std::to_string(output);
-        EXPECT_EQ(EffectOfPress("cmdTestGW70"), (Changes{{name + ".instruction", instruction},
+        EXPECT_EQ(EffectOfClick("cmdTestGW70"), (Changes{{name + ".instruction", instruction},
                                                          {name + ".parameter", parameter}}));
     }
 }
@@ -58,33 +58,33 @@ TEST_F(LayoutForms, BlocksAreLinkedAndUnlinked) {
     for (const auto& [first, second] : {std::pair{3, 4}, {0, 255}, {130, 200}, {127, 128}}) {
         const std::string link = "link." + std::to_string(first) + '.' + std::to_string(second);
         const std::string other = "block." + std::to_string(second);
-        Enter("txtTestLink(0)", first);
-        Enter("txtTestLink(1)", second);
-        EXPECT_EQ(EffectOfPress("CommandTestLink(0)"), (Changes{{link, 0}}));
-        EXPECT_EQ(EffectOfPress("CommandTestLink(2)"), Changes{}) << "it is the upper one";
-        EXPECT_EQ(EffectOfPress("CommandTestLink(3)"), (Changes{{link, kGone}}));
-        EXPECT_EQ(EffectOfPress("CommandTestLink(1)"),
+        Type("txtTestLink(0)", first);
+        Type("txtTestLink(1)", second);
+        EXPECT_EQ(EffectOfClick("CommandTestLink(0)"), (Changes{{link, 0}}));
+        EXPECT_EQ(EffectOfClick("CommandTestLink(2)"), Changes{}) << "it is the upper one";
+        EXPECT_EQ(EffectOfClick("CommandTestLink(3)"), (Changes{{link, kGone}}));
+        EXPECT_EQ(EffectOfClick("CommandTestLink(1)"),
                   (Changes{{link, 1}, {other + ".forward", 0}}));
-        Press("chkTestUnlinkZero");
-        EXPECT_EQ(EffectOfPress("CommandTestLink(3)"),
+        Click("chkTestUnlinkZero");
+        EXPECT_EQ(EffectOfClick("CommandTestLink(3)"),
                   (Changes{{link, kGone}, {other + ".forward", 1}}));
-        Press("chkTestUnlinkZero");
-        Press("CommandTestLink(0)");
-        Enter("txtTestLink(0)", second);
-        EXPECT_EQ(EffectOfPress("CommandTestLink(2)"), (Changes{{link, kGone}}));
+        Click("chkTestUnlinkZero");
+        Click("CommandTestLink(0)");
+        Type("txtTestLink(0)", second);
+        EXPECT_EQ(EffectOfClick("CommandTestLink(2)"), (Changes{{link, kGone}}));
     }
 }
 
 TEST_F(LayoutForms, AClearedBlockStandsAndSoDoTheControls) {
-    Enter("txtTestBlock", 129);
+    Type("txtTestBlock", 129);
     SlideTo("AnalogSpeed", 30);
-    Press("CheckAnalogDirection");
-    Press("CheckAnalogLight");
+    Click("CheckAnalogDirection");
+    Click("CheckAnalogLight");
     SlideTo("DCCSpeed", 20);
-    Press("CheckDCCDirection");
-    Press("Check_Pattern(7)");
+    Click("CheckDCCDirection");
+    Click("Check_Pattern(7)");
     port.TakeCommands();
-    EXPECT_EQ(EffectOfPress("CommandTestClearBlock"), (Changes{{"block.129.target", 0},
+    EXPECT_EQ(EffectOfClick("CommandTestClearBlock"), (Changes{{"block.129.target", 0},
                                                                {"block.129.forward", 1},
                                                                {"block.129.light", 0},
                                                                {"dcc.short.1.speed", 0},

@@ -42,7 +42,7 @@ testing::ShownBox Question(const std::map<int, std::string>& modes) {
 
 class MasterSlaveTwin : public TwinLink {
   protected:
-    MasterSlaveTwin() { StatusRequest(link, progress, clock, registry).Run(false); }
+    MasterSlaveTwin() { StatusRequest(link, progress, clock, registry, requestView).Run(false); }
 
     /// Sets a mode as the program does. @param mode 0 auto, 1 master, 2 slave
     void SetMode(int line, int mode) {

@@ -10,13 +10,13 @@ namespace {
 class ReportTwin : public TwinLink {
   protected:
     ReportTwin() {
-        link.Handlers().SetHandler(ReplyKind::Feedback, [this](const ReplyBuffer& reply) {
+        link.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& reply) {
             feedback.push_back(ReadFeedbackReport(reply));
         });
-        link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const ReplyBuffer& reply) {
+        link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
             overcurrents.push_back(ReadOvercurrentReport(reply));
         });
-        link.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const ReplyBuffer& reply) {
+        link.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
             speeds.push_back(ReadBlockSpeedReport(reply));
         });
     }
@@ -57,7 +57,7 @@ TEST_F(ReportTwin, EveryFeedbackInputIsAskedForByItsNumber) {
 TEST_F(ReportTwin, AnInputThatNoReportCanNameIsOnlyAcknowledged) {
     for (const int input : {sim::kFeedbackInputs, 4095}) {
         Do(FeedbackRequest(input));
-        EXPECT_EQ(link.Reply()[0] & kHeaderCountMask, 0);
+        EXPECT_EQ(reply->Count(), 0);
     }
     EXPECT_TRUE(feedback.empty());
 }

@@ -13,7 +13,7 @@ class PointsForms : public TwinWindow {
     static std::string In(int module, bool permanent) {
         return "points." + std::to_string(module) + (permanent ? ".permanent." : ".active.");
     }
-    void ChooseModule(int module) { Choose("cboJS", QStringLiteral(" %1").arg(module)); }
+    void ChooseModule(int module) { Choose("cboJS", " " + std::to_string(module)); }
 };
 
 TEST_F(PointsForms, TimesAndPowersReachTheModuleTheDeviceAndTheMemory) {
@@ -22,21 +22,21 @@ TEST_F(PointsForms, TimesAndPowersReachTheModuleTheDeviceAndTheMemory) {
         for (const bool permanent : {false, true}) {
             Tick("chkJSperm", permanent);
             for (const int time : {127, 1, 0}) {
-                Enter("txtJStime", time);
-                EXPECT_EQ(EffectOfPress("cmdTIME"),
+                Type("txtJStime", time);
+                EXPECT_EQ(EffectOfClick("cmdTIME"),
                           (Changes{{In(module, permanent) + "default", time}}));
             }
             for (const int device : {0, 1, 63}) {
                 const std::string name = In(module, permanent) + std::to_string(device);
-                Enter("txtJSdevice", device);
+                Type("txtJSdevice", device);
                 for (const int time : {127, 1, 0}) {
-                    Enter("txtJStime", time);
-                    EXPECT_EQ(EffectOfPress("cmdDeviceTime"), (Changes{{name + ".time", time}}));
+                    Type("txtJStime", time);
+                    EXPECT_EQ(EffectOfClick("cmdDeviceTime"), (Changes{{name + ".time", time}}));
                 }
                 // Unlimited, High, Low, Normal
                 for (const int power : {3, 2, 1, 0}) {
-                    Press(Member("optJSpower", power));
-                    EXPECT_EQ(EffectOfPress("cmdDevicePower"), (Changes{{name + ".power", power}}));
+                    Click(Member("optJSpower", power));
+                    EXPECT_EQ(EffectOfClick("cmdDevicePower"), (Changes{{name + ".power", power}}));
                 }
             }
         }
@@ -44,18 +44,18 @@ TEST_F(PointsForms, TimesAndPowersReachTheModuleTheDeviceAndTheMemory) {
 }
 
 TEST_F(PointsForms, AllMeansEveryModule) {
-    Choose("cboJS", QStringLiteral("All"));
-    Enter("txtJStime", 42);
+    Choose("cboJS", "All");
+    Type("txtJStime", 42);
     Changes meant;
     Changes erased;
     for (const int module : {0, 7, 8, 9, 15}) {
         meant[In(module, false) + "default"] = 42;
         erased[In(module, false) + "default"] = sim::FactoryPointSettings().defaultTime;
     }
-    EXPECT_EQ(EffectOfPress("cmdTIME"), meant);
+    EXPECT_EQ(EffectOfClick("cmdTIME"), meant);
     messageBox.answers = {BoxAnswer::Cancel, BoxAnswer::Ok};
-    EXPECT_EQ(EffectOfPress("cmdJSerase"), Changes{});
-    EXPECT_EQ(EffectOfPress("cmdJSerase"), erased);
+    EXPECT_EQ(EffectOfClick("cmdJSerase"), Changes{});
+    EXPECT_EQ(EffectOfClick("cmdJSerase"), erased);
     const testing::ShownBox question{
         "Warning! This will permanently erase all settings of all selected JS70-units",
         BoxIcon::Exclamation, BoxButtons::OkCancel};
@@ -65,15 +65,15 @@ TEST_F(PointsForms, AllMeansEveryModule) {
 TEST_F(PointsForms, WhatWasSetIsWhatTheReportShows) {
     ChooseModule(9);
     Tick("chkJSperm", true);
-    Enter("txtJStime", 42);
-    Press("cmdTIME");
+    Type("txtJStime", 42);
+    Click("cmdTIME");
     Tick("chkJSperm", false);
-    Enter("txtJStime", 60);
-    Enter("txtJSdevice", 63);
-    Press("cmdDeviceTime");
-    Press("optJSpower(3)");
-    Press("cmdDevicePower");
-    EXPECT_EQ(EffectOfPress("cmdGetJSConfig"), Changes{});
+    Type("txtJStime", 60);
+    Type("txtJSdevice", 63);
+    Click("cmdDeviceTime");
+    Click("optJSpower(3)");
+    Click("cmdDevicePower");
+    EXPECT_EQ(EffectOfClick("cmdGetJSConfig"), Changes{});
     const QString report = Find<QPlainTextEdit>("textJSReport").toPlainText();
     const qsizetype active = report.indexOf(QStringLiteral(" Active settings:"));
     ASSERT_GT(active, 0);
@@ -115,10 +115,10 @@ TEST_F(UnitForms, EverySwitchIsItsOwnBitAndReadBack) {
         Tick("chkKBperm", permanent);
         for (const int pattern : {1, 2, 4, 8, 16, 32, 64, 128, 255, 0}) {
             TickAll("chkKBEconfig", pattern);
-            EXPECT_EQ(EffectOfPress("cmdConfig(0)"),
+            EXPECT_EQ(EffectOfClick("cmdConfig(0)"),
                       (Changes{{In("configuration", permanent), pattern}}));
             TickAll("chkKBEconfig", 255 - pattern);
-            EXPECT_EQ(EffectOfPress("cmdConfig(1)"), Changes{});
+            EXPECT_EQ(EffectOfClick("cmdConfig(1)"), Changes{});
             EXPECT_EQ(Ticked("chkKBEconfig"), pattern);
             EXPECT_TRUE(IsGreen("chkKBEconfig(0)"));
         }
@@ -128,10 +128,10 @@ TEST_F(UnitForms, EverySwitchIsItsOwnBitAndReadBack) {
 TEST_F(UnitForms, EveryOptionIsItsOwnBit) {
     for (const int pattern : {1, 2, 4, 8, 64, 34, 127}) {
         TickAll("chkKBEoptions", pattern);
-        EXPECT_EQ(EffectOfPress("cmdOptions"), (Changes{{"options", pattern}}));
+        EXPECT_EQ(EffectOfClick("cmdOptions"), (Changes{{"options", pattern}}));
     }
     TickAll("chkKBEoptions", 128);
-    EXPECT_EQ(EffectOfPress("cmdOptions"), Changes{});
+    EXPECT_EQ(EffectOfClick("cmdOptions"), Changes{});
     expectedBoxes = {{"Overflow", BoxIcon::Critical, BoxButtons::Ok}};
 }
 
@@ -152,7 +152,7 @@ TEST_F(UnitForms, The64DeviceBoxesAddUpInTheirMemory) {
                                            {0, 0}}) {
             port.state().memories.unit.Part(permanent).deviceMode = 99;
             TickAll("chkJSdevicemode", pattern);
-            EXPECT_EQ(EffectOfPress("cmdJS70dm"), (Changes{{In("device-mode", permanent), sum}}));
+            EXPECT_EQ(EffectOfClick("cmdJS70dm"), (Changes{{In("device-mode", permanent), sum}}));
         }
     }
 }
@@ -164,13 +164,13 @@ TEST_F(UnitForms, EachTransparentModeIsTheOneThatIsNamed) {
     const std::vector<std::string> names{"transparent-channel-0", "transparent-channel-1",
                                          "transparent-boot-loader"};
     for (int index = 0; index < 3; ++index) {
-        EXPECT_EQ(EffectOfPress(Member("cmdTM", index)), (Changes{{"transparent", 1}}));
+        EXPECT_EQ(EffectOfClick(Member("cmdTM", index)), (Changes{{"transparent", 1}}));
         EXPECT_EQ(port.TakeNames(),
                   std::vector<std::string>{names[static_cast<std::size_t>(index)]});
         EXPECT_FALSE(timer.enabled);
         expectedBoxes.push_back(told);
         port.Reboot();
-        Press("cmdReset");
+        Click("cmdReset");
         EXPECT_TRUE(timer.enabled);
         port.TakeNames();
     }

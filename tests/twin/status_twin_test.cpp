@@ -15,7 +15,8 @@ class StatusTwin : public TwinLink {
     SystemStatus Request(const DescribedLayout& layout, bool classic = false) {
         port.Connect(layout.ForTheUnit());
         registry = ModuleRegistry();
-        const auto status = StatusRequest(link, progress, clock, registry).Run(classic);
+        const auto status =
+            StatusRequest(link, progress, clock, registry, requestView).Run(classic);
         EXPECT_TRUE(status);
         return status.value_or(SystemStatus());
     }
@@ -31,10 +32,10 @@ std::string Text(std::string_view text) {
 int CodeOf(const DescribedLayout& layout, int line) {
     const std::string state = layout.TractionState(line);
     if (state == "--" || state == "Error") {
-        return kVdNone;
+        return VDType::Absent;
     }
     const std::map<std::string, int> codes{
-        {"?", kVdUnknown}, {"VD-F", kVdF}, {"QLRX-s", kQlrxS}, {"VD60", kVd60}};
+        {"?", VDType::Unknown}, {"VD-F", VDType::VdF}, {"QLRX-s", kQlrxS}, {"VD60", kVd60}};
     return codes.at(layout.TypeOf(line));
 }
 
@@ -50,7 +51,7 @@ TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
             const int line = static_cast<int>(i);
             EXPECT_EQ(ModuleStateText(status.vd[i].state), layout.TractionState(line)) << line;
             EXPECT_EQ(VersionText(status.vd[i]), layout.TractionVersion(line)) << line;
-            EXPECT_EQ(registry.vdType[i], CodeOf(layout, line)) << line;
+            EXPECT_EQ(registry.vdTypes[i], CodeOf(layout, line)) << line;
         }
         for (std::size_t i = 0; i < status.vdTypes.size(); ++i) {
             EXPECT_EQ(VDTypeText(status.vdTypes[i]), layout.TypeOf(static_cast<int>(i))) << i;
@@ -59,7 +60,7 @@ TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
             const int position = static_cast<int>(i);
             EXPECT_EQ(ModuleStateText(status.js[i].state), layout.PointsState(position)) << i;
             EXPECT_EQ(JsVersionText(status.js[i]), layout.PointsVersion(position)) << i;
-            EXPECT_EQ(registry.jsPresent[i] == kJsPresent, layout.points.count(position) == 1);
+            EXPECT_EQ(registry.jsPresent[i] == true, layout.points.count(position) == 1);
         }
         for (std::size_t i = 0; i < status.yr.size(); ++i) {
             const int number = static_cast<int>(i);
@@ -85,7 +86,7 @@ TEST_F(StatusTwin, TheClassicViewShowsChannel0OfTheUnitsLayout) {
         for (int position = 0; position < kClassicJsModules; ++position) {
             const auto i = static_cast<std::size_t>(position);
             EXPECT_EQ(ModuleStateText(status.js[i].state), layout.ClassicPointsState(position));
-            EXPECT_EQ(registry.jsPresent[i] == kJsPresent, layout.points.count(position) == 1);
+            EXPECT_EQ(registry.jsPresent[i] == true, layout.points.count(position) == 1);
         }
     }
 }
@@ -100,7 +101,7 @@ TEST_F(StatusTwin, EveryVersionArrivesAsItIs) {
         layout.protocolVersion = version;
         port.Connect(layout);
         Do(ProtocolVersionRequest());
-        ASSERT_EQ(DecodeVersion(link.Reply()[3], link.Reply()[4]), version);
+        ASSERT_EQ(ReadProtocolVersion(*reply), version);
     }
 }
 
@@ -119,7 +120,7 @@ TEST_F(StatusTwin, TheStateOfTheSystemIsThatOfTheUnit) {
         port.Connect(AnyLayout(2).ForTheUnit());
         port.state().hold = (state & 1) != 0;
         port.state().fault = (state & 2) != 0;
-        const auto status = StatusRequest(link, progress, clock, registry).Run(false);
+        const auto status = StatusRequest(link, progress, clock, registry, requestView).Run(false);
         ASSERT_TRUE(status);
         EXPECT_EQ(Text(SystemStateName(status->systemState)), kNames[state]);
     }
@@ -129,7 +130,7 @@ TEST_F(StatusTwin, AReplyThatComesWithAPollStillCounts) {
     const DescribedLayout layout = AnyLayout(3);
     port.Connect(layout.ForTheUnit());
     port.unit().DeferContent(1);
-    const auto status = StatusRequest(link, progress, clock, registry).Run(false);
+    const auto status = StatusRequest(link, progress, clock, registry, requestView).Run(false);
     ASSERT_TRUE(status);
     EXPECT_EQ(FormatVersion(status->protocolVersion), layout.protocolVersion);
 }

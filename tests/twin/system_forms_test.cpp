@@ -30,7 +30,7 @@ TEST_F(SystemForms, TheNewViewShowsEveryModuleOfTheUnit) {
         RequestStatus();
         EXPECT_EQ(FieldOf("dlgZelvarStatus44", "txtSysVer").toStdString(), layout.SystemVersion());
         EXPECT_EQ(FieldOf("dlgZelvarStatus44", "txtProtVer").toStdString(), layout.protocolVersion);
-        EXPECT_EQ(TextOf("lblKBtype").toStdString(), layout.unitName);
+        EXPECT_EQ(TextOf("lblKBtype"), layout.unitName);
         for (int line = 0; line < 64; ++line) {
             EXPECT_EQ(New("txtVDstatus", line), layout.TractionState(line)) << line;
             EXPECT_EQ(New("txtVDversion", line), layout.TractionVersion(line)) << line;
@@ -70,14 +70,14 @@ TEST_F(SystemForms, TheClassicViewShowsChannel0) {
 
 TEST_F(SystemForms, TheCheckOfMastersAndClocksReportsWhatTheUnitHolds) {
     RequestStatus();
-    Choose("cboVD", QStringLiteral("All_VDxx"));
+    Choose("cboVD", "All_VDxx");
     for (const int line : {0, 3, 5, 16, 30, 31, 37, 62}) {
         port.state().memories.traction[static_cast<std::size_t>(line)].active[11] = 2;
     }
     port.state().memories.traction[37].active[11] = 1;
     port.state().layout.At(5).clock = 2;
     messageBox.answers = {BoxAnswer::Yes};
-    EXPECT_EQ(EffectOfPress("cmdMS(1)"), Changes{});
+    EXPECT_EQ(EffectOfClick("cmdMS(1)"), Changes{});
     const std::string slaves =
         "VD-F 0. is slave\r\nVD-F 3. is slave\r\nVD60  5. is slave\r\nVD60  16. is slave\r\n"
         "VD60  30. is slave\r\nVD-F 31. is slave\r\nVD60  37. is master\r\n"
@@ -94,16 +94,16 @@ TEST_F(SystemForms, TheCheckOfMastersAndClocksReportsWhatTheUnitHolds) {
 
 TEST_F(SystemForms, AnswersMayComeWithTheReplyOrWithAnyPollAfterIt) {
     RequestStatus();
-    Choose("cboVD", QStringLiteral(" 31"));
+    Choose("cboVD", " 31");
     for (const int polls : {0, 1, 2, 3, 7}) {
         port.state().answerDelay = polls;
         for (int parameter = 4; parameter <= 7; ++parameter) {
             const int value = (polls + parameter) % 8;
             port.state().memories.traction[31].active[static_cast<std::size_t>(parameter)] =
                 static_cast<std::uint8_t>(value);
-            Enter(Member("txtSW", parameter - 4), 7 - value);
+            Type(Member("txtSW", parameter - 4), 7 - value);
         }
-        Press("cmdSW(1)");
+        Click("cmdSW(1)");
         Poll(polls);
         for (int parameter = 4; parameter <= 7; ++parameter) {
             EXPECT_EQ(NumberIn(Member("txtSW", parameter - 4)), (polls + parameter) % 8) << polls;
@@ -112,13 +112,13 @@ TEST_F(SystemForms, AnswersMayComeWithTheReplyOrWithAnyPollAfterIt) {
 }
 
 TEST_F(SystemForms, TheFaultIsShownAndReset) {
-    const auto shown = [this] { return TextOf("lblTestSystemStatus").toStdString(); };
-    Press("cmdReset");
+    const auto shown = [this] { return TextOf("lblTestSystemStatus"); };
+    Click("cmdReset");
     EXPECT_EQ(shown(), "System Status = Run");
     port.state().fault = true;
     Poll(1);
     EXPECT_EQ(shown(), "System Status = Fault");
-    EXPECT_EQ(EffectOfPress("cmdReset"), (Changes{{"fault", 0}}));
+    EXPECT_EQ(EffectOfClick("cmdReset"), (Changes{{"fault", 0}}));
     EXPECT_EQ(shown(), "System Status = Run");
     Tick("Check_Stop", true);
     EXPECT_EQ(EffectOf([this] { Poll(1); }), (Changes{{"stop", 1}}));
@@ -129,7 +129,7 @@ TEST_F(SystemForms, TheFaultIsShownAndReset) {
 }
 
 TEST_F(SystemForms, OvercurrentsStandInTheAlarmLog) {
-    Press("cmdReset");
+    Click("cmdReset");
     for (const int block : {0, 127, 128, 255}) {
         port.state().reports.Push(sim::OvercurrentReport(block, true));
         port.state().reports.Push(sim::OvercurrentReport(block, false));
@@ -150,8 +150,8 @@ TEST_F(SystemForms, OvercurrentsStandInTheAlarmLog) {
 class MonitorForm : public TwinWindow {
   protected:
     MonitorForm() {
-        Press("CommandTestFBM");
-        Press("cmdReset");
+        Click("CommandTestFBM");
+        Click("cmdReset");
     }
     template <typename Control>
     Control& Part(const std::string& name) {
@@ -171,7 +171,7 @@ TEST_F(MonitorForm, ShowsTheInputsOfTheUnitInEveryLayout) {
     const QColor inactive(255, 255, 255);
     for (int layout = 0; layout < 4; ++layout) {
         auto& option = Part<QRadioButton>(Member("opFBmod", layout));
-        QTest::mouseClick(&option, Qt::LeftButton, {}, QPoint(8, option.height() / 2));
+        QTest::mouseClick(&option, Qt::LeftButton, {}, testing::SpotOf(option));
         // Rows of 16, which lie so far apart.
         const int apart = 16 << layout;
         const int lastBase = 2048 - 8 * apart;

@@ -1,99 +1,130 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "config/vd_settings.h"
 #include "twin/twin_window.h"
 
 namespace zelvar::twin {
 namespace {
 
-// The kinds of modules that have a setting.
-constexpr unsigned kVdF = 1;
-constexpr unsigned kVd60 = 2;
-constexpr unsigned kQlrx = 4;
-
-/// An entry of the list of modules, what it stands for, and the unit's lines behind it.
+/// An entry of the list of modules, the type that decides what it has, and the unit's lines behind
+/// it.
 struct Target {
     const char* entry;
-    unsigned kind;
+    VDType type;
     std::vector<int> lines;
 };
 
 const Target kModules[] = {
-    {" 0", kVdF, {0}},      {" 31", kVdF, {31}},    {" 5.0", kVd60, {5}}, {" 5.1", kVd60, {37}},
-    {" 16.0", kVd60, {16}}, {" 30.1", kVd60, {62}}, {" 8", kQlrx, {8}},   {" 15", kQlrx, {15}},
+    {" 0", VDType::VdF, {0}},     {" 31", VDType::VdF, {31}},    {" 5.0", VDType::Vd60, {5}},
+    {" 5.1", VDType::Vd60, {37}}, {" 16.0", VDType::Vd60, {16}}, {" 30.1", VDType::Vd60, {62}},
+    {" 8", VDType::QlrxS, {8}},   {" 15", VDType::QlrxS, {15}},
 };
 
 const Target kGroups[] = {
-    {"All_VD-F", kVdF, {0, 3, 31}},
-    {"All_VD60", kVd60, {5, 16, 30, 37, 62}},
-    {"All_QLRX", kQlrx, {8, 15}},
+    {"All_VD-F", VDType::VdF, {0, 3, 31}},
+    {"All_VD60", VDType::Vd60, {5, 16, 30, 37, 62}},
+    {"All_QLRX", VDType::QlrxS, {8, 15}},
     // What is common to VD-F and VD60.
-    {"All_VDxx", kVd60, {0, 3, 5, 16, 30, 31, 37, 62}},
+    {"All_VDxx", VDType::Vd60, {0, 3, 5, 16, 30, 31, 37, 62}},
 };
 
 struct FieldRow {
-    const char* field;
+    std::string field;
     int parameter;
     int first;
     int last;
-    unsigned kinds;
+    VDTypes types;
 };
 
-/// A setting with number fields; all of them go with one press.
-struct NumberSetting {
-    const char* name;
-    const char* button;
+/// A setting as the hand on the form meets it. All of its fields go with one press.
+struct FormSetting {
+    std::string name;
+    std::string button;
     std::vector<FieldRow> fields;
-    unsigned kinds;
-    /// Pressed before; empty for none.
-    const char* option = "";
-};
-
-constexpr unsigned kBothVd = kVdF | kVd60;
-constexpr unsigned kAny = kVdF | kVd60 | kQlrx;
-
-const NumberSetting kNumberSettings[] = {
-    {"HfiLevel", "cmdHFI", {{"txtHFI", 1, 0, 15, kBothVd}}, kBothVd},
-    {"AlarmDelay",
-     "cmdAL",
-     {{"txtAL(0)", 2, 0, 127, kBothVd}, {"txtAL(1)", 3, 0, 127, kBothVd}},
-     kBothVd},
-    // A VD60 has one bank only.
-    {"SwitchDelay",
-     "cmdSW",
-     {{"txtSW(0)", 4, 0, 7, kAny},
-      {"txtSW(1)", 5, 0, 7, kVdF | kQlrx},
-      {"txtSW(2)", 6, 0, 7, kAny},
-      {"txtSW(3)", 7, 0, 7, kVdF | kQlrx}},
-     kAny},
-    {"DcShift", "cmdDCShift", {{"txtDCShift", 8, 0, 7, kBothVd}}, kBothVd},
-    {"LoopCurrentA", "cmdLC", {{"txtLC", 13, 20, 70, kQlrx}}, kQlrx, "OptLC(0)"},
-    {"LoopCurrentB", "cmdLC", {{"txtLC", 14, 20, 70, kQlrx}}, kQlrx, "OptLC(1)"},
-    {"Address", "cmdAD", {{"txtAD", 15, 0, 15, kQlrx}}, kQlrx},
-};
-
-struct OptionSetting {
-    const char* name;
-    const char* button;
-    const char* options;
-    int parameter;
+    /// Clicked before; empty for none.
+    std::string option;
+    VDTypes setFor;
+    VDTypes getFor;
+    // Of a setting that has options in place of fields.
+    std::string options;
+    int parameter = 0;
     std::vector<int> values;
-    unsigned setFor;
-    unsigned getFor;
 };
 
-const OptionSetting kOptionSettings[] = {
-    {"PwmMultiplier", "cmdPWMM", "optPWMM", 9, {2, 4, 8, 16, 32}, kBothVd, kBothVd},
-    {"OcdMode", "cmdOCD", "optOCD", 10, {0, 1, 2}, kBothVd, kBothVd},
-    // A VD60 tells its mode, but takes none.
-    {"MasterSlaveMode", "cmdMS", "optMS", 11, {0, 1, 2}, kVdF, kBothVd},
-    {"PowerControl", "cmdPC", "optPC", 12, {0, 1}, kVdF, kVdF},
-};
+std::string MemberName(const char* name, int index) {
+    return index == kNoIndex ? name : Member(name, index);
+}
+
+/// The modules that give a setting back: a QLRX-s gives none. The mode of a VD60 can only be read.
+VDTypes ReadableFor(const VDSetting& setting) {
+    VDTypes types;
+    for (const VDType type : {VDType::VdF, VDType::Vd60}) {
+        if (setting.shownFor.Contains(type) || setting.buttonsOutside) {
+            types = types.With(type);
+        }
+    }
+    return types;
+}
+
+FormSetting NumbersOf(const VDSetting& setting, int option) {
+    FormSetting form{setting.frame + std::to_string(option),
+                     setting.button,
+                     {},
+                     {},
+                     setting.shownFor,
+                     ReadableFor(setting)};
+    const VDNumbers& numbers = setting.numbers;
+    for (const VDField& field : numbers.fields) {
+        form.fields.push_back({MemberName(numbers.field, field.index), field.parameter + option,
+                               numbers.minimum, numbers.maximum, field.shownFor});
+    }
+    if (!setting.options.options.empty()) {
+        form.option = Member(setting.options.name, option);
+    }
+    return form;
+}
+
+std::vector<FormSetting> NumberSettings() {
+    std::vector<FormSetting> all;
+    for (const VDSetting& setting : VDSettings()) {
+        if (setting.options.parameter) {
+            continue;
+        }
+        all.push_back(NumbersOf(setting, 0));
+        for (std::size_t i = 1; i < setting.options.options.size(); ++i) {
+            all.push_back(NumbersOf(setting, setting.options.options[i].value));
+        }
+    }
+    return all;
+}
+
+std::vector<FormSetting> OptionSettings() {
+    std::vector<FormSetting> all;
+    for (const VDSetting& setting : VDSettings()) {
+        if (setting.options.parameter) {
+            FormSetting form{setting.frame,
+                             setting.button,
+                             {},
+                             {},
+                             setting.shownFor,
+                             ReadableFor(setting),
+                             setting.options.name,
+                             *setting.options.parameter,
+                             {}};
+            for (const VDOption& option : setting.options.options) {
+                form.values.push_back(option.value);
+            }
+            all.push_back(form);
+        }
+    }
+    return all;
+}
 
 class TractionForms : public TwinWindow {
   protected:
     TractionForms() { RequestStatus(); }
 
-    void ChooseModule(const Target& target) { Choose("cboVD", QString::fromUtf8(target.entry)); }
+    void ChooseModule(const Target& target) { Choose("cboVD", target.entry); }
 
     std::uint8_t& Kept(int line, bool permanent, int parameter) {
         auto& memory = port.state().memories.traction[static_cast<std::size_t>(line)];
@@ -118,30 +149,30 @@ class TractionForms : public TwinWindow {
         return pass == 0 ? field.first : pass == 1 ? field.last : between;
     }
 
-    void SetNumbers(const NumberSetting& setting, const Target& target, bool permanent, int pass) {
+    void SetNumbers(const FormSetting& setting, const Target& target, bool permanent, int pass) {
         Changes meant;
         for (const FieldRow& field : setting.fields) {
-            if ((field.kinds & target.kind) != 0) {
+            if (field.types.Contains(target.type)) {
                 Spoil(target, permanent, field.parameter);
-                Enter(field.field, ValueOf(field, pass));
+                Type(field.field, ValueOf(field, pass));
                 Expect(meant, target, permanent, field.parameter, ValueOf(field, pass));
             }
         }
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 0)), meant);
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 0)), meant);
     }
 
-    void GetNumbers(const NumberSetting& setting, const Target& target, bool permanent, int pass) {
+    void GetNumbers(const FormSetting& setting, const Target& target, bool permanent, int pass) {
         for (const FieldRow& field : setting.fields) {
-            if ((field.kinds & target.kind) != 0) {
+            if (field.types.Contains(target.type)) {
                 const int kept = ValueOf(field, pass);
                 Kept(target.lines.front(), permanent, field.parameter) =
                     static_cast<std::uint8_t>(kept);
-                Enter(field.field, kept == field.first ? field.last : field.first);
+                Type(field.field, kept == field.first ? field.last : field.first);
             }
         }
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 1)), Changes{});
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 1)), Changes{});
         for (const FieldRow& field : setting.fields) {
-            if ((field.kinds & target.kind) != 0) {
+            if (field.types.Contains(target.type)) {
                 EXPECT_EQ(NumberIn(field.field), ValueOf(field, pass)) << field.field;
                 EXPECT_TRUE(IsGreen(field.field)) << field.field;
             }
@@ -149,25 +180,25 @@ class TractionForms : public TwinWindow {
     }
 
     /// Whether there is something to press for these modules.
-    bool IsOffered(const char* button, int index) {
-        return Find<QWidget>(Member(button, index).c_str()).isVisibleTo(window.get());
+    bool IsOffered(const std::string& button, int index) {
+        return Find<QWidget>(Member(button, index)).isVisibleTo(window.get());
     }
 };
 
 class TractionNumberForm : public TractionForms,
-                           public ::testing::WithParamInterface<NumberSetting> {};
+                           public ::testing::WithParamInterface<FormSetting> {};
 
 TEST_P(TractionNumberForm, IsSetAndGotInEveryModuleThatHasIt) {
-    const NumberSetting& setting = GetParam();
+    const FormSetting& setting = GetParam();
     for (const Target& target : kModules) {
         SCOPED_TRACE(target.entry);
         ChooseModule(target);
-        const bool has = (setting.kinds & target.kind) != 0;
+        const bool has = setting.setFor.Contains(target.type);
         EXPECT_EQ(IsOffered(setting.button, 0), has);
         // A QLRX-s takes settings and gives none back.
-        const bool tells = has && target.kind != kQlrx;
-        if (has && *setting.option != '\0') {
-            Press(setting.option);
+        const bool tells = setting.getFor.Contains(target.type);
+        if (has && !setting.option.empty()) {
+            Click(setting.option);
         }
         for (const bool permanent : {false, true}) {
             Tick("chkVDperm", permanent);
@@ -182,17 +213,17 @@ TEST_P(TractionNumberForm, IsSetAndGotInEveryModuleThatHasIt) {
 }
 
 TEST_P(TractionNumberForm, IsSetInEveryModuleOfAGroupAndInNoOther) {
-    const NumberSetting& setting = GetParam();
+    const FormSetting& setting = GetParam();
     int tried = 0;
     for (const Target& target : kGroups) {
         SCOPED_TRACE(target.entry);
         ChooseModule(target);
-        if ((setting.kinds & target.kind) == 0) {
+        if (!setting.setFor.Contains(target.type)) {
             continue;
         }
         ++tried;
-        if (*setting.option != '\0') {
-            Press(setting.option);
+        if (!setting.option.empty()) {
+            Click(setting.option);
         }
         for (const bool permanent : {false, true}) {
             Tick("chkVDperm", permanent);
@@ -202,38 +233,37 @@ TEST_P(TractionNumberForm, IsSetInEveryModuleOfAGroupAndInNoOther) {
     EXPECT_GT(tried, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, TractionNumberForm, ::testing::ValuesIn(kNumberSettings),
-                         NameOf<NumberSetting>);
+INSTANTIATE_TEST_SUITE_P(Rows, TractionNumberForm, ::testing::ValuesIn(NumberSettings()),
+                         NameOf<FormSetting>);
 
-class TractionOptionForm : public TractionForms,
-                           public ::testing::WithParamInterface<OptionSetting> {
+class TractionOptionForm : public TractionForms, public ::testing::WithParamInterface<FormSetting> {
   protected:
     void SetOption(const Target& target, bool permanent, int value) {
-        const OptionSetting& setting = GetParam();
+        const FormSetting& setting = GetParam();
         Spoil(target, permanent, setting.parameter);
-        Press(Member(setting.options, value));
+        Click(Member(setting.options, value));
         Changes meant;
         Expect(meant, target, permanent, setting.parameter, value);
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 0)), meant);
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 0)), meant);
     }
     void GetOption(const Target& target, bool permanent, int value) {
-        const OptionSetting& setting = GetParam();
+        const FormSetting& setting = GetParam();
         Kept(target.lines.front(), permanent, setting.parameter) = static_cast<std::uint8_t>(value);
-        Press(Member(setting.options,
+        Click(Member(setting.options,
                      value == setting.values[0] ? setting.values[1] : setting.values[0]));
-        EXPECT_EQ(EffectOfPress(Member(setting.button, 1)), Changes{});
+        EXPECT_EQ(EffectOfClick(Member(setting.button, 1)), Changes{});
         EXPECT_TRUE(IsTicked(Member(setting.options, value)));
         EXPECT_TRUE(IsGreen(Member(setting.options, value)));
     }
 };
 
 TEST_P(TractionOptionForm, IsSetAndGotInEveryModuleThatHasIt) {
-    const OptionSetting& setting = GetParam();
+    const FormSetting& setting = GetParam();
     for (const Target& target : kModules) {
         SCOPED_TRACE(target.entry);
         ChooseModule(target);
-        const bool takes = (setting.setFor & target.kind) != 0;
-        const bool tells = (setting.getFor & target.kind) != 0;
+        const bool takes = setting.setFor.Contains(target.type);
+        const bool tells = setting.getFor.Contains(target.type);
         EXPECT_EQ(IsOffered(setting.button, 0), takes);
         EXPECT_EQ(IsOffered(setting.button, 1), tells);
         for (const bool permanent : {false, true}) {
@@ -251,12 +281,12 @@ TEST_P(TractionOptionForm, IsSetAndGotInEveryModuleThatHasIt) {
 }
 
 TEST_P(TractionOptionForm, IsSetInEveryModuleOfAGroupAndInNoOther) {
-    const OptionSetting& setting = GetParam();
+    const FormSetting& setting = GetParam();
     int tried = 0;
     for (const Target& target : kGroups) {
         SCOPED_TRACE(target.entry);
         ChooseModule(target);
-        const bool takes = (setting.setFor & target.kind) != 0;
+        const bool takes = setting.setFor.Contains(target.type);
         for (const int value : setting.values) {
             if (takes) {
                 SetOption(target, false, value);
@@ -267,8 +297,8 @@ TEST_P(TractionOptionForm, IsSetInEveryModuleOfAGroupAndInNoOther) {
     EXPECT_GT(tried, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, TractionOptionForm, ::testing::ValuesIn(kOptionSettings),
-                         NameOf<OptionSetting>);
+INSTANTIATE_TEST_SUITE_P(Rows, TractionOptionForm, ::testing::ValuesIn(OptionSettings()),
+                         NameOf<FormSetting>);
 
 TEST_F(TractionForms, EraseAsksAndThenBringsBackWhatIsChosen) {
     const testing::ShownBox question{
@@ -285,11 +315,11 @@ TEST_F(TractionForms, EraseAsksAndThenBringsBackWhatIsChosen) {
             }
             ChooseModule(*target);
             messageBox.answers = {BoxAnswer::Cancel, BoxAnswer::Ok};
-            EXPECT_EQ(EffectOfPress("cmdErase"), Changes{});
+            EXPECT_EQ(EffectOfClick("cmdErase"), Changes{});
             Changes meant;
             Expect(meant, *target, false, 1, sim::FactoryTractionSettings(0)[1]);
             Expect(meant, *target, true, 12, sim::FactoryTractionSettings(0)[12]);
-            EXPECT_EQ(EffectOfPress("cmdErase"), meant);
+            EXPECT_EQ(EffectOfClick("cmdErase"), meant);
             for (const auto& box : {question, cancelled, question}) {
                 expectedBoxes.push_back(box);
             }

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <numeric>
+
+#include "config/module_commands.h"
 #include "config/selection_list.h"
 #include "config/vd_settings.h"
 #include "twin/twin_link.h"
@@ -7,40 +10,42 @@
 namespace zelvar::twin {
 namespace {
 
-/// A setting of the traction modules as their makers number it.
-struct SettingRow {
-    const char* name;
-    /// The frame of the form, and which of its fields; the option beside it, if it counts.
-    const char* frame;
-    std::size_t field;
+/// One parameter of the traction modules, as a row of the form's table sets it.
+struct ParameterRow {
+    std::string name;
+    const VDSetting* setting;
+    /// Which of the setting's commands.
+    std::size_t number;
+    /// The option beside a number, if it counts.
     int option;
-    int parameter;
-    int first;
-    int last;
-};
-
-const SettingRow kNumberRows[] = {
-    {"HfiLevel", "frmHFI", 0, 0, 1, 0, 15},      {"AlarmOffDelay", "frmAL", 0, 0, 2, 0, 127},
-    {"AlarmOnDelay", "frmAL", 1, 0, 3, 0, 127},  {"SwitchOffBank0", "frmSW", 0, 0, 4, 0, 7},
-    {"SwitchOffBank1", "frmSW", 1, 0, 5, 0, 7},  {"SwitchOnBank0", "frmSW", 2, 0, 6, 0, 7},
-    {"SwitchOnBank1", "frmSW", 3, 0, 7, 0, 7},   {"DcShift", "frmDCS", 0, 0, 8, 0, 7},
-    {"LoopCurrentA", "FrmLC", 0, 0, 13, 20, 70}, {"LoopCurrentB", "FrmLC", 0, 1, 14, 20, 70},
-    {"ModuleAddress", "frmAD", 0, 0, 15, 0, 15},
-};
-
-struct OptionRow {
-    const char* name;
-    const char* frame;
     int parameter;
     std::vector<int> values;
 };
 
-const OptionRow kOptionRows[] = {
-    {"PwmMultiplier", "frmPWMM", 9, {2, 4, 8, 16, 32}},
-    {"OcdMode", "frmOCD", 10, {0, 1, 2}},
-    {"MasterSlaveMode", "frmMS", 11, {0, 1, 2}},
-    {"PowerControl", "frmPC", 12, {0, 1}},
-};
+/// Every parameter that the form can set.
+std::vector<ParameterRow> ParameterRows() {
+    std::vector<ParameterRow> rows;
+    for (const VDSetting& setting : VDSettings()) {
+        std::vector<int> options;
+        for (const VDOption& option : setting.options.options) {
+            options.push_back(option.value);
+        }
+        if (setting.options.parameter) {
+            rows.push_back({setting.frame, &setting, 0, 0, *setting.options.parameter, options});
+            continue;
+        }
+        std::vector<int> values(setting.numbers.maximum - setting.numbers.minimum + 1);
+        std::iota(values.begin(), values.end(), setting.numbers.minimum);
+        for (const int option : options.empty() ? std::vector<int>{0} : options) {
+            for (std::size_t i = 0; i < setting.numbers.fields.size(); ++i) {
+                const int parameter = setting.numbers.fields[i].parameter + option;
+                rows.push_back({setting.frame + std::to_string(parameter), &setting, i, option,
+                                parameter, values});
+            }
+        }
+    }
+    return rows;
+}
 
 const VDSetting& SettingIn(const std::string& frame) {
     for (const VDSetting& setting : VDSettings()) {
@@ -57,7 +62,7 @@ constexpr int kLines[] = {0, 3, 31, 5, 16, 30, 37, 62, 8, 15};
 class TractionTwin : public TwinLink {
   protected:
     /// Presses a setting's button for the module on a line.
-    void Press(const VDSetting& setting, std::size_t number, int button, int line, bool permanent,
+    void Click(const VDSetting& setting, std::size_t number, int button, int line, bool permanent,
                const VDInput& input) {
         const auto command = VDCommandOf(setting, number, button, permanent, input);
         ASSERT_TRUE(command);
@@ -67,10 +72,10 @@ class TractionTwin : public TwinLink {
     /// What the form reads when it asks for a parameter.
     std::optional<VDReply> ReadBack(const VDSetting& setting, std::size_t number, int line,
                                     bool permanent, const VDInput& input) {
-        Press(setting, number, kGetButton, line, permanent, input);
+        Click(setting, number, kGetButton, line, permanent, input);
         Do(kEmptyTransaction);
-        EXPECT_TRUE(MatchesReply(ReplyKind::VDConfig, link.Reply()));
-        return ReadVDConfigReply(link.Reply(), line, permanent);
+        EXPECT_TRUE(MatchesReply(ReplyKind::VDConfig, *reply));
+        return ReadVDConfigReply(*reply, line, permanent);
     }
 
     static std::string ParameterName(int line, bool permanent, int parameter) {
@@ -88,7 +93,7 @@ class TractionTwin : public TwinLink {
                 memory.Part(permanent)[static_cast<std::size_t>(parameter)] =
                     static_cast<std::uint8_t>(127 - value);
                 const UnitImage before(port.state());
-                Press(setting, number, kSetButton, line, permanent, input);
+                Click(setting, number, kSetButton, line, permanent, input);
                 ASSERT_EQ(before.ChangesTo(port.state()),
                           (Changes{{ParameterName(line, permanent, parameter), value}}));
                 const bool showsClock = parameter == 15 && !permanent && line != 8 && line != 15;
@@ -102,51 +107,26 @@ class TractionTwin : public TwinLink {
     }
 };
 
-class TractionNumber : public TractionTwin, public ::testing::WithParamInterface<SettingRow> {};
+class TractionParameter : public TractionTwin,
+                          public ::testing::WithParamInterface<ParameterRow> {};
 
-TEST_P(TractionNumber, EveryValueIsKeptWhereItWasMeantAndReadBack) {
-    const SettingRow& row = GetParam();
-    const VDSetting& setting = SettingIn(row.frame);
-    for (int value = row.first; value <= row.last; ++value) {
+TEST_P(TractionParameter, EveryValueIsKeptWhereItBelongsAndReadBack) {
+    const ParameterRow& row = GetParam();
+    for (const int value : row.values) {
         VDInput input;
-        input.numbers.resize(setting.numbers.fields.size());
-        input.numbers[row.field].value = value;
-        input.option = row.option;
-        SetEverywhere(setting, row.field, input, row.parameter, value);
+        input.numbers.resize(row.setting->numbers.fields.size());
+        if (row.setting->options.parameter) {
+            input.option = value;
+        } else {
+            input.numbers[row.number].value = value;
+            input.option = row.option;
+        }
+        SetEverywhere(*row.setting, row.number, input, row.parameter, value);
     }
-    EXPECT_EQ(setting.numbers.minimum, row.first);
-    EXPECT_EQ(setting.numbers.maximum, row.last);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, TractionNumber, ::testing::ValuesIn(kNumberRows),
-                         NameOf<SettingRow>);
-
-class TractionOption : public TractionTwin, public ::testing::WithParamInterface<OptionRow> {};
-
-TEST_P(TractionOption, EveryOptionIsKeptWhereItWasMeantAndReadBack) {
-    const OptionRow& row = GetParam();
-    const VDSetting& setting = SettingIn(row.frame);
-    std::vector<int> offered;
-    for (const VDOption& option : setting.options.options) {
-        offered.push_back(option.value);
-        VDInput input;
-        input.option = option.value;
-        SetEverywhere(setting, 0, input, row.parameter, option.value);
-    }
-    EXPECT_EQ(offered, row.values);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, TractionOption, ::testing::ValuesIn(kOptionRows), NameOf<OptionRow>);
-
-TEST_F(TractionTwin, EverySettingOfTheFormHasARow) {
-    std::size_t fields = 0;
-    for (const VDSetting& setting : VDSettings()) {
-        // The loop currents share a field.
-        const bool loops = std::string("FrmLC") == setting.frame;
-        fields += loops ? 2 : VDCommandCount(setting);
-    }
-    EXPECT_EQ(fields, std::size(kNumberRows) + std::size(kOptionRows));
-}
+INSTANTIATE_TEST_SUITE_P(Rows, TractionParameter, ::testing::ValuesIn(ParameterRows()),
+                         NameOf<ParameterRow>);
 
 TEST_F(TractionTwin, EraseBringsOneModuleBackInBothMemories) {
     for (const int line : kLines) {
@@ -189,11 +169,11 @@ class TractionGroup : public TractionTwin, public ::testing::WithParamInterface<
   protected:
     void Send(const ModuleCommand& command) {
         ModuleRegistry registry;
-        for (const auto& [type, lines] : {std::pair{kVdF, std::vector{0, 3, 31}},
-                                          {kVd60, {5, 16, 30, 37, 62}},
-                                          {kQlrxS, {8, 15}}}) {
+        for (const auto& [type, lines] : {std::pair{VDType::VdF, std::vector{0, 3, 31}},
+                                          {VDType::Vd60, {5, 16, 30, 37, 62}},
+                                          {VDType::QlrxS, {8, 15}}}) {
             for (const int line : lines) {
-                registry.vdType[static_cast<std::size_t>(line)] = type;
+                registry.vdTypes.at(static_cast<unsigned>(line)) = type;
             }
         }
         ModuleCommands commands(services,
@@ -205,7 +185,7 @@ class TractionGroup : public TractionTwin, public ::testing::WithParamInterface<
     }
 };
 
-TEST_P(TractionGroup, AllOfItTakeTheValueAndNobodyElse) {
+TEST_P(TractionGroup, AllOfItTakeTheValueAndNoOther) {
     for (const bool permanent : {false, true}) {
         VDInput input;
         input.numbers.resize(1);
@@ -220,7 +200,7 @@ TEST_P(TractionGroup, AllOfItTakeTheValueAndNobodyElse) {
     }
 }
 
-TEST_P(TractionGroup, AllOfItAreErasedAndNobodyElse) {
+TEST_P(TractionGroup, AllOfItAreErasedAndNoOther) {
     for (sim::Memory<sim::TractionSettings>& memory : port.state().memories.traction) {
         memory.permanent[1] = 15;
         memory.active[1] = 14;

@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "link/link.h"
 #include "link/services.h"
 #include "support/doubles.h"
+#include "support/recording_view.h"
 #include "twin/twin_layout.h"
 #include "twin/twin_port.h"
 #include "twin/unit_image.h"
@@ -19,10 +21,7 @@ namespace zelvar::twin {
 /// The program's link on a line to the simulated unit.
 class TwinLink : public ::testing::Test {
   protected:
-    TwinLink() {
-        port.SetPortNumber(TwinPort::kNumber);
-        port.Open();
-    }
+    TwinLink() { port.Open(TwinPort::kNumber, 19200); }
 
     void TearDown() override {
         port.ExpectNothingMisunderstood();
@@ -30,7 +29,10 @@ class TwinLink : public ::testing::Test {
     }
 
     /// One exchange, which has to succeed.
-    void Do(const Command& command) { EXPECT_TRUE(link.Transact(command)); }
+    void Do(const Command& command) {
+        reply = link.Transact(command);
+        EXPECT_TRUE(reply.has_value());
+    }
 
     /// The same; what it has changed in the unit.
     Changes EffectOf(const Command& command) {
@@ -48,6 +50,9 @@ class TwinLink : public ::testing::Test {
     Link link{port, timer, clock, messageBox, view};
     HandlerGate gate;
     Services services{link, messageBox, progress, clock, gate};
+    testing::RecordingView requestView;
+    /// To the last `Do`.
+    std::optional<Reply> reply;
     std::vector<testing::ShownBox> expectedBoxes;
 };
 

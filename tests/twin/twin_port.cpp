@@ -37,8 +37,8 @@ void TwinPort::Connect(const sim::Layout& layout) {
     incoming_.clear();
 }
 
-bool TwinPort::Open() {
-    open_ = number_ == kNumber;
+bool TwinPort::Open(int number, int /*baudRate*/) {
+    open_ = number == kNumber;
     return open_;
 }
 
@@ -48,25 +48,25 @@ void TwinPort::Close() {
     incoming_.clear();
 }
 
-std::size_t TwinPort::BytesWaiting() {
+std::size_t TwinPort::Read(std::span<std::uint8_t> buffer) {
     const std::vector<std::uint8_t> due = line_->TakeDue(Now());
     incoming_.insert(incoming_.end(), due.begin(), due.end());
-    return open_ ? incoming_.size() : 0;
-}
-
-std::uint8_t TwinPort::ReadByte() {
-    const std::uint8_t byte = incoming_.front();
-    incoming_.pop_front();
-    return byte;
-}
-
-void TwinPort::WriteByte(std::uint8_t byte) {
-    if (open_) {
-        line_->Receive({&byte, 1}, Now());
+    std::size_t count = 0;
+    for (; open_ && count < buffer.size() && !incoming_.empty(); ++count) {
+        buffer[count] = incoming_.front();
+        incoming_.pop_front();
     }
+    return count;
 }
 
-void TwinPort::WaitForByte(double seconds) {
+void TwinPort::SendAndWait(std::span<const std::uint8_t> bytes, double seconds) {
+    if (!open_) {
+        return;
+    }
+    line_->Receive(bytes, Now());
+    if (seconds == 0) {
+        return;
+    }
     const double until = clock_.now + seconds;
     const std::optional<sim::Time> due = line_->NextDue();
     const double arrival =

@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "platform/serial_port.h"
-#include "protocol/frame.h"
 #include "sim/line/faults.h"
 #include "sim/line/line_engine.h"
 #include "sim/unit/central_unit.h"
@@ -40,16 +39,11 @@ class TwinPort : public SerialPort {
     /// Puts a fresh unit with this layout on the line.
     void Connect(const sim::Layout& layout);
 
-    void SetPortNumber(int number) override { number_ = number; }
-    void SetSettings(const std::string&) override {}
-    bool Open() override;
+    bool Open(int number, int baudRate) override;
     void Close() override;
     bool IsOpen() const override { return open_; }
-    std::size_t BytesWaiting() override;
-    std::uint8_t ReadByte() override;
-    void WriteByte(std::uint8_t byte) override;
-    void Flush() override {}
-    void WaitForByte(double seconds) override;
+    void SendAndWait(std::span<const std::uint8_t> bytes, double seconds) override;
+    std::size_t Read(std::span<std::uint8_t> buffer) override;
     void SetLostHandler(std::function<void()>) override {}
 
     sim::CentralUnit& unit() { return *unit_; }
@@ -85,7 +79,6 @@ class TwinPort : public SerialPort {
     std::vector<Received> commands_;
     int polls_ = 0;
     double connectedAt_ = 0;
-    int number_ = 0;
     bool open_ = false;
 };
 

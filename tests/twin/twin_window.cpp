@@ -8,7 +8,7 @@ namespace zelvar::twin {
 
 TwinWindow::TwinWindow() {
     ShowWindowOn(port);
-    Choose("cboPort", QString::number(TwinPort::kNumber));
+    Choose("cboPort", std::to_string(TwinPort::kNumber));
     EXPECT_TRUE(port.IsOpen());
     // Nothing is sent before the first command, and the Stop box starts ticked.
     Tick("Check_Stop", false);
@@ -29,43 +29,6 @@ void TwinWindow::RequestStatus(bool classic) {
     }
     window->activateWindow();
     port.TakeCommands();
-}
-
-void TwinWindow::Tick(const std::string& box, bool ticked) {
-    if (IsTicked(box) != ticked) {
-        Press(box);
-    }
-    EXPECT_EQ(IsTicked(box), ticked) << box;
-}
-
-void TwinWindow::SlideTo(const char* slider, int value) {
-    auto& control = Find<QSlider>(slider);
-    ShowTabOf(control);
-    control.setFocus();
-    while (control.value() != value) {
-        const bool up = control.value() < value;
-        const bool far = std::abs(control.value() - value) >= control.pageStep();
-        QTest::keyClick(&control, far ? (up ? Qt::Key_PageUp : Qt::Key_PageDown)
-                                      : (up ? Qt::Key_Right : Qt::Key_Left));
-    }
-    testing::Settle();
-}
-
-void TwinWindow::Enter(const std::string& field, int number) {
-    Type(field.c_str(), QString::number(number));
-}
-
-bool TwinWindow::IsGreen(const std::string& name) {
-    auto& control = Find<QWidget>(name.c_str());
-    const bool isField = qobject_cast<QLineEdit*>(&control) != nullptr;
-    return control.palette().color(isField ? QPalette::Base : QPalette::Window) ==
-           QColor(0, 255, 0);
-}
-
-void TwinWindow::Poll(int ticks) {
-    for (int i = 0; i < ticks; ++i) {
-        WindowHands::Tick();
-    }
 }
 
 }  // namespace zelvar::twin

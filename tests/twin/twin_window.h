@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCheckBox>
-#include <QSlider>
-
 #include <string>
 #include <vector>
 
@@ -25,18 +22,6 @@ class TwinWindow : public testing::WindowHands {
     /// Presses Status, with Shift for the Classic View; the views stay out of the way.
     void RequestStatus(bool classic = false);
 
-    void Press(const std::string& button) { Click(button.c_str()); }
-    void Tick(const std::string& box, bool ticked);
-    /// Moves a slider with the keyboard until it stands at a value.
-    void SlideTo(const char* slider, int value);
-    void Enter(const std::string& field, int number);
-    int NumberIn(const std::string& field) { return TextOf(field.c_str()).toInt(); }
-    bool IsTicked(const std::string& box) { return Find<QAbstractButton>(box.c_str()).isChecked(); }
-    bool IsGreen(const std::string& name);
-
-    /// So many ticks of the poll timer.
-    void Poll(int ticks);
-
     /// What something done with the forms has changed in the unit.
     template <typename Act>
     Changes EffectOf(const Act& act) {
@@ -44,8 +29,8 @@ class TwinWindow : public testing::WindowHands {
         act();
         return before.ChangesTo(port.state());
     }
-    Changes EffectOfPress(const std::string& button) {
-        return EffectOf([&] { Press(button); });
+    Changes EffectOfClick(const std::string& button) {
+        return EffectOf([&] { Click(button); });
     }
 
     TwinPort port{clock, EveryKind()};

@@ -32,8 +32,8 @@ TEST_F(UnitTwin, EverySetOfSwitchesIsKeptAndReadBack) {
             // The boxes show something else before the answer.
             ASSERT_EQ(EffectOf(CommandForUnit(KBConfigCommand(1, permanent, Ticked(~pattern)))),
                       Changes{});
-            ASSERT_TRUE(MatchesReply(ReplyKind::KBConfig, link.Reply()));
-            ASSERT_EQ(ReadKBConfigReply(link.Reply()), Ticked(pattern));
+            ASSERT_TRUE(MatchesReply(ReplyKind::KBConfig, *reply));
+            ASSERT_EQ(ReadKBConfigReply(*reply), Ticked(pattern));
         }
     }
 }

@@ -2,79 +2,49 @@
 // SPDX-License-Identifier: MIT
 #include "comparison.h"
 
-#include <QImage>
-
-#include <array>
-#include <cstdlib>
+#include <QPainter>
 
 namespace zelvar::tour {
 
 namespace {
 
-/// Pixels along a side of a cell of the grid: half a letter.
-constexpr int kCell = 4;
-/// Mean difference of a cell in one channel, 0..255. A "b" in place of a "p", which differ in
-/// little more than the height of their stems, makes 50 in the light palette and 35 in the dark
-/// one.
-constexpr int kTolerance = 16;
-
-using Channels = std::array<int, 3>;
-
-Channels CellSum(const QImage& picture, int left, int top) {
-    Channels sum{};
-    for (int y = top; y < std::min(top + kCell, picture.height()); ++y) {
-        for (int x = left; x < std::min(left + kCell, picture.width()); ++x) {
-            const QRgb pixel = picture.pixel(x, y);
-            sum[0] += qRed(pixel);
-            sum[1] += qGreen(pixel);
-            sum[2] += qBlue(pixel);
-        }
-    }
-    return sum;
-}
-
-bool Alike(const Channels& a, const Channels& b) {
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (std::abs(a[i] - b[i]) > kTolerance * kCell * kCell) {
-            return false;
-        }
-    }
-    return true;
-}
+/// How much of a picture is left when it is faded, of 1.
+constexpr double kFaded = 0.3;
 
 }  // namespace
 
-std::optional<std::string> Difference(const QImage& expected, const QImage& actual) {
-    const auto text = [](int a, int b) { return std::to_string(a) + " x " + std::to_string(b); };
-    if (expected.size() != actual.size()) {
-        return "is " + text(actual.width(), actual.height()) + " pixels large instead of " +
-               text(expected.width(), expected.height());
-    }
-    for (int top = 0; top < expected.height(); top += kCell) {
-        for (int left = 0; left < expected.width(); left += kCell) {
-            if (!Alike(CellSum(expected, left, top), CellSum(actual, left, top))) {
-                return "shows something else at " + std::to_string(left) + ", " +
-                       std::to_string(top);
+QImage Differences(const QImage& expected, const QImage& actual) {
+    QImage marked(expected.size().expandedTo(actual.size()), QImage::Format_RGB32);
+    marked.fill(Qt::white);
+    QPainter painter(&marked);
+    painter.setOpacity(kFaded);
+    painter.drawImage(0, 0, expected);
+    painter.end();
+    for (int y = 0; y < marked.height(); ++y) {
+        for (int x = 0; x < marked.width(); ++x) {
+            const bool inBoth = expected.valid(x, y) && actual.valid(x, y);
+            if (!inBoth || expected.pixel(x, y) != actual.pixel(x, y)) {
+                marked.setPixelColor(x, y, Qt::red);
             }
         }
     }
-    return std::nullopt;
+    return marked;
 }
 
-std::vector<std::string> ComparePictures(const std::string& expectedFolder,
-                                         const std::string& actualFolder,
-                                         const std::vector<std::string>& names,
-                                         const std::string& palette) {
-    std::vector<std::string> complaints;
-    for (const std::string& name : names) {
-        const std::string file = "/" + name + "-" + palette + ".png";
-        const QImage expected(QString::fromStdString(expectedFolder + file));
-        const QImage actual(QString::fromStdString(actualFolder + file));
-        if (expected.isNull() || actual.isNull()) {
-            complaints.push_back((expected.isNull() ? expectedFolder : actualFolder) + file +
-                                 ": no such picture");
-        } else if (const std::optional<std::string> difference = Difference(expected, actual)) {
-            complaints.push_back(actualFolder + file + " " + *difference);
+QStringList ComparePictures(const QDir& expected, const QDir& actual, const QString& palette) {
+    QStringList complaints;
+    const QString ending = u'-' + palette + QStringLiteral(".png");
+    for (const QString& name : expected.entryList({u'*' + ending}, QDir::Files)) {
+        const QImage before(expected.filePath(name));
+        const QImage now(actual.filePath(name));
+        if (now.isNull()) {
+            complaints << actual.filePath(name) + QStringLiteral(": no such picture");
+        } else if (before != now) {
+            const QString shown = actual.filePath(
+                QString(name).replace(ending, u'-' + palette + QStringLiteral("-differences.png")));
+            Differences(before, now).save(shown);
+            complaints << actual.filePath(name) + QStringLiteral(" differs from ") +
+                              expected.filePath(name) + QStringLiteral(": look at ") + shown;
         }
     }
     return complaints;

@@ -2,25 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
-
-class QImage;
+#include <QDir>
+#include <QImage>
+#include <QStringList>
 
 namespace zelvar::tour {
 
-/// Whether two pictures show the same. They are looked at through a coarse grid, so that edges of
-/// letters may be smoothed otherwise, but no control or word may be another one.
-/// @return nothing when they do, else where they differ first
-std::optional<std::string> Difference(const QImage& expected, const QImage& actual);
+/// Where two pictures differ: the first one, faded, with the pixels red that are different in the
+/// second one or that only one of them has.
+QImage Differences(const QImage& expected, const QImage& actual);
 
-/// Compares pictures of a palette in two folders, if they were made under the same conditions.
-/// @param names without palette and ".png"
-/// @return one line per complaint
-std::vector<std::string> ComparePictures(const std::string& expectedFolder,
-                                         const std::string& actualFolder,
-                                         const std::vector<std::string>& names,
-                                         const std::string& palette);
+/// Compares the pictures of a palette in a folder with those of the same names in another one.
+/// Where one differs, a picture of the differences is written beside it.
+/// @param palette "light" or "dark"
+/// @return one line for each picture that is missing or differs
+QStringList ComparePictures(const QDir& expected, const QDir& actual, const QString& palette);
 
 }  // namespace zelvar::tour

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include <fcntl.h>
+#include <QCoreApplication>
+
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
 #include <string>
-#include <sys/file.h>
-#include <unistd.h>
 #include <vector>
 
 #include "comparison.h"
 #include "tour.h"
+#include "tour_lock.h"
 
 namespace zelvar::tour {
 
@@ -28,7 +28,7 @@ Takes the program through a tour on a simulated layout, without a display, and l
 pictures in FOLDER. Fails when a step does not show what it should.
 
   --palette light|dark   one palette only; both by default
-  --compare FOLDER       also fails when the pictures there show something else; ends with 77
+  --compare FOLDER       also fails when a picture there differs from the one made; ends with 77
                          when they cannot be compared, since other fonts or Qt made them
 )";
 
@@ -62,7 +62,7 @@ std::string FirstLine(const std::string& file) {
     return line;
 }
 
-enum class Comparison { kAlike, kDifferent, kNotMade };
+enum class Comparison { kEqual, kDifferent, kNotMade };
 
 Comparison Compare(const Options& options, const std::string& palette, const std::string& looks) {
     const std::string before = FirstLine(options.compareWith + "/" + kLooksFile);
@@ -71,31 +71,20 @@ Comparison Compare(const Options& options, const std::string& palette, const std
                   << ", these with " << looks << ": not compared." << std::endl;
         return Comparison::kNotMade;
     }
-    const std::vector<std::string> complaints =
-        ComparePictures(options.compareWith, options.folder, PictureNames(), palette);
-    for (const std::string& complaint : complaints) {
-        std::cerr << complaint << '\n';
+    const QStringList complaints = ComparePictures(
+        QDir(QString::fromStdString(options.compareWith)),
+        QDir(QString::fromStdString(options.folder)), QString::fromStdString(palette));
+    for (const QString& complaint : complaints) {
+        std::cerr << complaint.toStdString() << '\n';
     }
-    return complaints.empty() ? Comparison::kAlike : Comparison::kDifferent;
-}
-
-/// Two tours at once would open devices of one name, and Qt locks a serial port by its name for the
-/// whole computer. @return what holds the others off while it is open
-int WaitForOtherTours() {
-    constexpr mode_t kEverybody = 0666;
-    const std::string file = std::filesystem::temp_directory_path() / "zelvartour.lock";
-    const int lock = open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kEverybody);
-    if (lock < 0 || flock(lock, LOCK_EX) != 0) {
-        throw std::runtime_error("cannot lock " + file);
-    }
-    return lock;
+    return complaints.empty() ? Comparison::kEqual : Comparison::kDifferent;
 }
 
 int Run(const Options& options) {
-    const int lock = WaitForOtherTours();
+    const TourLock lock;
     const std::string folder = std::filesystem::absolute(options.folder);
     std::filesystem::create_directories(folder);
-    bool alike = true;
+    bool equal = true;
     bool compared = true;
     for (const std::string& palette : options.palettes) {
         Tour tour({folder, palette});
@@ -106,15 +95,14 @@ int Run(const Options& options) {
         std::ofstream(folder + "/" + kLooksFile) << tour.Looks() << '\n';
         if (!options.compareWith.empty()) {
             const Comparison comparison = Compare(options, palette, tour.Looks());
-            alike = alike && comparison != Comparison::kDifferent;
+            equal = equal && comparison != Comparison::kDifferent;
             compared = compared && comparison != Comparison::kNotMade;
         }
     }
-    close(lock);
-    if (!alike) {
-        std::cerr << "Look at the pictures; tools/pictures takes them over.\n";
+    if (!equal) {
+        std::cerr << "If they are as they should be, tools/pictures takes them over.\n";
     }
-    return !alike ? 1 : compared ? 0 : kNotCompared;
+    return !equal ? 1 : compared ? 0 : kNotCompared;
 }
 
 }  // namespace
@@ -122,6 +110,7 @@ int Run(const Options& options) {
 }  // namespace zelvar::tour
 
 int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
     zelvar::tour::Options options;
     if (!zelvar::tour::Parse({argv + 1, argv + argc}, options)) {
         std::cerr << zelvar::tour::kUsage;

@@ -9,15 +9,15 @@ namespace {
 /// The goods train runs into the block where the railcar still stands.
 void Overcurrent(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("DCCSpeed");
+    program.ShowTabOf("DCCSpeed");
     program.Click("CheckDCCDirection");
-    program.Ask({"key", "DCCSpeed", "PgUp, PgUp"});
+    program.Key("DCCSpeed", "PgUp, PgUp");
     tour.Unit().Do(kFast);
     tour.AwaitWindow(kAlarmLog);
     tour.AwaitText("lblBarStatus", "System Status = Fault");
     tour.AwaitText("lblTestSystemStatus", "System Status = Fault");
     tour.AwaitThat("the overcurrent of block 2 is logged", [&program] {
-        return program.Text("txtAlarmLog").starts_with("Overcurrent block 2 detected");
+        return program.TextOf("txtAlarmLog").starts_with("Overcurrent block 2 detected");
     });
     tour.ExpectNoBox();
     tour.Picture({kMainWindow, kAlarmLog});
@@ -27,7 +27,7 @@ void MessageLog(Tour& tour) {
     // A program that has not polled yet: the toggle bit starts the same way every time.
     tour.Start(kClub);
     tour.Connect();
-    tour.Program().Ask({"doubleclick", "lblCom"});
+    tour.Program().DoubleClick("lblCom");
     tour.AwaitWindow(kMessageLog);
     tour.RequestStatus(kStatusView);
     tour.Picture({kMainWindow, kMessageLog});

@@ -29,7 +29,7 @@ void ConfigureVD(Tour& tour) {
 
 void ConfigurePoint(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("cboJS");
+    program.ShowTabOf("cboJS");
     program.Choose("cboJS", " 8");
     program.Click("chkJSperm");
     program.Type("txtJStime", "42");
@@ -47,7 +47,7 @@ void ConfigurePoint(Tour& tour) {
 }
 
 void MasterSlaveCheck(Tour& tour) {
-    tour.Program().ToFront("cboVD");
+    tour.Program().ShowTabOf("cboVD");
     tour.Program().Choose("cboVD", "All_VDxx");
     tour.AwaitText("cmdMS(1)", "Check MS mode");
     tour.Program().Click("cmdMS(1)");
@@ -58,7 +58,7 @@ void MasterSlaveCheck(Tour& tour) {
 
 void KbOptions(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("chkKBperm");
+    program.ShowTabOf("chkKBperm");
     program.Click("chkKBEoptions(1)");
     program.Click("cmdOptions");
     program.Click("chkKBEconfig(0)");
@@ -73,11 +73,11 @@ void KbOptions(Tour& tour) {
 
 void Js70Report(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("cboJS");
+    program.ShowTabOf("cboJS");
     program.Click("cmdGetJSConfig");
     tour.Await({"visible", "textJSReport"}, "yes");
     tour.AwaitThat("the report says the time that was set", [&program] {
-        return program.Text("textJSReport").find("Default Timing =  42   700 ms") !=
+        return program.TextOf("textJSReport").find("Default Timing =  42   700 ms") !=
                std::string::npos;
     });
     tour.ExpectNoBox();

@@ -15,7 +15,7 @@ constexpr char kInactive[] = "#ffffff";
 
 /// Keys of one slider, each a step up.
 void Press(Tour& tour, const std::string& slider, const std::string& keys) {
-    tour.Program().Ask({"key", slider, keys});
+    tour.Program().Key(slider, keys);
     tour.ExpectNoBox();
 }
 
@@ -23,7 +23,7 @@ void Press(Tour& tour, const std::string& slider, const std::string& keys) {
 /// one after that has no speed.
 void DriveAnalog(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("AnalogSpeed");
+    program.ShowTabOf("AnalogSpeed");
     program.Type("txtTestLink(0)", "0");
     program.Type("txtTestLink(1)", "2");
     program.Click("CommandTestLink(0)");
@@ -43,7 +43,7 @@ void DriveAnalog(Tour& tour) {
 /// The goods train backs out of its platform, over a point that is thrown for it.
 void DriveDcc(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("DCCSpeed");
+    program.ShowTabOf("DCCSpeed");
     for (const char* point : {"0", "1"}) {
         program.Type("txtTestJS70device", point);
         program.Click("cmdTestJS70(1)");
@@ -63,7 +63,7 @@ void DriveDcc(Tour& tour) {
 
 void DriveMcc(Tour& tour) {
     e2e::DrivenProgram& program = tour.Program();
-    program.ToFront("MCCspeed");
+    program.ShowTabOf("MCCspeed");
     program.Type("txtTestMCCdecoder", "1");
     program.Click("chkTestMCCfunction(0)");
     program.Click("cmdTestMCCfunction");
@@ -89,7 +89,7 @@ void Feedback(Tour& tour) {
     tour.AwaitColour("lblFBM(17)", "Window", kInactive);
     tour.ExpectNoBox();
     tour.Picture({kMainWindow, kFeedbackMonitor});
-    program.Ask({"close", kFeedbackMonitor});
+    program.Close(kFeedbackMonitor);
     tour.Await({"window", kFeedbackMonitor}, "absent");
 }
 

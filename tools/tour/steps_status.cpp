@@ -38,7 +38,7 @@ void Status(Tour& tour) {
     tour.AwaitText("dlgZelvarStatus44/txtSysVer", "KB-E 1.02");
     tour.AwaitText("dlgZelvarStatus44/txtVDstatus(2)", "Fault");
     tour.Picture({kStatusView});
-    tour.Program().Ask({"close", kStatusView});
+    tour.Program().Close(kStatusView);
     tour.Await({"window", kStatusView}, "hidden");
 }
 

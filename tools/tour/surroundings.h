@@ -5,7 +5,6 @@
 #include <string>
 
 #include "harness/child_process.h"
-#include "harness/temp_folder.h"
 
 namespace zelvar::tour {
 

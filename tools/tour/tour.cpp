@@ -45,6 +45,10 @@ void Tour::Start(const std::string& layout, const std::vector<std::string>& opti
 }
 
 void Tour::Connect() {
+    if (program_->ItemsOf("cboPort").empty()) {
+        throw std::runtime_error(std::string("the port ") + kPort +
+                                 " is in use: does another user run the tour?");
+    }
     program_->Choose("cboPort", "1");
     AwaitText("lblBarDevice", std::string("Port 1: ") + kPort + ", 19k2");
 }
@@ -62,7 +66,7 @@ void Tour::RequestStatus(const std::string& view) {
 }
 
 void Tour::Await(const std::vector<std::string>& question, const std::string& answer) {
-    if (const std::optional<std::string> complaint = program_->WhyNot(question, answer)) {
+    if (const std::optional<std::string> complaint = program_->Mismatch(question, answer)) {
         throw std::runtime_error(*complaint);
     }
 }
@@ -127,14 +131,6 @@ std::optional<std::string> Tour::Run() {
         std::cout << step_ << " (" << journey_.palette << ")" << std::endl;
     }
     return std::nullopt;
-}
-
-std::vector<std::string> PictureNames() {
-    std::vector<std::string> names;
-    for (const Step& step : AllSteps()) {
-        names.emplace_back(step.name);
-    }
-    return names;
 }
 
 }  // namespace zelvar::tour

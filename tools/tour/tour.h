@@ -10,7 +10,6 @@
 
 #include "harness/driven_program.h"
 #include "harness/simulator.h"
-#include "harness/temp_folder.h"
 
 namespace zelvar::tour {
 
@@ -34,7 +33,7 @@ inline constexpr char kBox[] = "box";
 inline constexpr char kClub[] = "club";
 inline constexpr char kStarter[] = "starter";
 
-// What the console is told about simulated time.
+// Console commands that set how fast simulated time passes.
 inline constexpr char kFast[] = "time-factor 20";
 inline constexpr char kFrozen[] = "time-factor 0";
 
@@ -44,7 +43,7 @@ class Tour {
   public:
     explicit Tour(Journey journey);
 
-    /// Starts the program anew, and a unit with a layout behind port 1.
+    /// Starts the program again, and a unit with a layout behind port 1.
     void Start(const std::string& layout, const std::vector<std::string>& options = {});
     /// Opens port 1.
     void Connect();
@@ -110,8 +109,5 @@ std::span<const Step> StatusSteps();
 std::span<const Step> ConfigureSteps();
 std::span<const Step> DriveSteps();
 std::span<const Step> AlarmSteps();
-
-/// Names of all pictures without palette and ".png".
-std::vector<std::string> PictureNames();
 
 }  // namespace zelvar::tour

@@ -31,7 +31,7 @@ void Journey::Start(const std::vector<std::string>& unitOptions) {
 void Journey::StartAndOpen(const std::vector<std::string>& unitOptions) {
     Start(unitOptions);
     program->Choose("cboPort", "1");
-    ASSERT_EQ(program->Text("lblBarDevice"), "Port 1: " + unit->Device() + ", 19k2");
+    ASSERT_EQ(program->TextOf("lblBarDevice"), "Port 1: " + unit->Device() + ", 19k2");
 }
 
 void Journey::StartAndPoll(const std::vector<std::string>& unitOptions) {
@@ -87,7 +87,7 @@ void Journey::TearDown() {
     // Asking would cost the program time: nothing is asked meanwhile.
     const Milliseconds before = program->Process().CpuTime();
     const Instant start = Now();
-    Until([] { return false; }, kRestFor);
+    QTest::qWait(static_cast<int>(kRestFor.count()));
     const Milliseconds spent = program->Process().CpuTime() - before;
     if (spent <= kMostCpuTime) {
         return ::testing::AssertionSuccess();

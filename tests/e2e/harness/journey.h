@@ -10,7 +10,6 @@
 
 #include "harness/program.h"
 #include "harness/simulator.h"
-#include "harness/temp_folder.h"
 
 namespace zelvar::e2e {
 

@@ -26,7 +26,7 @@ class Program : public DrivenProgram {
     /// Waits until the probe answers a question so.
     ::testing::AssertionResult Says(const std::vector<std::string>& question,
                                     const std::string& answer) {
-        const std::optional<std::string> complaint = WhyNot(question, answer);
+        const std::optional<std::string> complaint = Mismatch(question, answer);
         return complaint ? ::testing::AssertionFailure() << *complaint
                          : ::testing::AssertionSuccess();
     }

@@ -6,21 +6,22 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <memory>
 #include <poll.h>
 #include <signal.h>  // NOLINT: kill() is not in <csignal>
 #include <string>
 #include <sys/ioctl.h>
-#include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
+#include "harness/child_process.h"
 #include "sim/protocol/wire.h"
 
 namespace zelvar::sim {
@@ -28,9 +29,9 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 using Clock = std::chrono::steady_clock;
-using std::chrono::milliseconds;
-
-constexpr milliseconds kLimit{5000};  // far above anything that has to happen
+using e2e::ChildProcess;
+using e2e::kLimit;
+using e2e::WaitReadable;
 
 /// Closes what it holds.
 class Handle {
@@ -54,68 +55,13 @@ class Handle {
     int fd_;
 };
 
-bool WaitReadable(int fd, milliseconds limit) {
-    pollfd entry{fd, POLLIN, 0};
-    return ::poll(&entry, 1, static_cast<int>(limit.count())) == 1;
-}
-
-/// The near end of a pseudo-terminal, which the started program does not inherit.
-Handle OpenMaster() {
-    Handle master(posix_openpt(O_RDWR | O_NOCTTY));
-    EXPECT_EQ(grantpt(master.get()), 0);
-    EXPECT_EQ(unlockpt(master.get()), 0);
-    EXPECT_EQ(fcntl(master.get(), F_SETFD, FD_CLOEXEC), 0);
-    return master;
-}
-
 class ProgramTest : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string pattern = testing::TempDir() + "zelvarsimXXXXXX";
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        folder_ = pattern;
-        link_ = folder_ / "line";
-    }
-    void TearDown() override {
-        if (process_ > 0) {
-            kill(process_, SIGKILL);
-            waitpid(process_, nullptr, 0);
-        }
-        std::filesystem::remove_all(folder_);
-    }
-
     void Start(const std::vector<std::string>& options) {
-        std::array<int, 2> in{};
-        std::array<int, 2> out{};
-        ASSERT_EQ(pipe(in.data()), 0);
-        ASSERT_EQ(pipe(out.data()), 0);
-        for (const int fd : {in[0], in[1], out[0], out[1]}) {
-            fcntl(fd, F_SETFD, FD_CLOEXEC);
-        }
         std::vector<std::string> words = {ZELVARSIM_PROGRAM, "--layout",
                                           ZELVAR_TEST_LAYOUTS "/mixed.toml"};
         words.insert(words.end(), options.begin(), options.end());
-        std::vector<char*> arguments;
-        arguments.reserve(words.size() + 1);
-        for (std::string& word : words) {
-            arguments.push_back(word.data());
-        }
-        arguments.push_back(nullptr);
-        process_ = fork();
-        ASSERT_GE(process_, 0);
-        if (process_ == 0) {
-            dup2(in[0], STDIN_FILENO);
-            dup2(out[1], STDOUT_FILENO);
-            const std::string errors = (folder_ / "errors").string();
-            dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600),
-                 STDERR_FILENO);
-            execv(arguments[0], arguments.data());
-            _exit(127);
-        }
-        close(in[0]);
-        close(out[1]);
-        input_ = Handle(in[1]);
-        output_ = Handle(out[0]);
+        process_ = std::make_unique<ChildProcess>(words);
     }
     void StartOnLink(std::vector<std::string> options = {"--no-pacing", "--unit-delay", "0"}) {
         options.insert(options.end(), {"--link", link_.string()});
@@ -129,21 +75,8 @@ class ProgramTest : public testing::Test {
     }
 
     /// The program's next line; empty when none comes.
-    std::string ReadLine() {
-        std::string line;
-        char byte = 0;
-        while (WaitReadable(output_.get(), kLimit) && read(output_.get(), &byte, 1) == 1) {
-            if (byte == '\n') {
-                return line;
-            }
-            line += byte;
-        }
-        return "";
-    }
-    void Type(const std::string& line) {
-        const std::string text = line + "\n";
-        ASSERT_EQ(write(input_.get(), text.data(), text.size()), ssize_t(text.size()));
-    }
+    std::string ReadLine() { return process_->Receive().value_or(""); }
+    void Type(const std::string& line) { ASSERT_TRUE(process_->Send(line)); }
     std::string Command(const std::string& line) {
         Type(line);
         return ReadLine();
@@ -153,47 +86,26 @@ class ProgramTest : public testing::Test {
         const Bytes bytes = EncodeFrame(data);
         ASSERT_EQ(write(line_.get(), bytes.data(), bytes.size()), ssize_t(bytes.size()));
     }
-    /// As many bytes as asked for, or those that came until the limit or the end of the line.
-    Bytes Receive(std::size_t count, milliseconds limit = kLimit) {
+    /// So many bytes, or those that came until the limit or the end of the line.
+    Bytes Receive(std::size_t count) {
         Bytes bytes;
-        const auto end = Clock::now() + limit;
-        while (bytes.size() < count && Clock::now() < end) {
-            const auto left = std::chrono::ceil<milliseconds>(end - Clock::now());
-            std::uint8_t byte = 0;
-            if (!WaitReadable(line_.get(), left) || read(line_.get(), &byte, 1) != 1) {
-                break;
-            }
+        std::uint8_t byte = 0;
+        while (bytes.size() < count && WaitReadable(line_.get(), kLimit) &&
+               read(line_.get(), &byte, 1) == 1) {
             bytes.push_back(byte);
         }
         return bytes;
     }
-    /// The exit code, or -1 when it goes on running or was killed.
-    int WaitForEnd() {
-        const auto end = Clock::now() + kLimit;
-        while (Clock::now() < end) {
-            int status = 0;
-            if (waitpid(process_, &status, WNOHANG) == process_) {
-                process_ = -1;
-                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-            }
-            WaitReadable(-1, milliseconds(5));
-        }
-        return -1;
-    }
-    /// What the program has said on its standard error.
-    std::string Errors() const {
-        std::ifstream file(folder_ / "errors");
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    /// The exit status, or -1 when the program does not end.
+    int WaitForEnd() { return process_->WaitForExit().value_or(-1); }
     bool LinkExists() const {
         return std::filesystem::is_symlink(std::filesystem::symlink_status(link_));
     }
 
-    std::filesystem::path folder_;
-    std::filesystem::path link_;
-    pid_t process_ = -1;
-    Handle input_;
-    Handle output_;
+    const e2e::TempFolder temporary_;
+    const std::filesystem::path folder_ = temporary_.Path(".");
+    const std::filesystem::path link_ = temporary_.Path("line");
+    std::unique_ptr<ChildProcess> process_;
     Handle line_;
 };
 
@@ -210,7 +122,7 @@ TEST_F(ProgramTest, ConsoleReportsReachTheLine) {
     EXPECT_EQ(Command("overcurrent 133"), "ok");
     SendFrame({});
     EXPECT_EQ(Receive(4), (Bytes{0x0A, 0xB3, 0x85, 0xBE}));
-    EXPECT_EQ(Command("nonsense"), "error unknown command nonsense");
+    EXPECT_EQ(Command("nonsense"), "error unknown command nonsense; \"help\" lists them");
 }
 
 TEST_F(ProgramTest, ServesTheNextOpeningToo) {
@@ -253,7 +165,7 @@ class ProgramSignal : public ProgramTest, public testing::WithParamInterface<int
 
 TEST_P(ProgramSignal, EndsItAndRemovesTheLink) {
     StartOnLink();
-    kill(process_, GetParam());
+    kill(process_->Id(), GetParam());
     EXPECT_EQ(WaitForEnd(), 0);
     EXPECT_FALSE(LinkExists());
 }
@@ -262,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(Signals, ProgramSignal, testing::Values(SIGTERM, SIGINT
 
 TEST_F(ProgramTest, GoesOnServingAfterTheEndOfItsInput) {
     StartOnLink();
-    input_.Close();
+    process_->CloseInput();
     SendFrame({});
     EXPECT_EQ(Receive(2), kEmptyReply);
     SendFrame({});
@@ -284,47 +196,40 @@ TEST_F(ProgramTest, ReplacesAStaleLinkWhosePseudoTerminalAnotherOneHasNow) {
     StartOnLink();
     const auto stale = link_.parent_path() / "stale";
     std::filesystem::create_symlink(std::filesystem::read_symlink(link_), stale);
-    const pid_t first = process_;
-    const Handle firstInput = std::move(input_);
+    const std::unique_ptr<ChildProcess> first = std::move(process_);
     Start({"--link", stale.string()});
     EXPECT_EQ(ReadLine(), "ready " + stale.string());
     Command("quit");
     EXPECT_EQ(WaitForEnd(), 0);
-    kill(first, SIGTERM);
-    process_ = first;
-    EXPECT_EQ(WaitForEnd(), 0);
+    kill(first->Id(), SIGTERM);
+    EXPECT_EQ(first->WaitForExit(), 0);
 }
 
 TEST_F(ProgramTest, LeavesALinkToAnotherRunningOneAlone) {
     StartOnLink();
     const auto target = std::filesystem::read_symlink(link_);
-    const pid_t first = process_;
-    const Handle firstInput = std::move(input_);
+    std::unique_ptr<ChildProcess> first = std::move(process_);
     for (const bool exclusive : {false, true}) {
         if (exclusive) {
             ASSERT_EQ(ioctl(line_.get(), TIOCEXCL), 0);
         }
         Start({"--link", link_.string()});
         EXPECT_EQ(WaitForEnd(), 1);
-        EXPECT_EQ(Errors(), "zelvarsim: " + link_.string() + ": another zelvarsim serves it\n");
+        EXPECT_EQ(process_->Errors(),
+                  "zelvarsim: " + link_.string() + ": another zelvarsim serves it\n");
         EXPECT_EQ(std::filesystem::read_symlink(link_), target);
     }
     SendFrame({});
     EXPECT_EQ(Receive(2), kEmptyReply) << "the first one goes on";
     // Killed, it leaves its link behind, which is free again then.
-    process_ = first;
-    kill(process_, SIGKILL);
-    EXPECT_EQ(WaitForEnd(), -1);
+    first.reset();
     line_.Close();
     EXPECT_TRUE(LinkExists());
     StartOnLink();
     SendFrame({});
     EXPECT_EQ(Receive(2), kEmptyReply);
-    std::size_t files = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
-        files += entry.path().filename() == "errors" ? 0 : 1;
-    }
-    EXPECT_EQ(files, 1U) << "nothing but the link";
+    const std::filesystem::directory_iterator files(folder_);
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "nothing but the link";
 }
 
 TEST_F(ProgramTest, LeavesALinkAloneThatIsNoLongerItsOwn) {
@@ -426,7 +331,7 @@ TEST_F(ProgramTest, TracesFromTheStartWithTheTimeOfDay) {
 TEST_F(ProgramTest, ExplainsALogFromItsStandardInput) {
     Start({"--explain", "-"});
     Type(">> 0B A2 85 CC 82              << 08 F8");
-    input_.Close();
+    process_->CloseInput();
     EXPECT_EQ(ReadLine(),
               ">> 0B A2 85 CC 82              << 08 F8                       "
               "analog speed: block 5, speed 12 forward -> acknowledged");
@@ -458,28 +363,26 @@ TEST_F(ProgramTest, ExplainsAnEmptyFile) {
 }
 
 TEST_F(ProgramTest, ServesADevice) {
-    const Handle master = OpenMaster();
-    const std::string device = ptsname(master.get());
-    Start({"--device", device});
-    EXPECT_EQ(ReadLine(), "ready " + device);
-    line_ = Handle(dup(master.get()));
+    const e2e::PseudoTerminal terminal;
+    Start({"--device", terminal.Device()});
+    EXPECT_EQ(ReadLine(), "ready " + terminal.Device());
+    line_ = Handle(dup(terminal.Master()));
     SendFrame({});
     EXPECT_EQ(Receive(2), kEmptyReply);
 }
 
 TEST_F(ProgramTest, EndsWhenItsDeviceGoes) {
-    {
-        const Handle master = OpenMaster();
-        Start({"--device", ptsname(master.get())});
-        EXPECT_TRUE(ReadLine().starts_with("ready "));
-    }
+    e2e::PseudoTerminal terminal;
+    Start({"--device", terminal.Device()});
+    EXPECT_TRUE(ReadLine().starts_with("ready "));
+    terminal.HangUp();
     EXPECT_EQ(WaitForEnd(), 1);
 }
 
 TEST_F(ProgramTest, RefusesUnknownOptionsAndMissingDevices) {
     Start({"--bogus"});
     EXPECT_EQ(WaitForEnd(), 2);
-    EXPECT_EQ(Errors(), "zelvarsim: unknown option --bogus\nTry \"zelvarsim --help\".\n");
+    EXPECT_THAT(process_->Errors(), testing::HasSubstr("--bogus"));
     Start({"--device", (folder_ / "none").string()});
     EXPECT_EQ(WaitForEnd(), 1);
 }
@@ -489,7 +392,7 @@ TEST_F(ProgramTest, TellsItsVersionAndItsOptions) {
     EXPECT_TRUE(ReadLine().starts_with("zelvarsim "));
     EXPECT_EQ(WaitForEnd(), 0);
     Start({"--help"});
-    EXPECT_EQ(ReadLine(), "usage: zelvarsim [options]");
+    EXPECT_THAT(ReadLine(), testing::StartsWith("A simulated central unit"));
     EXPECT_EQ(WaitForEnd(), 0);
 }
 

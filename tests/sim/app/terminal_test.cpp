@@ -7,31 +7,30 @@
 
 #include <array>
 #include <chrono>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <optional>
 #include <poll.h>
 #include <signal.h>  // NOLINT: kill() is not in <csignal>
 #include <sstream>
 #include <string>
-#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
 
+#include "harness/child_process.h"
 #include "sim/protocol/wire.h"
 
 namespace zelvar::sim {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-using std::chrono::milliseconds;
+using e2e::kLimit;
+using e2e::WaitReadable;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr milliseconds kLimit{5000};  // far above anything that has to happen
 constexpr const char* kPrompt = "zelvarsim> ";
 constexpr const char* kUp = "\x1b[A";
 constexpr const char* kLeft = "\x1b[D";
@@ -44,75 +43,30 @@ constexpr const char* kEscape = "\x1b";
 
 class TerminalTest : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string pattern = testing::TempDir() + "zelvarsimXXXXXX";
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        folder_ = pattern;
-        Start();
-    }
-    void TearDown() override {
-        End();
-        std::filesystem::remove_all(folder_);
-    }
+    void SetUp() override { Start(); }
 
     void Start(unsigned short columns = 80) {
-        End();
+        process_.reset();
         screen_.clear();
-        master_ = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-        ASSERT_GE(master_, 0);
-        ASSERT_EQ(grantpt(master_), 0);
-        ASSERT_EQ(unlockpt(master_), 0);
-        const std::string name = ptsname(master_);
-        const winsize size{24, columns, 0, 0};
-        ASSERT_EQ(ioctl(master_, TIOCSWINSZ, &size), 0);
-        const std::string link = Link();
-        process_ = fork();
-        ASSERT_GE(process_, 0);
-        if (process_ == 0) {
-            Become(name, link);
-        }
+        terminal_.emplace(e2e::PseudoTerminal::Kind::kScreen, columns);
+        process_.emplace(
+            std::vector<std::string>{ZELVARSIM_PROGRAM, "--link", Link(), "--no-pacing"},
+            e2e::StartOptions{
+                {{"TERM", "xterm"}, {"LC_ALL", "C.UTF-8"}, {"XDG_STATE_HOME", folder_.Path(".")}},
+                {},
+                &*terminal_});
         ASSERT_TRUE(Shows(kPrompt)) << screen_;
     }
-    /// The child: a session of its own, so that the terminal is its terminal.
-    [[noreturn]] void Become(const std::string& terminal, const std::string& link) const {
-        setsid();
-        const int fd = open(terminal.c_str(), O_RDWR);
-        ioctl(fd, TIOCSCTTY, 0);
-        for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-            dup2(fd, standard);
-        }
-        setenv("TERM", "xterm", 1);
-        setenv("LC_ALL", "C.UTF-8", 1);
-        setenv("XDG_STATE_HOME", folder_.c_str(), 1);
-        execl(ZELVARSIM_PROGRAM, "zelvarsim", "--link", link.c_str(), "--no-pacing", nullptr);
-        _exit(127);
-    }
-    void End() {
-        if (process_ > 0) {
-            kill(process_, SIGKILL);
-            waitpid(process_, nullptr, 0);
-            process_ = -1;
-        }
-        if (master_ >= 0) {
-            close(master_);
-            master_ = -1;
-        }
-    }
 
-    void Type(const std::string& keys) {
-        ASSERT_EQ(write(master_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
-    }
+    void Type(const std::string& keys) { terminal_->Type(keys); }
     /// Waits until the terminal has got the text since the last `Clear`.
     bool Shows(const std::string& text) {
-        const auto end = Clock::now() + kLimit;
         while (screen_.find(text) == std::string::npos) {
-            pollfd entry{master_, POLLIN, 0};
-            const auto left = std::chrono::ceil<milliseconds>(end - Clock::now());
             std::array<char, 4096> chunk{};
-            if (left.count() <= 0 || ::poll(&entry, 1, static_cast<int>(left.count())) != 1) {
+            if (!WaitReadable(terminal_->Master(), kLimit)) {
                 return false;
             }
-            const ssize_t count = read(master_, chunk.data(), chunk.size());
+            const ssize_t count = read(terminal_->Master(), chunk.data(), chunk.size());
             if (count <= 0) {
                 return false;
             }
@@ -128,30 +82,25 @@ class TerminalTest : public testing::Test {
         EXPECT_TRUE(Shows(std::string("\r\n") + kPrompt)) << screen_;
         return screen_;
     }
-    /// The exit code, or -1 when it goes on running or was killed.
-    int WaitForEnd() {
-        const auto end = Clock::now() + kLimit;
-        while (Clock::now() < end) {
-            int status = 0;
-            if (waitpid(process_, &status, WNOHANG) == process_) {
-                process_ = -1;
-                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-            }
-            ::poll(nullptr, 0, 5);
-        }
-        return -1;
-    }
-    std::string Link() const { return (folder_ / "line").string(); }
+    /// The exit status, or -1 when the program does not end.
+    int WaitForEnd() { return process_->WaitForExit().value_or(-1); }
+    std::string Link() const { return folder_.Path("line"); }
     std::string History() const {
-        std::ifstream file(folder_ / "zelvarsim" / "history");
+        std::ifstream file(folder_.Path("zelvarsim/history"));
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    std::filesystem::path folder_;
-    pid_t process_ = -1;
-    int master_ = -1;
+    const e2e::TempFolder folder_;
+    std::optional<e2e::PseudoTerminal> terminal_;
+    std::optional<e2e::ChildProcess> process_;
     std::string screen_;
 };
+
+TEST_F(TerminalTest, ShowsHowToGoOn) {
+    EXPECT_THAT(screen_, HasSubstr("ready " + Link() +
+                                   "\r\nIn another terminal: ZELVARCONFIG_PORTS=" + Link() +
+                                   " zelvarconfig\r\n\"help\" lists the commands"));
+}
 
 TEST_F(TerminalTest, CarriesOutATypedLine) {
     EXPECT_THAT(Enter("fault on"), HasSubstr("fault on\r\nok\r\n"));
@@ -181,8 +130,7 @@ TEST_F(TerminalTest, HistoryOutlivesTheProgram) {
 
 TEST_F(TerminalTest, HistoryIsKeptHoweverTheProgramEnds) {
     Enter("hold on");
-    kill(process_, SIGKILL);
-    WaitForEnd();
+    process_->Kill();
     EXPECT_THAT(History(), HasSubstr("hold"));
 }
 
@@ -234,7 +182,7 @@ TEST_F(TerminalTest, ATraceComesAboveTheLineBeingTyped) {
 
 TEST_F(TerminalTest, ALineOverTwoRowsIsTakenAwayWhole) {
     Start(40);
-    Enter("trace on");
+    Enter("trace all");
     Type(std::string(40, 'x'));  // with the prompt 51 characters
     ASSERT_TRUE(Shows(std::string(5, 'x')));
     const int line = open(Link().c_str(), O_RDWR | O_NOCTTY);
@@ -253,8 +201,7 @@ TEST_F(TerminalTest, ALoneEscapeDoesNotHoldUpTheLine) {
     ASSERT_GE(line, 0);
     const std::vector<std::uint8_t> frame = EncodeFrame({});
     ASSERT_EQ(write(line, frame.data(), frame.size()), static_cast<ssize_t>(frame.size()));
-    pollfd entry{line, POLLIN, 0};
-    EXPECT_EQ(::poll(&entry, 1, static_cast<int>(kLimit.count())), 1);
+    EXPECT_TRUE(WaitReadable(line, kLimit));
     close(line);
     EXPECT_THAT(Enter(std::string(kControlU) + "fault on"), HasSubstr("\r\nok\r\n"));
 }
@@ -279,18 +226,17 @@ TEST_F(TerminalTest, BytesThatAreNoCharacterAreNotTaken) {
 }
 
 TEST_F(TerminalTest, LettersOfTheUsersAlphabetCanBeTyped) {
-    EXPECT_THAT(Enter("\xC3\xA9t\xC3\xA9"),
-                HasSubstr("error unknown command \xC3\xA9t\xC3\xA9\r\n"));
+    EXPECT_THAT(Enter("\xC3\xA9t\xC3\xA9"), HasSubstr("error unknown command \xC3\xA9t\xC3\xA9; "));
 }
 
 TEST_F(TerminalTest, AProgramThatWasStoppedShowsItsLineAgain) {
     Type("fault o");
     ASSERT_TRUE(Shows("fault o"));
-    kill(process_, SIGSTOP);
+    kill(process_->Id(), SIGSTOP);
     int status = 0;
-    ASSERT_EQ(waitpid(process_, &status, WUNTRACED), process_);
+    ASSERT_EQ(waitpid(process_->Id(), &status, WUNTRACED | __WALL), process_->Id());
     Clear();
-    kill(process_, SIGCONT);
+    kill(process_->Id(), SIGCONT);
     EXPECT_TRUE(Shows("zelvarsim> fault o")) << screen_;
     EXPECT_THAT(Enter("n"), HasSubstr("\r\nok\r\n"));
 }
@@ -309,19 +255,14 @@ struct EndCase {
 class TerminalEnd : public TerminalTest, public testing::WithParamInterface<EndCase> {};
 
 TEST_P(TerminalEnd, EndsTheProgramAndGivesTheTerminalBack) {
-    termios before{};
-    const int terminal = open(ptsname(master_), O_RDWR | O_NOCTTY);
-    ASSERT_GE(terminal, 0);
-    ASSERT_EQ(tcgetattr(terminal, &before), 0);
-    EXPECT_EQ(before.c_lflag & ICANON, 0U) << "the editor has not taken the terminal over";
+    EXPECT_EQ(terminal_->Settings().c_lflag & ICANON, 0U)
+        << "the editor has not taken the terminal over";
     Type(GetParam().keys);
     EXPECT_EQ(WaitForEnd(), 0);
-    termios after{};
-    ASSERT_EQ(tcgetattr(terminal, &after), 0);
+    const termios after = terminal_->Settings();
     EXPECT_NE(after.c_lflag & ICANON, 0U);
     EXPECT_NE(after.c_lflag & ECHO, 0U);
     EXPECT_FALSE(std::filesystem::is_symlink(std::filesystem::symlink_status(Link())));
-    close(terminal);
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, TerminalEnd,

@@ -37,27 +37,27 @@ TEST_F(AccessoryGroupsTest, TheModuleModeShowsTheModuleAndCutsTheDevice) {
     auto& deviceCaption = Find<QLabel>("lblTestJS70(1)");
     ShowTabOf(module);
     SetText("txtTestJS70device", "400");
-    EXPECT_EQ(TextOf("lblTestJS70(0)"), QStringLiteral("JS70 Device"));
+    EXPECT_EQ(TextOf("lblTestJS70(0)"), "JS70 Device");
     EXPECT_FALSE(module.isVisible());
     EXPECT_FALSE(Find<QLineEdit>("txtTestJS70module").isVisible());
     EXPECT_FALSE(deviceCaption.isVisible());
 
     Click("chkTestJS70selectmodule");
-    EXPECT_EQ(TextOf("lblTestJS70(0)"), QStringLiteral("JS70 Module"));
+    EXPECT_EQ(TextOf("lblTestJS70(0)"), "JS70 Module");
     EXPECT_TRUE(module.isVisible());
     EXPECT_TRUE(Find<QLineEdit>("txtTestJS70module").isVisible());
     EXPECT_TRUE(deviceCaption.isVisible());
-    EXPECT_EQ(TextOf("txtTestJS70device"), QStringLiteral("63"));
+    EXPECT_EQ(TextOf("txtTestJS70device"), "63");
     EXPECT_EQ(Find<QWidget>("UpDownTestJS70device").property("maximum").toInt(), 63);
     SetText("txtTestJS70device", "64");
-    EXPECT_EQ(TextOf("txtTestJS70device"), QStringLiteral("63"));
+    EXPECT_EQ(TextOf("txtTestJS70device"), "63");
 
     Box("chkTestJS70selectmodule").setChecked(false);
-    EXPECT_EQ(TextOf("lblTestJS70(0)"), QStringLiteral("JS70 Device"));
+    EXPECT_EQ(TextOf("lblTestJS70(0)"), "JS70 Device");
     EXPECT_FALSE(module.isVisible());
     EXPECT_FALSE(deviceCaption.isVisible());
     SetText("txtTestJS70device", "512");
-    EXPECT_EQ(TextOf("txtTestJS70device"), QStringLiteral("511"));
+    EXPECT_EQ(TextOf("txtTestJS70device"), "511");
 }
 
 TEST_F(AccessoryGroupsTest, AnotherPointModeMovesNoOtherGroup) {

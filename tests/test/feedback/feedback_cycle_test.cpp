@@ -22,7 +22,7 @@ TEST_F(FeedbackCycleTest, ACycleAsksForEveryInputShownOncePerTickInAscendingOrde
     RequestData();
     EXPECT_TRUE(TakeSent().empty()) << "the ticks do the asking";
     EXPECT_EQ(GroundOf(0), kNoInformation);
-    Tick();
+    Poll();
     EXPECT_EQ(TakeSent(), (Sent{{96 + 8, 0}}));
     EXPECT_EQ(GroundOf(0), kInactive);
     std::vector<int> expected;
@@ -36,7 +36,7 @@ TEST_F(FeedbackCycleTest, ACycleAsksForEveryInputShownOncePerTickInAscendingOrde
     for (int i = 0; i < 128; ++i) {
         EXPECT_EQ(GroundOf(i), i % 2 != 0 ? kActive : kInactive) << i;
     }
-    Tick();
+    Poll();
     EXPECT_EQ(TakeSent(), (Sent{{}})) << "the cycle is over";
 }
 
@@ -51,7 +51,7 @@ TEST_F(FeedbackCycleTest, ACycleWithoutReportsAsksForEachInputOnceAllTheSame) {
 TEST_F(FeedbackCycleTest, ACycleThatMeetsSilenceTellsSoOnceAndGoesOnWithTheNextCommand) {
     Begin();
     RequestData();
-    Tick();
+    Poll();
     port.replies = {Bytes{}};
     EXPECT_EQ(AskedIn(50), (std::vector<int>{0, 1}));
     EXPECT_EQ(messageBox.shown, (std::vector<ShownBox>{Exclamation("No response from Zelvar")}));

@@ -37,7 +37,7 @@ class FeedbackFixture : public DriveFixture {
     QColor GroundOf(int i) { return Label(i).palette().color(QPalette::Window); }
     void ChooseLayout(int k) {
         auto& option = Part<QRadioButton>("opFBmod(" + std::to_string(k) + ")");
-        QTest::mouseClick(&option, Qt::LeftButton, {}, QPoint(8, option.height() / 2));
+        QTest::mouseClick(&option, Qt::LeftButton, {}, SpotOf(option));
     }
     void SetBase(int base) { Part<QWidget>("UpDownFBbase").setProperty("value", base); }
     QString BaseText() { return Part<QLabel>("lblFBbase").text(); }
@@ -74,7 +74,7 @@ class FeedbackFixture : public DriveFixture {
     /// All that go out in so many ticks.
     std::vector<int> AskedIn(int ticks) {
         for (int i = 0; i < ticks; ++i) {
-            Tick();
+            Poll();
         }
         return Asked(TakeSent());
     }

@@ -55,7 +55,7 @@ TEST_F(FeedbackMonitorTest, TakesOnlyRepliesWithBit6Set) {
 TEST_F(FeedbackMonitorTest, IsNotLoadedByTicks) {
     OpenPort();
     StartPolling();
-    Tick();
+    Poll();
     EXPECT_EQ(TakeSent(), (Sent{{}}));
     EXPECT_EQ(FindWindow(kMonitor), nullptr);
 }

@@ -11,7 +11,7 @@ namespace {
 
 class AnalogPageTest : public DriveFixture {
   protected:
-    QString ReadOut() { return TextOf("lblTestAnalogSpeed"); }
+    std::string ReadOut() { return TextOf("lblTestAnalogSpeed"); }
 };
 
 TEST_F(AnalogPageTest, SendsTheSpeedAndShowsItWithoutAcceleration) {
@@ -19,10 +19,10 @@ TEST_F(AnalogPageTest, SendsTheSpeedAndShowsItWithoutAcceleration) {
     SetText("txtTestBlock", "5");
     Slider("AnalogSpeed").setValue(12);
     EXPECT_EQ(TakeSent(), (Sent{{34, 5, 76}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral(">>12"));
+    EXPECT_EQ(ReadOut(), ">>12");
     Click("CheckAnalogDirection");
     EXPECT_EQ(TakeSent(), (Sent{{34, 5, 12}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral("<<12"));
+    EXPECT_EQ(ReadOut(), "<<12");
     SetText("txtTestBlock", "200");
     Slider("AnalogSpeed").setValue(63);
     EXPECT_EQ(TakeSent(), (Sent{{35, 72, 63}}));
@@ -34,19 +34,19 @@ TEST_F(AnalogPageTest, SendsTheAccelerationAndShowsNoSpeedThen) {
     SetText("txtTestAcceleration", "10");
     Slider("AnalogSpeed").setValue(12);
     EXPECT_EQ(TakeSent(), (Sent{{34, 5, 76, 10}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+    EXPECT_EQ(ReadOut(), "---");
 }
 
 TEST_F(AnalogPageTest, TheDirectionBoxTakesTheAccelerationToo) {
     OpenPort();
     SetText("txtTestBlock", "5");
     Slider("AnalogSpeed").setValue(12);
-    ASSERT_EQ(ReadOut(), QStringLiteral(">>12"));
+    ASSERT_EQ(ReadOut(), ">>12");
     SetText("txtTestAcceleration", "10");
     TakeSent();
     Click("CheckAnalogDirection");
     EXPECT_EQ(TakeSent(), (Sent{{34, 5, 12, 10}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+    EXPECT_EQ(ReadOut(), "---");
 }
 
 TEST_F(AnalogPageTest, TakesASmallFractionForAnAcceleration) {
@@ -54,7 +54,7 @@ TEST_F(AnalogPageTest, TakesASmallFractionForAnAcceleration) {
     SetText("txtTestAcceleration", "0.4");
     Slider("AnalogSpeed").setValue(1);
     EXPECT_EQ(TakeSent(), (Sent{{34, 0, 65, 0}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+    EXPECT_EQ(ReadOut(), "---");
 }
 
 TEST_F(AnalogPageTest, TakesTextThatIsNoNumberForNoAcceleration) {
@@ -91,7 +91,7 @@ TEST_F(AnalogPageTest, TheLightLeavesTheSpeedAlone) {
     TakeSent();
     Click("CheckAnalogLight");
     EXPECT_EQ(TakeSent(), (Sent{{33, 0, 16}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral(">>12"));
+    EXPECT_EQ(ReadOut(), ">>12");
     EXPECT_EQ(Slider("AnalogSpeed").value(), 12);
     SetText("txtTestBlock", "127");
     Box("CheckAnalogLight").setChecked(false);
@@ -116,7 +116,7 @@ TEST_F(AnalogPageTest, TheEmergencyStopZeroesBothSlidersAndSendsOneCommand) {
     EXPECT_EQ(TakeSent(), (Sent{{34, 5, 64}}));
     EXPECT_EQ(Slider("AnalogSpeed").value(), 0);
     EXPECT_EQ(Slider("DCCSpeed").value(), 0);
-    EXPECT_EQ(ReadOut(), QStringLiteral(">>0"));
+    EXPECT_EQ(ReadOut(), ">>0");
 }
 
 TEST_F(AnalogPageTest, TheEmergencyStopSendsAlsoAtStandstillAndKeepsTheDirection) {
@@ -125,7 +125,7 @@ TEST_F(AnalogPageTest, TheEmergencyStopSendsAlsoAtStandstillAndKeepsTheDirection
     TakeSent();
     Click("cmdEstopAnalog");
     EXPECT_EQ(TakeSent(), (Sent{{34, 0, 0}}));
-    EXPECT_EQ(ReadOut(), QStringLiteral("<<0"));
+    EXPECT_EQ(ReadOut(), "<<0");
 }
 
 TEST_F(AnalogPageTest, AValueOnItsWayIsNotSentAfterTheEmergencyStop) {
@@ -154,7 +154,7 @@ TEST_F(AnalogPageTest, WithThePortClosedTheSliderStaysWhereItWasLeft) {
     Slider("AnalogSpeed").setValue(12);
     EXPECT_EQ(messageBox.shown, kSelectPort);
     EXPECT_EQ(Slider("AnalogSpeed").value(), 12);
-    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+    EXPECT_EQ(ReadOut(), "---");
     EXPECT_TRUE(port.written.empty());
 }
 
@@ -178,12 +178,12 @@ TEST_F(AnalogPageTest, ShowsTheSpeedThatTheBlockReports) {
     SetText("txtTestBlock", "130");
     port.replies = {WireFrame({0x23, 2, 0x40 + 12})};
     Click("cmdReset");
-    EXPECT_EQ(ReadOut(), QStringLiteral(">>12"));
+    EXPECT_EQ(ReadOut(), ">>12");
     port.replies = {WireFrame({0x22, 2, 5}), WireFrame({0x23, 2, 63})};
     Click("cmdReset");
-    EXPECT_EQ(ReadOut(), QStringLiteral(">>12"));
+    EXPECT_EQ(ReadOut(), ">>12");
     Click("cmdReset");
-    EXPECT_EQ(ReadOut(), QStringLiteral("<<63"));
+    EXPECT_EQ(ReadOut(), "<<63");
 }
 
 TEST_F(AnalogPageTest, AnEmptyBlockTakesTheReportsOfBlock0Only) {
@@ -191,9 +191,9 @@ TEST_F(AnalogPageTest, AnEmptyBlockTakesTheReportsOfBlock0Only) {
     SetText("txtTestBlock", "");
     port.replies = {WireFrame({0x22, 1, 5}), WireFrame({0x22, 0, 6})};
     Click("cmdReset");
-    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+    EXPECT_EQ(ReadOut(), "---");
     Click("cmdReset");
-    EXPECT_EQ(ReadOut(), QStringLiteral("<<6"));
+    EXPECT_EQ(ReadOut(), "<<6");
 }
 
 TEST_F(AnalogPageTest, TellsItsTwoNumbersApart) {
@@ -209,9 +209,9 @@ TEST_F(AnalogPageTest, TellsItsTwoNumbersApart) {
 TEST_F(AnalogPageTest, AnotherBlockHasAnUnknownSpeed) {
     OpenPort();
     Slider("AnalogSpeed").setValue(12);
-    ASSERT_EQ(ReadOut(), QStringLiteral(">>12"));
-    Type("txtTestBlock", QStringLiteral("7"));
-    EXPECT_EQ(ReadOut(), QStringLiteral("---"));
+    ASSERT_EQ(ReadOut(), ">>12");
+    Type("txtTestBlock", "7");
+    EXPECT_EQ(ReadOut(), "---");
 }
 
 }  // namespace

@@ -116,9 +116,9 @@ TEST_F(DccPageTest, TheEmergencyStopZeroesBothSlidersAndSendsOneCommand) {
 TEST_F(DccPageTest, TheEmergencyStopLeavesTheSpeedOfTheBlockAsItStands) {
     OpenPort();
     Slider("AnalogSpeed").setValue(12);
-    ASSERT_EQ(TextOf("lblTestAnalogSpeed"), QStringLiteral(">>12"));
+    ASSERT_EQ(TextOf("lblTestAnalogSpeed"), ">>12");
     Click("cmdEstopDCC");
-    EXPECT_EQ(TextOf("lblTestAnalogSpeed"), QStringLiteral(">>12"));
+    EXPECT_EQ(TextOf("lblTestAnalogSpeed"), ">>12");
 }
 
 TEST_F(DccPageTest, AValueOnItsWayIsNotSentAfterTheEmergencyStop) {
@@ -165,7 +165,7 @@ TEST_F(DccPageTest, EveryFunctionBoxHasItsOwnBit) {
         for (int function = kFirst[group]; function < kFirst[group + 1]; ++function) {
             const std::string box = "Check_Pattern(" + std::to_string(function) + ")";
             Box(box.c_str()).setChecked(true);
-            Click(button.c_str());
+            Click(button);
             Box(box.c_str()).setChecked(false);
             DccFunctionSet functions;
             functions[static_cast<std::size_t>(function)] = true;
@@ -186,7 +186,7 @@ TEST_F(DccPageTest, FunctionsOfABlockAbove127OverflowAfterTheirFirstByte) {
         const std::string button = "Command1(" + std::to_string(group) + ")";
         port.written.clear();
         messageBox.shown.clear();
-        Click(button.c_str());
+        Click(button);
         EXPECT_EQ(messageBox.shown,
                   (std::vector<ShownBox>{{"Overflow", BoxIcon::Critical, BoxButtons::Ok}}))
             << button;
@@ -200,7 +200,7 @@ TEST_F(DccPageTest, TheCaptionsOfTheGroupButtonsArePaddedToOneWidth) {
                                     "Set F13..F20  ", "Set F21..F28  "};
     for (int i = 0; i < 5; ++i) {
         const std::string name = "Command1(" + std::to_string(i) + ")";
-        EXPECT_EQ(TextOf(name.c_str()), QString::fromUtf8(captions[i]));
+        EXPECT_EQ(TextOf(name), captions[i]);
     }
 }
 

@@ -24,17 +24,6 @@ inline QPoint PlaceOf(const QSlider& slider, int value) {
     return {x + handle / 2, slider.height() / 2};
 }
 
-/// Lets the event loop turn until a zero-delay timer that starts now has fired.
-inline void Settle() {
-    constexpr int kLimit = 5000;  // milliseconds
-    bool fired = false;
-    QTimer timer;
-    timer.setSingleShot(true);
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] { fired = true; });
-    timer.start(0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return fired; }, kLimit));
-}
-
 /// The main window with the controls of the TEST tab at hand.
 class DriveFixture : public WindowFixture {
   protected:

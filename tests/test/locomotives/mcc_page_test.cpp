@@ -114,12 +114,12 @@ TEST_F(MccPageTest, FunctionsSendOnlyThroughTheirButton) {
     OpenPort();
     for (int i = 0; i < 8; ++i) {
         const std::string box = "chkTestMCCfunction(" + std::to_string(i) + ")";
-        Click(box.c_str());
+        Click(box);
         EXPECT_EQ(TakeSent(), Sent{}) << box;
         Click("cmdTestMCCfunction");
         const int bit = 1 << (i % 4);
         EXPECT_EQ(TakeSent(), (Sent{{7, 1, 2, i < 4 ? bit : 0, i < 4 ? 0 : bit}})) << box;
-        Click(box.c_str());
+        Click(box);
     }
 }
 

@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "harness/driven_program.h"
 
-#include <cstring>
-#include <poll.h>
 #include <stdexcept>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include "probe/wire_text.h"
 
@@ -15,19 +10,27 @@ namespace zelvar::e2e {
 
 namespace {
 
-/// How long a program that is told to end may take before it is killed.
-constexpr Milliseconds kFarewell{2000};
+/// How long a program may take to end before it is killed.
+constexpr Milliseconds kExitGrace{2000};
 
-int ListenAt(const std::string& path) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
-    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (bind(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        listen(fd, 1) != 0) {
+QByteArray LineOf(const std::vector<std::string>& words) {
+    QStringList list;
+    for (const std::string& word : words) {
+        list << QString::fromStdString(word);
+    }
+    return ToLine(list);
+}
+
+std::string Quoted(const std::vector<std::string>& words) {
+    return LineOf(words).trimmed().toStdString();
+}
+
+/// @return the path
+std::string ListenAt(QLocalServer& server, const std::string& path) {
+    if (!server.listen(QString::fromStdString(path))) {
         throw std::runtime_error("no socket at " + path);
     }
-    return fd;
+    return path;
 }
 
 Variables Environment(const std::string& ports, const std::string& socket, Variables variables) {
@@ -47,40 +50,40 @@ std::ostream& operator<<(std::ostream& out, const BoxText& box) {
 
 DrivenProgram::DrivenProgram(const TempFolder& folder, const std::string& ports,
                              const std::string& name, const Variables& variables)
-    : listener_(ListenAt(folder.Path(name + ".sock"))),
-      process_({ZELVARCONFIG_PROGRAM}, Environment(ports, folder.Path(name + ".sock"), variables),
-               folder.Path(name + ".err"), folder.Path(".")) {
-    pollfd ready{listener_, POLLIN, 0};
-    const Instant start = Now();
+    : process_({ZELVARCONFIG_PROGRAM},
+               {Environment(ports, ListenAt(server_, folder.Path(name + ".sock")), variables),
+                folder.Path(".")}) {
     // A program that ends at once must not cost the whole limit.
-    while (poll(&ready, 1, static_cast<int>(kLook.count())) == 0) {
-        if (!process_.IsRunning() || Since(start) > kLimit) {
-            throw std::runtime_error("the program does not start: " + process_.Describe());
-        }
+    Until([this] { return server_.hasPendingConnections() || !process_.IsRunning(); });
+    probe_ = server_.nextPendingConnection();
+    if (probe_ == nullptr) {
+        throw std::runtime_error("the program does not start: " + process_.Describe());
     }
-    const int fd = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
-    channel_ = LineChannel(fd, fd);
     // The probe is there before the windows; it answers when the program has started.
     Ask({"boxes"});
 }
 
 DrivenProgram::~DrivenProgram() {
-    if (process_.IsRunning() && channel_.Send("quit")) {
-        process_.WaitForExit(kFarewell);
+    if (process_.IsRunning()) {
+        probe_->write(LineOf({"quit"}));
+        probe_->flush();
+        process_.WaitForExit(kExitGrace);
     }
     process_.Kill();
-    close(listener_);
 }
 
 std::vector<std::string> DrivenProgram::Ask(const std::vector<std::string>& words) {
-    channel_.Send(JoinWords(words));
-    const std::optional<std::string> line = channel_.Receive();
+    probe_->write(LineOf(words));
+    const std::optional<std::string> line = ReceiveLine(*probe_);
     if (!line) {
-        throw std::runtime_error("no answer to " + JoinWords(words) + ": " + process_.Describe());
+        throw std::runtime_error("no answer to " + Quoted(words) + ": " + process_.Describe());
     }
-    std::vector<std::string> answer = SplitWords(*line);
-    if (answer.front() != "ok") {
-        throw std::runtime_error(JoinWords(words) + ": " + *line);
+    std::vector<std::string> answer;
+    for (const QString& word : FromLine(QByteArray::fromStdString(*line))) {
+        answer.push_back(word.toStdString());
+    }
+    if (answer.empty() || answer.front() != "ok") {
+        throw std::runtime_error(Quoted(words) + ": " + *line);
     }
     answer.erase(answer.begin());
     return answer;
@@ -98,8 +101,9 @@ BoxText DrivenProgram::Box() {
                                    : BoxText{};
 }
 
-void DrivenProgram::Choose(const std::string& list, const std::string& entry) {
-    Ask({"choose", list, entry});
+void DrivenProgram::Press(const std::string& control, const std::string& button,
+                          const std::string& modifiers) {
+    Do("press", control, button, modifiers);
 }
 
 void DrivenProgram::Answer(const std::string& button) {
@@ -120,18 +124,16 @@ BoxText DrivenProgram::AwaitBox() {
     return box;
 }
 
-std::optional<std::string> DrivenProgram::WhyNot(const std::vector<std::string>& question,
-                                                 const std::string& answer, Milliseconds limit) {
+std::optional<std::string> DrivenProgram::Mismatch(const std::vector<std::string>& question,
+                                                   const std::string& answer) {
     std::string last;
-    if (Until(
-            [&] {
-                last = AskOne(question);
-                return last == answer;
-            },
-            limit)) {
+    if (Until([&] {
+            last = AskOne(question);
+            return last == answer;
+        })) {
         return std::nullopt;
     }
-    return JoinWords(question) + ": expected '" + answer + "', still '" + last + "'; " +
+    return Quoted(question) + ": expected '" + answer + "', found '" + last + "'; " +
            process_.Describe();
 }
 

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLocalServer>
+#include <QLocalSocket>
+
 #include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "harness/child_process.h"
-#include "harness/temp_folder.h"
 
 namespace zelvar::e2e {
 
@@ -24,9 +26,10 @@ struct BoxText {
 
 std::ostream& operator<<(std::ostream& out, const BoxText& box);
 
-/// The program, built as it ships, without a display. The probe in it is reached over
-/// a local socket. Every routine throws std::runtime_error, with the program's standard error in
-/// its text, when the program does not answer or cannot do what is asked.
+/// The program, built as it ships, without a display. A local socket leads to the probe in it.
+/// Every routine throws std::runtime_error, with the program's standard error in its text, when the
+/// program does not answer or cannot do what is asked. The hand has the words that it has in
+/// tests/support/window_fixture.h.
 class DrivenProgram {
   public:
     /// @param ports the devices of the ports 1, 2, 3 ..., separated by colons
@@ -42,20 +45,35 @@ class DrivenProgram {
     /// The same for a command that answers with one value.
     std::string AskOne(const std::vector<std::string>& words);
 
-    std::string Text(const std::string& control) { return AskOne({"text", control}); }
-    std::string Items(const std::string& list) { return AskOne({"items", list}); }
-    bool IsChecked(const std::string& control) { return AskOne({"checked", control}) == "yes"; }
+    std::string TextOf(const std::string& control) { return AskOne({"text", control}); }
+    /// The entries of a list with "|" between them.
+    std::string ItemsOf(const std::string& list) { return AskOne({"items", list}); }
+    int ValueOf(const std::string& slider) { return std::stoi(AskOne({"value", slider})); }
+    std::string ColourOf(const std::string& control, const std::string& role) {
+        return AskOne({"colour", control, role});
+    }
+    bool IsTicked(const std::string& control) { return AskOne({"checked", control}) == "yes"; }
     bool IsVisible(const std::string& control) { return AskOne({"visible", control}) == "yes"; }
     /// "visible", "hidden" or "absent".
     std::string Window(const std::string& name) { return AskOne({"window", name}); }
+    std::string TitleOf(const std::string& window) { return AskOne({"title", window}); }
     BoxText Box();
     /// Every message box shown so far.
     std::vector<std::string> BoxesShown() { return Ask({"boxes"}); }
 
-    void Click(const std::string& control) { Ask({"click", control}); }
-    void Choose(const std::string& list, const std::string& entry);
-    void Type(const std::string& field, const std::string& text) { Ask({"type", field, text}); }
-    void ToFront(const std::string& control) { Ask({"tab", control}); }
+    // The tab of the control comes to the front first.
+    void Click(const std::string& control) { Do("click", control); }
+    void DoubleClick(const std::string& control) { Do("doubleclick", control); }
+    /// Presses the mouse button and keeps it down. @param modifiers such as "shift+ctrl"
+    void Press(const std::string& control, const std::string& button, const std::string& modifiers);
+    /// Keys such as "Space" or "Ctrl+A, Delete".
+    void Key(const std::string& control, const std::string& keys) { Do("key", control, keys); }
+    void Choose(const std::string& list, const std::string& entry) { Do("choose", list, entry); }
+    /// Types a text over what a field shows.
+    void Type(const std::string& field, const std::string& text) { Do("type", field, text); }
+
+    void ShowTabOf(const std::string& control) { Ask({"tab", control}); }
+    void Close(const std::string& window) { Ask({"close", window}); }
     /// Answers the message box and waits until it is closed.
     void Answer(const std::string& button);
     /// Waits for a message box.
@@ -63,15 +81,21 @@ class DrivenProgram {
 
     /// Waits until the probe answers a question so.
     /// @return nothing when it did within the limit, else what it answers instead
-    std::optional<std::string> WhyNot(const std::vector<std::string>& question,
-                                      const std::string& answer, Milliseconds limit = kLimit);
+    std::optional<std::string> Mismatch(const std::vector<std::string>& question,
+                                        const std::string& answer);
 
     ChildProcess& Process() { return process_; }
 
   private:
-    int listener_;
+    template <typename... Details>
+    void Do(const std::string& action, const std::string& control, const Details&... details) {
+        ShowTabOf(control);
+        Ask({action, control, details...});
+    }
+
+    QLocalServer server_;
     ChildProcess process_;
-    LineChannel channel_;
+    QLocalSocket* probe_ = nullptr;
 };
 
 }  // namespace zelvar::e2e

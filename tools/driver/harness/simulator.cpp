@@ -22,29 +22,31 @@ std::string TracedFrame(const std::string& line) {
 }
 
 std::vector<std::string> CommandLine(const std::string& device,
-                                     const std::vector<std::string>& options) {
-    std::vector<std::string> words{
-        ZELVARSIM_PROGRAM, "--link",   device,
-        "--no-pacing",     "--layout", ZELVAR_TEST_LAYOUTS "/mixed.toml"};
+                                     const std::vector<std::string>& options,
+                                     Simulator::Line line) {
+    std::vector<std::string> words{ZELVARSIM_PROGRAM, "--link", device, "--layout",
+                                   ZELVAR_TEST_LAYOUTS "/mixed.toml"};
+    if (line == Simulator::Line::kImmediate) {
+        words.emplace_back("--no-pacing");
+    }
     words.insert(words.end(), options.begin(), options.end());
     return words;
 }
 
 }  // namespace
 
-Simulator::Simulator(const TempFolder& folder, const std::vector<std::string>& options)
-    : device_(folder.Path("unit")),
-      process_(CommandLine(device_, options), {}, folder.Path("simulator.err")) {
-    const std::optional<std::string> greeting = process_.Console().Receive();
+Simulator::Simulator(const TempFolder& folder, const std::vector<std::string>& options, Line line)
+    : device_(folder.Path("unit")), process_(CommandLine(device_, options, line)) {
+    const std::optional<std::string> greeting = process_.Receive();
     if (greeting != "ready " + device_) {
         throw std::runtime_error("the simulator does not start: " + process_.Describe());
     }
 }
 
 std::vector<std::string> Simulator::Do(const std::string& command) {
-    process_.Console().Send(command);
+    process_.Send(command);
     std::vector<std::string> lines;
-    while (const std::optional<std::string> line = process_.Console().Receive()) {
+    while (const std::optional<std::string> line = process_.Receive()) {
         if (const std::string frame = TracedFrame(*line); !frame.empty()) {
             trace_.push_back(frame);
             continue;

@@ -6,16 +6,19 @@
 #include <vector>
 
 #include "harness/child_process.h"
-#include "harness/temp_folder.h"
 
 namespace zelvar::e2e {
 
-/// The simulated central unit on a pseudo-terminal, without the time that a real line takes.
+/// The simulated central unit on a pseudo-terminal.
 class Simulator {
   public:
-    /// @param options command-line options, such as "--layout", "none": without, the modules are
+    /// Whether bytes take the time that they take on a real line.
+    enum class Line { kImmediate, kPaced };
+
+    /// @param options command-line options, such as "--layout", "none"; without one the modules are
     /// those of tests/layouts/mixed.toml
-    explicit Simulator(const TempFolder& folder, const std::vector<std::string>& options = {});
+    explicit Simulator(const TempFolder& folder, const std::vector<std::string>& options = {},
+                       Line line = Line::kImmediate);
 
     /// The device that the program can open.
     const std::string& Device() const { return device_; }
@@ -24,9 +27,9 @@ class Simulator {
     /// @throws std::runtime_error when the answer is an error or none comes
     std::vector<std::string> Do(const std::string& command);
 
-    /// What the unit says of itself under a name; empty when it says nothing.
+    /// The value of a name in the unit's dump; empty when it is not there.
     std::string Value(const std::string& name);
-    /// The same as a number; 0 when it says nothing.
+    /// The same as a number; 0 when it is not there.
     int Count(const std::string& name);
 
     /// The frames since tracing was turned on, such as "rx 28 D8", oldest first.

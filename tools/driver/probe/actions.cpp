@@ -82,15 +82,16 @@ Action Choose(Input& input, const QStringList& words) {
     return [&input, &list, row] { input.Choose(list, row); };
 }
 
-/// Brings every tab that a control lies on to the front, the outermost first.
+/// Brings every tab that a control lies on to the front, the outermost first, unless it is there.
 Action Tab(Input& input, const QStringList& words) {
     std::vector<std::pair<QTabBar*, int>> tabs;
     for (QWidget* page = &FindControl(words[1]); page->parentWidget() != nullptr;
          page = page->parentWidget()) {
         QWidget* stack = page->parentWidget();
         auto* owner = qobject_cast<QTabWidget*>(stack->parentWidget());
-        if (owner != nullptr && owner->indexOf(page) >= 0) {
-            tabs.insert(tabs.begin(), {owner->tabBar(), owner->indexOf(page)});
+        const int index = owner == nullptr ? -1 : owner->indexOf(page);
+        if (index >= 0 && index != owner->currentIndex()) {
+            tabs.insert(tabs.begin(), {owner->tabBar(), index});
         }
     }
     return [&input, tabs] {

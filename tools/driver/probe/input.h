@@ -32,7 +32,7 @@ class Input {
     void Choose(QComboBox& list, int row);
     /// Something is being done and has not had its effect yet.
     bool IsUnderWay() const { return severalSteps_ || (handingOver_ && !arrived_); }
-    /// To be told of every event before it gets where it goes.
+    /// To be called with every event before it reaches its receiver.
     void Notice(const QObject* watched, const QEvent* event);
     /// Brings a tab to the front by its tab.
     void ClickAt(QWidget& control, QPoint place);

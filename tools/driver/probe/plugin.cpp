@@ -6,7 +6,7 @@
 
 namespace zelvar::e2e {
 
-/// Puts the probe into an unmodified program that is told to load it.
+/// Puts the probe into an unmodified program whose environment names it.
 class ProbePlugin : public QGenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "zelvarprobe.json")

@@ -4,17 +4,12 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QSocketNotifier>
 #include <QStyleHints>
 #include <QThread>
 #include <QTimer>
 
-#include <array>
-#include <cstring>
+#include <cstdlib>
 #include <optional>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 #include <utility>
 
 #include "actions.h"
@@ -27,35 +22,19 @@ namespace zelvar::e2e {
 
 namespace {
 
-constexpr std::size_t kReadChunk = 4096;
 constexpr int kRetryMs = 5;
-
-int ConnectTo(const char* path) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (path == nullptr || std::strlen(path) >= sizeof address.sun_path) {
-        return -1;
-    }
-    std::strncpy(address.sun_path, path, sizeof address.sun_path - 1);
-    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
-        close(fd);
-        return -1;
-    }
-    return fd;
-}
 
 }  // namespace
 
-Probe::Probe()
-    : socket_(ConnectTo(std::getenv("ZELVARPROBE_SOCKET"))),
-      input_([this](std::function<void()> task) { Schedule(std::move(task), true); }) {
-    if (socket_ < 0) {
+Probe::Probe() : input_([this](std::function<void()> task) { Schedule(std::move(task), true); }) {
+    socket_.connectToServer(qEnvironmentVariable("ZELVARPROBE_SOCKET"));
+    if (!socket_.waitForConnected()) {
         qWarning("the probe finds no test to talk to");
         return;
     }
-    auto* notifier = new QSocketNotifier(socket_, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this] { ReadSocket(); });
+    connect(&socket_, &QLocalSocket::readyRead, this, [this] { ReadSocket(); });
+    // Without its test the program has no purpose.
+    connect(&socket_, &QLocalSocket::disconnected, this, [] { std::_Exit(1); });
     QCoreApplication::instance()->installEventFilter(this);
     // A blinking cursor would be in one picture and not in the next.
     QGuiApplication::styleHints()->setCursorFlashTime(0);
@@ -65,9 +44,8 @@ Probe::Probe()
 }
 
 Probe::~Probe() {
-    if (socket_ >= 0) {
-        close(socket_);
-    }
+    // The program ends by itself, with a status of its own.
+    socket_.blockSignals(true);
 }
 
 bool Probe::eventFilter(QObject* watched, QEvent* event) {
@@ -81,17 +59,8 @@ bool Probe::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Probe::ReadSocket() {
-    std::array<char, kReadChunk> chunk{};
-    const ssize_t count = read(socket_, chunk.data(), chunk.size());
-    if (count <= 0) {
-        // The test is gone; nobody needs this program any more.
-        std::_Exit(1);
-    }
-    received_.append(chunk.data(), static_cast<std::size_t>(count));
-    for (std::size_t end = received_.find('\n'); end != std::string::npos;
-         end = received_.find('\n')) {
-        Schedule([this, line = received_.substr(0, end)] { Serve(line); });
-        received_.erase(0, end + 1);
+    while (socket_.canReadLine()) {
+        Schedule([this, words = FromLine(socket_.readLine())] { Serve(words); });
     }
 }
 
@@ -121,11 +90,7 @@ void Probe::RunNext() {
     }
 }
 
-void Probe::Serve(const std::string& line) {
-    QStringList words;
-    for (const std::string& word : SplitWords(line)) {
-        words << QString::fromStdString(word);
-    }
+void Probe::Serve(const QStringList& words) {
     try {
         if (words[0] == QLatin1String("boxes")) {
             Answer(QStringList(QStringLiteral("ok")) + boxesShown_);
@@ -142,20 +107,10 @@ void Probe::Serve(const std::string& line) {
     }
 }
 
-void Probe::Answer(const QStringList& words) const {
-    std::vector<std::string> answer;
-    for (const QString& word : words) {
-        answer.push_back(word.toStdString());
-    }
-    const std::string line = JoinWords(answer) + '\n';
-    std::size_t sent = 0;
-    while (sent < line.size()) {
-        const ssize_t count = send(socket_, line.data() + sent, line.size() - sent, MSG_NOSIGNAL);
-        if (count <= 0) {
-            return;
-        }
-        sent += static_cast<std::size_t>(count);
-    }
+void Probe::Answer(const QStringList& words) {
+    socket_.write(ToLine(words));
+    // What follows may keep the event loop waiting.
+    socket_.flush();
 }
 
 }  // namespace zelvar::e2e

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLocalSocket>
 #include <QObject>
 #include <QStringList>
 
 #include <deque>
 #include <functional>
-#include <string>
 
 #include "box_record.h"
 #include "input.h"
@@ -33,14 +33,13 @@ class Probe : public QObject {
 
   private:
     void ReadSocket();
-    void Serve(const std::string& line);
-    void Answer(const QStringList& words) const;
+    void Serve(const QStringList& words);
+    void Answer(const QStringList& words);
     void Schedule(std::function<void()> task, bool first = false);
     bool CanServe() const;
     void RunNext();
 
-    int socket_ = -1;
-    std::string received_;
+    QLocalSocket socket_;
     std::deque<std::function<void()>> tasks_;
     Input input_;
     QStringList boxesShown_;

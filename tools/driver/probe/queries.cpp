@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontInfo>
+#include <QImage>
 #include <QMetaEnum>
+#include <QPainter>
 #include <QPalette>
 #include <QPixmap>
 #include <QStyle>
@@ -127,12 +129,26 @@ QStringList Picture(const QStringList& words) {
     return {};
 }
 
+/// A checksum over painted letters, which other versions of the system's libraries paint
+/// differently.
+quint16 LettersPainted() {
+    constexpr QSize kSize(300, 30);
+    QImage sample(kSize, QImage::Format_RGB32);
+    sample.fill(Qt::white);
+    QPainter painter(&sample);
+    painter.setFont(QApplication::font());
+    painter.drawText(sample.rect(), Qt::AlignCenter, QStringLiteral("Zelvar gjpqy 0123456789 @&%"));
+    painter.end();
+    return qChecksum(QByteArrayView(sample.constBits(), sample.sizeInBytes()));
+}
+
 /// What the looks of a picture depend on beside the program.
 QStringList Looks(const QStringList&) {
     const QFontInfo font{QApplication::font()};
-    return {QStringLiteral("Qt %1, %2 style, %3 %4 pt")
+    return {QStringLiteral("Qt %1, %2 style, %3 %4 pt, letters %5")
                 .arg(QString::fromLatin1(qVersion()), QApplication::style()->name(), font.family())
-                .arg(font.pointSize())};
+                .arg(font.pointSize())
+                .arg(LettersPainted(), 4, 16, QLatin1Char('0'))};
 }
 
 struct Query {

@@ -2,54 +2,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-#include <string_view>
-#include <vector>
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStringList>
 
-// What the probe and the tests write to each other: lines of words with tabs between them.
+// What the probe and the tests write to each other: lines with a JSON array of words each.
 namespace zelvar::e2e {
 
-inline std::string EscapeWord(std::string_view word) {
-    std::string escaped;
-    for (const char c : word) {
-        switch (c) {
-            case '\\':
-                escaped += "\\\\";
-                break;
-            case '\n':
-                escaped += "\\n";
-                break;
-            case '\t':
-                escaped += "\\t";
-                break;
-            default:
-                escaped += c;
-        }
-    }
-    return escaped;
+inline QByteArray ToLine(const QStringList& words) {
+    return QJsonDocument(QJsonArray::fromStringList(words)).toJson(QJsonDocument::Compact) + '\n';
 }
 
-inline std::string JoinWords(const std::vector<std::string>& words) {
-    std::string line;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        line += (i == 0 ? "" : "\t") + EscapeWord(words[i]);
-    }
-    return line;
-}
-
-inline std::vector<std::string> SplitWords(std::string_view line) {
-    std::vector<std::string> words(1);
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == '\t') {
-            words.emplace_back();
-        } else if (line[i] == '\\' && i + 1 < line.size()) {
-            ++i;
-            words.back() += line[i] == 'n' ? '\n' : line[i] == 't' ? '\t' : line[i];
-        } else {
-            words.back() += line[i];
-        }
-    }
-    return words;
+inline QStringList FromLine(const QByteArray& line) {
+    return QJsonDocument::fromJson(line).toVariant().toStringList();
 }
 
 }  // namespace zelvar::e2e
