@@ -102,7 +102,7 @@ Please remove the folder: sudo rm -rf $PWD/build"
 
 # What building the programs takes.
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev 'qt6-serialport-dev|libqt6serialport6-dev'
-    libedit-dev libtomlplusplus-dev)
+    libedit-dev libtomlplusplus-dev libcli11-dev)
 # What a window takes to show: the X11 platform plugin comes with Qt, fonts do not.
 RUN_PACKAGES=(fonts-dejavu-core)
 

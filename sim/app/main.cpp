@@ -14,13 +14,11 @@
 
 namespace {
 
-constexpr int kWrongUsage = 2;
-
 int Explain(const std::string& path) {
     std::ifstream file;
     if (path != "-") {
         file.open(path);
-        // A folder opens, but cannot be read.
+        // A folder can be opened, but not read.
         if (!file || file.peek() == std::ifstream::traits_type::eof()) {
             if (!file.eof()) {
                 std::cerr << "zelvarsim: cannot read " << path << '\n';
@@ -32,7 +30,7 @@ int Explain(const std::string& path) {
         zelvar::sim::ExplainLog(path == "-" ? std::cin : file, std::cout);
     if (count.unknown > 0) {
         std::cerr << "zelvarsim: " << count.unknown << " of " << count.lines
-                  << " lines not understood, marked with ?\n";
+                  << " lines not recognised, marked with ?\n";
     }
     return 0;
 }
@@ -42,19 +40,11 @@ int Explain(const std::string& path) {
 int main(int argc, char** argv) {
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     auto parsed = zelvar::sim::ParseOptions(arguments);
-    if (const auto* message = std::get_if<std::string>(&parsed)) {
-        std::cerr << "zelvarsim: " << *message << "\nTry \"zelvarsim --help\".\n";
-        return kWrongUsage;
+    if (const auto* end = std::get_if<zelvar::sim::EarlyEnd>(&parsed)) {
+        (end->status == 0 ? std::cout : std::cerr) << end->text;
+        return end->status;
     }
     auto& options = std::get<zelvar::sim::Options>(parsed);
-    if (options.help) {
-        std::cout << zelvar::sim::UsageText();
-        return 0;
-    }
-    if (options.version) {
-        std::cout << "zelvarsim " ZELVAR_SIM_VERSION "\n";
-        return 0;
-    }
     if (!options.explain.empty()) {
         return Explain(options.explain);
     }
@@ -66,7 +56,7 @@ int main(int argc, char** argv) {
     auto layout = zelvar::sim::ChooseLayout(options.layoutName, folder);
     if (const auto* message = std::get_if<std::string>(&layout)) {
         std::cerr << *message << '\n';
-        return kWrongUsage;
+        return zelvar::sim::kWrongUsage;
     }
     options.layout = std::get<zelvar::sim::Layout>(layout);
     return zelvar::sim::Server(options).Run();

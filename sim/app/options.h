@@ -21,24 +21,29 @@ struct Options {
     bool pacing = true;
     int baud = 19200;
     std::string layoutName = "club";
-    Layout layout;  // what the name stands for; reading it is not left to ParseOptions
+    Layout layout;  // the one of that name; ParseOptions does not read it
     std::chrono::milliseconds unitDelay{1};
     int timeFactor = kUsualTimeFactor;
     int seed = 0;
     bool trace = false;
     std::string explain;  // a log to explain instead of serving; "-": standard input
     bool listLayouts = false;
-    bool help = false;
-    bool version = false;
 };
 
-/// The options, or the message that says what is wrong with them.
-std::variant<Options, std::string> ParseOptions(std::span<const std::string_view> arguments);
+/// The program ends before it starts: help or version (status 0), or a wrong command line.
+struct EarlyEnd {
+    int status = 0;
+    std::string text;
+};
+
+inline constexpr int kWrongUsage = 2;
+
+std::variant<Options, EarlyEnd> ParseOptions(std::span<const std::string_view> arguments);
 
 /// The text of `--help`.
 std::string UsageText();
 
-/// "--link" and all the others.
-std::vector<std::string> OptionNames();
+/// "--link PATH" and all the others.
+std::vector<std::string> OptionForms();
 
 }  // namespace zelvar::sim

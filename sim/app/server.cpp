@@ -20,7 +20,7 @@ namespace zelvar::sim {
 namespace {
 
 constexpr std::size_t kConsoleChunk = 1024;
-constexpr std::size_t kLongestLine = 65'536;  // what is longer is no command
+constexpr std::size_t kLongestLine = 65'536;  // anything longer is no command
 
 volatile std::sig_atomic_t endRequested = 0;
 volatile std::sig_atomic_t terminalChanged = 0;
@@ -44,7 +44,7 @@ constexpr Caught kSignals[] = {{SIGTERM, &RequestEnd},
                                {SIGWINCH, &NoteTerminal},
                                {SIGCONT, &NoteTerminal}};
 
-/// Signals end the wait, and nothing but the wait: they stay blocked everywhere else.
+/// Blocks the signals everywhere but in the wait, which they end.
 sigset_t CatchSignals() {
     sigset_t blocked;
     sigset_t original;
@@ -111,13 +111,16 @@ bool Server::OpenLine() {
 }
 
 int Server::Run() {
-    // Before the link is there, so that no signal can end the program and leave it behind.
+    // Before the link is made, so that no signal can end the program and leave the link behind.
     const sigset_t whileWaiting = CatchSignals();
     if (!OpenLine()) {
         return 1;
     }
-    SetTrace(options_.trace);
+    if (options_.trace) {
+        StartTrace(Trace::Polls::kAll);
+    }
     if (isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0) {
+        PrintWelcome();
         const auto complete = [this](std::string_view line) {
             return CompleteLine(unit_.state(), line);
         };
@@ -151,7 +154,7 @@ int Server::Run() {
         if (ready < 0) {
             continue;  // a signal; nothing else can fail here
         }
-        // The console first: what it asks for holds from the next frame on.
+        // The console first: its commands apply from the next frame on.
         if (consoleOpen_ && FD_ISSET(STDIN_FILENO, &readable)) {
             ServeConsole();
         }
@@ -171,7 +174,7 @@ int Server::Run() {
 void Server::ServeLine() {
     const std::optional<std::vector<std::uint8_t>> bytes = line_.Read();
     if (!bytes) {
-        // Only a device can go; a pseudo-terminal is held open from here.
+        // Only a device can vanish; the server itself holds a pseudo-terminal open.
         std::cerr << "zelvarsim: the device is gone" << std::endl;
         exitCode_ = 1;
         done_ = true;
@@ -180,7 +183,7 @@ void Server::ServeLine() {
     if (bytes->empty()) {
         return;
     }
-    // A device's own line takes its time; only a pseudo-terminal has to be slowed down.
+    // A real line takes its own time; only a pseudo-terminal has to be slowed down.
     const int baud = line_.Baud();
     const bool paced = options_.pacing && line_.IsPseudoTerminal();
     engine_.SetBaud(paced ? (baud > 0 ? baud : options_.baud) : 0);
@@ -188,6 +191,14 @@ void Server::ServeLine() {
 }
 
 void Server::ServeConsole() {
+    if (editor_) {
+        const auto run = [this](const std::string& line) { RunLine(line); };
+        if (editor_->ReadKeys(run) == LineEditor::Outcome::kEnded) {
+            consoleOpen_ = false;
+            done_ = true;
+        }
+        return;
+    }
     std::array<char, kConsoleChunk> chunk{};
     const ssize_t count = read(STDIN_FILENO, chunk.data(), chunk.size());
     if (count < 0 && (errno == EINTR || errno == EAGAIN)) {
@@ -195,16 +206,10 @@ void Server::ServeConsole() {
     }
     if (count <= 0) {
         consoleOpen_ = false;
-        done_ = editor_ || isatty(STDIN_FILENO) != 0;
+        done_ = isatty(STDIN_FILENO) != 0;
         return;
     }
-    const std::string_view bytes(chunk.data(), static_cast<std::size_t>(count));
-    if (editor_) {
-        const auto run = [this](const std::string& line) { RunLine(line); };
-        done_ = editor_->Feed(bytes, run) == LineEditor::Outcome::kGone || done_;
-        return;
-    }
-    input_.append(bytes);
+    input_.append(chunk.begin(), chunk.begin() + count);
     for (std::size_t end = input_.find('\n'); end != std::string::npos; end = input_.find('\n')) {
         const std::string line = input_.substr(0, end);
         input_.erase(0, end + 1);
@@ -229,10 +234,13 @@ void Server::Act(ConsoleAction action) {
         case ConsoleAction::kNone:
             break;
         case ConsoleAction::kTraceOn:
-            SetTrace(true);
+            StartTrace(Trace::Polls::kWithoutEmpty);
+            break;
+        case ConsoleAction::kTraceAll:
+            StartTrace(Trace::Polls::kAll);
             break;
         case ConsoleAction::kTraceOff:
-            SetTrace(false);
+            engine_.SetTrace(nullptr);
             break;
         case ConsoleAction::kHangUp:
             line_.Close();
@@ -248,15 +256,20 @@ void Server::Act(ConsoleAction action) {
     }
 }
 
-void Server::SetTrace(bool on) {
-    if (!on) {
-        engine_.SetTrace(nullptr);
-        return;
+void Server::StartTrace(Trace::Polls polls) {
+    engine_.SetTrace(
+        [this, trace = Trace(polls)](bool sent, std::span<const std::uint8_t> bytes) mutable {
+            if (const std::string lines = trace.Frame(TimeOfDay(), sent, bytes); !lines.empty()) {
+                Print(lines);
+            }
+        });
+}
+
+void Server::PrintWelcome() {
+    if (line_.IsPseudoTerminal()) {
+        Print("In another terminal: ZELVARCONFIG_PORTS=" + line_.path() + " zelvarconfig\n");
     }
-    engine_.SetTrace([this](bool sent, std::span<const std::uint8_t> bytes) {
-        const std::string meaning = sent ? explainer_.Reply(bytes) : explainer_.Command(bytes);
-        Print(TraceLine(TimeOfDay(), sent, bytes, meaning) + "\n");
-    });
+    Print("\"help\" lists the commands, \"quit\" ends.\n");
 }
 
 void Server::Print(const std::string& text) {

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "sim/app/options.h"
+#include "sim/app/trace.h"
 #include "sim/console/console.h"
 #include "sim/console/line_editor.h"
-#include "sim/explain/explain.h"
 #include "sim/line/faults.h"
 #include "sim/line/line_engine.h"
 #include "sim/line/serial_line.h"
@@ -30,7 +30,9 @@ class Server {
     void ServeConsole();
     void RunLine(const std::string& line);
     void Act(ConsoleAction action);
-    void SetTrace(bool on);
+    void StartTrace(Trace::Polls polls);
+    /// How to go on from here, for a user at a terminal.
+    void PrintWelcome();
     /// Text that ends with a line feed.
     void Print(const std::string& text);
 
@@ -39,8 +41,7 @@ class Server {
     Faults faults_;
     LineEngine engine_;
     SerialLine line_;
-    Explainer explainer_;
-    std::unique_ptr<LineEditor> editor_;  // only with a person at a terminal
+    std::unique_ptr<LineEditor> editor_;  // only for a user at a terminal
     std::string input_;                   // of the console, up to the next line feed
     bool consoleOpen_ = true;
     bool done_ = false;

@@ -2,111 +2,127 @@
 // SPDX-License-Identifier: MIT
 #include "sim/console/console.h"
 
-#include <charconv>
-#include <sstream>
+#include <variant>
 
 namespace zelvar::sim {
 
 namespace {
 
-constexpr int kDecimal = 10;
-constexpr int kHexadecimal = 16;
+struct Alias {
+    std::string_view alias;
+    std::string_view name;
+};
+
+constexpr Alias kAliases[] = {{"?", "help"}, {"exit", "quit"}};
+
+ConsoleResult UnknownCommand(const std::string& name) {
+    const auto nearest = NearestWord(name, ConsoleCommandNames());
+    return Error("unknown command " + name +
+                 (nearest ? "; did you mean " + *nearest + "?" : "; \"help\" lists them"));
+}
+
+/// Of the forms that do not fit, those that come nearest say what was expected.
+class NearestMisfit {
+  public:
+    void Add(const ConsoleCommand& form, const Misfit& misfit) {
+        if (misfit.place > misfit_.place) {
+            misfit_ = misfit;
+            usage_ = CommandForm(form);
+        } else if (misfit.place == misfit_.place) {
+            misfit_.expected.insert(misfit_.expected.end(), misfit.expected.begin(),
+                                    misfit.expected.end());
+            misfit_.found = misfit.found;
+            misfit_.message = misfit.message;
+            usage_.append(usage_.empty() ? "" : " or ").append(CommandForm(form));
+        }
+    }
+    ConsoleResult Answer() const {
+        if (!misfit_.message.empty()) {
+            return Error(misfit_.message);
+        }
+        if (!misfit_.expected.empty()) {
+            return Error("expected " + JoinedWith(misfit_.expected, "or") + ", found " +
+                         misfit_.found);
+        }
+        return Error("usage: " + usage_);
+    }
+
+  private:
+    Misfit misfit_;
+    std::string usage_;
+};
 
 }  // namespace
 
-std::vector<std::string> SplitWords(std::string_view line) {
-    std::istringstream in{std::string(line)};
-    std::vector<std::string> words;
-    for (std::string word; in >> word;) {
-        words.push_back(word);
-    }
-    return words;
-}
-
-std::optional<int> ParseNumber(std::string_view text, int least, int most) {
-    int base = kDecimal;
-    if (text.starts_with("0x") || text.starts_with("0X")) {
-        text.remove_prefix(2);
-        base = kHexadecimal;
-        if (text.starts_with('-')) {
-            return std::nullopt;
-        }
-    }
-    int number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, number, base);
-    if (error != std::errc() || rest != end || number < least || number > most) {
-        return std::nullopt;
-    }
-    return number;
-}
-
-std::optional<bool> ParseSwitch(std::string_view text) {
-    if (text == "on") {
-        return true;
-    }
-    return text == "off" ? std::optional(false) : std::nullopt;
-}
-
-ConsoleResult Ok(std::string_view details) {
-    std::string text("ok");
-    if (!details.empty()) {
-        text.append(" ").append(details);
-    }
-    return {text, ConsoleAction::kNone};
-}
-
 ConsoleResult Error(std::string_view reason) {
-    return {std::string("error ").append(reason), ConsoleAction::kNone};
-}
-
-ConsoleResult RangeError(std::string_view what, int least, int most) {
-    return Error(std::string(what) + " must be " + std::to_string(least) + ".." +
-                 std::to_string(most));
+    return {"error " + std::string(reason), ConsoleAction::kNone};
 }
 
 std::string CommandForm(const ConsoleCommand& command) {
-    std::string form(command.name);
-    if (!command.usage.empty()) {
-        form.append(" ").append(command.usage);
-    }
-    return form;
+    const std::string usage = Usage(command.arguments);
+    return std::string(command.name) + (usage.empty() ? "" : " " + usage);
 }
 
-std::span<const std::span<const ConsoleCommand>> ConsoleTables() {
-    static const std::span<const ConsoleCommand> kTables[] = {
-        LayoutConsoleCommands(), RailwayConsoleCommands(), FaultConsoleCommands(),
-        ProgramConsoleCommands()};
-    return kTables;
+std::string CommandHelp(const ConsoleCommand& command) {
+    const std::string ranges = Ranges(command.arguments);
+    return std::string(command.help) + (ranges.empty() ? "" : " " + ranges + ".");
 }
 
-const ConsoleCommand* FindConsoleCommand(std::string_view name) {
-    for (const std::span<const ConsoleCommand> table : ConsoleTables()) {
-        for (const ConsoleCommand& command : table) {
-            if (command.name == name) {
-                return &command;
+std::span<const ConsoleGroup> ConsoleGroups() {
+    static const ConsoleGroup kGroups[] = {LayoutConsoleCommands(), RailwayConsoleCommands(),
+                                           FaultConsoleCommands(), ProgramConsoleCommands()};
+    return kGroups;
+}
+
+std::vector<std::string> ConsoleCommandNames() {
+    std::vector<std::string> names;
+    for (const ConsoleGroup& group : ConsoleGroups()) {
+        for (const ConsoleCommand& command : group.commands) {
+            // The forms of a command are next to each other.
+            if (names.empty() || names.back() != command.name) {
+                names.emplace_back(command.name);
             }
         }
     }
-    return nullptr;
+    return names;
+}
+
+std::vector<const ConsoleCommand*> ConsoleFormsOf(std::string_view name) {
+    for (const Alias& alias : kAliases) {
+        name = name == alias.alias ? alias.name : name;
+    }
+    std::vector<const ConsoleCommand*> forms;
+    for (const ConsoleGroup& group : ConsoleGroups()) {
+        for (const ConsoleCommand& command : group.commands) {
+            if (command.name == name) {
+                forms.push_back(&command);
+            }
+        }
+    }
+    return forms;
 }
 
 ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line) {
     const std::vector<std::string> words = SplitWords(line);
     if (words.empty()) {
-        return {};
+        return {"", ConsoleAction::kNone};
     }
-    const ConsoleCommand* command = FindConsoleCommand(words.front());
-    if (command == nullptr) {
-        return Error(std::string("unknown command ").append(words.front()));
+    const std::vector<const ConsoleCommand*> forms = ConsoleFormsOf(words.front());
+    if (forms.empty()) {
+        return UnknownCommand(words.front());
     }
-    const ConsoleArguments arguments = ConsoleArguments(words).subspan(1);
-    if (arguments.size() < command->leastArguments || arguments.size() > command->mostArguments) {
-        return Error(std::string("usage: ").append(CommandForm(*command)));
+    NearestMisfit nearest;
+    for (const ConsoleCommand* form : forms) {
+        const auto parsed = ParseArguments(context.unit.state(), form->arguments,
+                                           std::span<const std::string>(words).subspan(1));
+        if (const Values* values = std::get_if<Values>(&parsed)) {
+            // A change takes effect now, not at the time of the last frame.
+            context.unit.Advance(context.now);
+            return form->run(context, *values);
+        }
+        nearest.Add(*form, std::get<Misfit>(parsed));
     }
-    // What it changes holds from now on, not since somebody last looked.
-    context.unit.Advance(context.now);
-    return command->run(context, arguments);
+    return nearest.Answer();
 }
 
 }  // namespace zelvar::sim

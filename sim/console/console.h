@@ -2,25 +2,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
-#include <limits>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "sim/console/argument.h"
 #include "sim/line/faults.h"
 #include "sim/unit/central_unit.h"
 
 namespace zelvar::sim {
 
 /// What the program around the console has to do after a command.
-enum class ConsoleAction { kNone, kTraceOn, kTraceOff, kHangUp, kReconnect, kQuit };
+enum class ConsoleAction { kNone, kTraceOn, kTraceAll, kTraceOff, kHangUp, kReconnect, kQuit };
 
 /// The answer, without the line feed at its end, and what is left to do.
 struct ConsoleResult {
-    std::string text;
+    std::string text = "ok";
     ConsoleAction action = ConsoleAction::kNone;
 };
 
@@ -33,55 +31,47 @@ struct ConsoleContext {
     int lineBaud = 0;
 };
 
-using ConsoleArguments = std::span<const std::string>;
-
-/// One console command; `usage` names its arguments: words in small letters are typed as they
-/// stand, `a|b` is a choice, `[x]` may be missing, and placeholders are in capitals. Adding a
-/// command is adding a row to a table.
+/// One console command, or one form of it: rows with the same name are forms with different
+/// arguments. Adding a command is adding a row to a group.
 struct ConsoleCommand {
     std::string_view name;
-    std::string_view usage;
-    std::size_t leastArguments;
-    std::size_t mostArguments;
-    ConsoleResult (*run)(ConsoleContext&, ConsoleArguments);
-    std::string_view help;     // one sentence
-    std::string_view example;  // a line that is right
+    ArgumentList arguments;
+    ConsoleResult (*run)(ConsoleContext&, const Values&);
+    std::string_view help;     // a sentence
+    std::string_view example;  // a line that works with the club layout
 };
 
-inline constexpr std::size_t kAnyNumberOfArguments = std::numeric_limits<std::size_t>::max();
+/// Commands that `help` lists together.
+struct ConsoleGroup {
+    std::string_view title;
+    std::span<const ConsoleCommand> commands;
+};
 
 /// Reports and states: `overcurrent`, `speed`, `feedback`, `fault` and the like.
-std::span<const ConsoleCommand> LayoutConsoleCommands();
+ConsoleGroup LayoutConsoleCommands();
 /// The trains, their points and their time: `place` and the like.
-std::span<const ConsoleCommand> RailwayConsoleCommands();
-/// Misbehaviour: `silent`, `late`, `stray` and the like.
-std::span<const ConsoleCommand> FaultConsoleCommands();
+ConsoleGroup RailwayConsoleCommands();
+/// Faults of the line: `silent`, `late`, `stray` and the like.
+ConsoleGroup FaultConsoleCommands();
 /// The program itself: `trace`, `state`, `hang-up`, `quit` and the like.
-std::span<const ConsoleCommand> ProgramConsoleCommands();
+ConsoleGroup ProgramConsoleCommands();
 
-/// Every command of every table, in the order of `help`.
-std::span<const std::span<const ConsoleCommand>> ConsoleTables();
-/// Null when there is no such command.
-const ConsoleCommand* FindConsoleCommand(std::string_view name);
+/// Every group, in the order of `help`.
+std::span<const ConsoleGroup> ConsoleGroups();
+/// Every command once, in the order of `help`.
+std::vector<std::string> ConsoleCommandNames();
+/// The forms of a command, also by its other name (`?`, `exit`); none if it is unknown.
+std::vector<const ConsoleCommand*> ConsoleFormsOf(std::string_view name);
 
-/// Carries out one line of input. The answer is one line starting with "ok" or "error"; `state`,
-/// `dump` and `help` put more lines before it. A blank line has an empty answer.
+/// Carries out one line of input. The answer is one line that starts with "ok" or "error"; `state`,
+/// `dump` and `help` put more lines before it. An empty line has an empty answer.
 ConsoleResult RunConsoleLine(ConsoleContext& context, std::string_view line);
 
-/// The words between blanks.
-std::vector<std::string> SplitWords(std::string_view line);
-
-/// A whole number within the limits, in decimal or, with 0x before it, in hexadecimal.
-std::optional<int> ParseNumber(std::string_view text, int least, int most);
-/// "on" and "off".
-std::optional<bool> ParseSwitch(std::string_view text);
-
-/// A command with its arguments, as `help` lists it.
+/// "speed B S forward|reverse"
 std::string CommandForm(const ConsoleCommand& command);
+/// What it does, and the ranges of its arguments.
+std::string CommandHelp(const ConsoleCommand& command);
 
-ConsoleResult Ok(std::string_view details = {});
 ConsoleResult Error(std::string_view reason);
-/// The error for a number that is none or out of its range.
-ConsoleResult RangeError(std::string_view what, int least, int most);
 
 }  // namespace zelvar::sim

@@ -10,21 +10,20 @@
 
 namespace zelvar::sim {
 
-/// What a line can go on with at its end.
+/// How the end of a line can go on.
 struct Completion {
-    std::string begun;               // the word or name at the end, as far as it is there
+    std::string begun;               // the word or name at the end, as far as it is typed
     std::vector<std::string> words;  // what it can become
 };
 
-/// Commands, then what their usage says: the words of a choice, and names for the placeholders that
-/// have any. Names can have blanks. All in order, numbers by their size.
+/// Commands, then what their arguments offer. Names can have spaces.
 Completion CompleteLine(const UnitState& state, std::string_view line);
 
 /// What all words begin with.
 std::string CommonBeginning(const std::vector<std::string>& words);
 
-/// A list in as few lines as a terminal of `columns` characters has room for, each ended by a line
-/// feed; in order down the columns.
+/// A list in as few lines as possible on a terminal of `columns` characters, in order down the
+/// columns. Every line ends with a line feed.
 std::string InColumns(const std::vector<std::string>& words, std::size_t columns);
 
 }  // namespace zelvar::sim

@@ -1,119 +1,117 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
 #include "sim/console/console.h"
 
 namespace zelvar::sim {
 
 namespace {
 
-constexpr int kMostReplies = 1'000'000;     // far more than any test asks for
-constexpr int kLongestDelayMs = 3'600'000;  // an hour
-constexpr int kMostByte = 255;
-constexpr std::size_t kStrayDigits = 2;
+using std::chrono::milliseconds;
 
-/// Carries out a command whose only argument is a number of replies.
-template <typename Action>
-ConsoleResult WithReplies(ConsoleArguments arguments, Action action) {
-    const std::optional<int> replies = ParseNumber(arguments[0], 0, kMostReplies);
-    if (!replies) {
-        return RangeError("N", 0, kMostReplies);
-    }
-    action(*replies);
-    return Ok();
+constexpr Argument kReplies = Number("N", 0, 1'000'000);  // far more than any test asks for
+constexpr Argument kDelay = Number("MS", 0, 3'600'000);   // up to an hour
+
+ConsoleResult Silent(ConsoleContext& context, const Values& values) {
+    context.faults.SetSilent(values[0] != 0);
+    return {};
 }
 
-ConsoleResult Silent(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<bool> silent = ParseSwitch(arguments[0]);
-    if (!silent) {
-        return Error("on or off expected");
-    }
-    context.faults.SetSilent(*silent);
-    return Ok();
+ConsoleResult SilentAfter(ConsoleContext& context, const Values& values) {
+    context.faults.SetSilentAfter(values[0]);
+    return {};
 }
 
-ConsoleResult SilentAfter(ConsoleContext& context, ConsoleArguments arguments) {
-    return WithReplies(arguments, [&](int replies) { context.faults.SetSilentAfter(replies); });
+ConsoleResult Late(ConsoleContext& context, const Values& values) {
+    context.faults.SetLate(milliseconds(values[0]),
+                           values.size() > 1 ? std::optional(values[1]) : std::nullopt);
+    return {};
 }
 
-ConsoleResult Late(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> delay = ParseNumber(arguments[0], 0, kLongestDelayMs);
-    if (!delay) {
-        return RangeError("MS", 0, kLongestDelayMs);
-    }
-    std::optional<int> replies;
-    if (arguments.size() > 1) {
-        replies = ParseNumber(arguments[1], 0, kMostReplies);
-        if (!replies) {
-            return RangeError("N", 0, kMostReplies);
-        }
-    }
-    context.faults.SetLate(std::chrono::milliseconds(*delay), replies);
-    return Ok();
+ConsoleResult BadChecksum(ConsoleContext& context, const Values& values) {
+    context.faults.SetBadChecksums(values[0]);
+    return {};
 }
 
-ConsoleResult BadChecksum(ConsoleContext& context, ConsoleArguments arguments) {
-    return WithReplies(arguments, [&](int replies) { context.faults.SetBadChecksums(replies); });
+ConsoleResult Short(ConsoleContext& context, const Values& values) {
+    context.faults.SetShort(values[0]);
+    return {};
 }
 
-ConsoleResult Short(ConsoleContext& context, ConsoleArguments arguments) {
-    return WithReplies(arguments, [&](int replies) { context.faults.SetShort(replies); });
+ConsoleResult Double(ConsoleContext& context, const Values& values) {
+    context.faults.SetDouble(values[0]);
+    return {};
 }
 
-ConsoleResult Double(ConsoleContext& context, ConsoleArguments arguments) {
-    return WithReplies(arguments, [&](int replies) { context.faults.SetDouble(replies); });
-}
-
-ConsoleResult Stray(ConsoleContext& context, ConsoleArguments arguments) {
+ConsoleResult Stray(ConsoleContext& context, const Values& values) {
     std::vector<std::uint8_t> bytes;
-    for (const std::string& word : arguments) {
-        const std::optional<int> byte =
-            word.size() <= kStrayDigits ? ParseNumber("0x" + word, 0, kMostByte) : std::nullopt;
-        if (!byte) {
-            return Error("two hexadecimal digits expected: " + word);
-        }
-        bytes.push_back(static_cast<std::uint8_t>(*byte));
+    for (const int value : values) {
+        bytes.push_back(static_cast<std::uint8_t>(value));
     }
     context.faults.AddStray(bytes);
-    return Ok();
+    return {};
 }
 
-ConsoleResult Defer(ConsoleContext& context, ConsoleArguments arguments) {
-    return WithReplies(arguments, [&](int replies) { context.unit.DeferContent(replies); });
+ConsoleResult Drip(ConsoleContext& context, const Values& values) {
+    context.faults.SetDrip(milliseconds(values[0]));
+    return {};
 }
 
-ConsoleResult Drip(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> gap = ParseNumber(arguments[0], 0, kLongestDelayMs);
-    if (!gap) {
-        return RangeError("MS", 0, kLongestDelayMs);
-    }
-    context.faults.SetDrip(std::chrono::milliseconds(*gap));
-    return Ok();
+ConsoleResult Defer(ConsoleContext& context, const Values& values) {
+    context.unit.DeferContent(values[0]);
+    return {};
+}
+
+ConsoleResult ClearFaults(ConsoleContext& context, const Values&) {
+    context.faults = Faults();
+    context.unit.DeferContent(0);
+    return {};
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"silent", "on|off", 1, 1, &Silent, "Answers nothing, or everything again.", "silent on"},
-    {"silent-after", "N", 1, 1, &SilentAfter,
-     "Answers the next N frames, then nothing until \"silent off\".", "silent-after 3"},
-    {"late", "MS [N]", 1, 2, &Late,
+    {"silent", {Choice(kOnOff)}, &Silent, "Answers nothing, or everything again.", "silent on"},
+    {"silent-after",
+     {kReplies},
+     &SilentAfter,
+     "Answers the next N frames, then nothing until \"silent off\".",
+     "silent-after 3"},
+    {"late",
+     {kDelay, Optional(kReplies)},
+     &Late,
      "Delays the next N replies by MS milliseconds; without N all of them, until \"late 0\".",
      "late 500 2"},
-    {"bad-checksum", "N", 1, 1, &BadChecksum, "Sends the next N replies with a wrong checksum.",
+    {"bad-checksum",
+     {kReplies},
+     &BadChecksum,
+     "Sends the next N replies with a wrong checksum.",
      "bad-checksum 1"},
-    {"short", "N", 1, 1, &Short, "Sends the next N replies without their checksum.", "short 1"},
-    {"double", "N", 1, 1, &Double, "Sends the next N replies twice.", "double 1"},
-    {"stray", "HEX...", 1, kAnyNumberOfArguments, &Stray,
-     "Sends these bytes before the next reply.", "stray FF 08"},
-    {"drip", "MS", 1, 1, &Drip, "Leaves MS milliseconds more between two bytes; 0 ends it.",
+    {"short", {kReplies}, &Short, "Sends the next N replies without their checksum.", "short 1"},
+    {"double", {kReplies}, &Double, "Sends the next N replies twice.", "double 1"},
+    {"stray", {Bytes("HEX")}, &Stray, "Sends these bytes before the next reply.", "stray FF 08"},
+    {"drip",
+     {kDelay},
+     &Drip,
+     "Waits MS milliseconds longer between two bytes; \"drip 0\" ends it.",
      "drip 50"},
-    {"defer", "N", 1, 1, &Defer,
+    {"defer",
+     {kReplies},
+     &Defer,
      "Empties the next N replies that carry something; later polls bring their content.",
      "defer 1"},
+    {"clear-faults",
+     {},
+     &ClearFaults,
+     "Ends every fault of the line: the unit answers everything as usual.",
+     "clear-faults"},
 };
 
 }  // namespace
 
-std::span<const ConsoleCommand> FaultConsoleCommands() {
-    return kCommands;
+ConsoleGroup FaultConsoleCommands() {
+    return {"Faults of the line", kCommands};
 }
 
 }  // namespace zelvar::sim

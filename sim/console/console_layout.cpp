@@ -1,204 +1,198 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <cstdint>
+
 #include "sim/console/console.h"
 
 namespace zelvar::sim {
 
 namespace {
 
-constexpr int kMostBlock = kBlocks - 1;
-constexpr int kMostInput = kFeedbackInputs - 1;
-constexpr int kMostSpeed = 63;
-constexpr int kMostValue = 127;     // seven bits on the line
-constexpr int kMostPolls = 10'000;  // minutes of polling
-
-ConsoleResult SetOvercurrent(ConsoleContext& context, ConsoleArguments arguments, bool detected) {
-    const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
-    if (!block) {
-        return RangeError("B", 0, kMostBlock);
+std::vector<std::string> PresentModules(const UnitState& state) {
+    std::vector<std::string> addresses;
+    for (int address = 0; address < kModuleAddresses; ++address) {
+        if (state.layout.At(address).Present()) {
+            addresses.push_back(std::to_string(address));
+        }
     }
+    return addresses;
+}
+
+std::vector<std::string> PresentTractionUnits(const UnitState& state) {
+    std::vector<std::string> lines;
+    for (int line = 0; line < kTractionLines; ++line) {
+        if (state.layout.At(LineAddress(line)).Present()) {
+            lines.push_back(std::to_string(line));
+        }
+    }
+    return lines;
+}
+
+constexpr Argument kBlock = Number("B", 0, kBlocks - 1);
+constexpr Argument kAddress = Number("ADDRESS", 0, kModuleAddresses - 1, &PresentModules);
+constexpr Argument kTractionUnit = Number("M", 0, kTractionLines - 1, &PresentTractionUnits);
+constexpr Argument kValue = Number("V", 0, 127);  // seven bits on the line
+constexpr Word kDirections[] = {{"forward", 1}, {"reverse", 0}};
+constexpr Word kInputStates[] = {{"0", 0}, {"1", 1}};
+
+/// Of an absent module the command changed what the module has when it appears.
+ConsoleResult DoneAt(const UnitState& state, int address) {
+    if (state.layout.At(address).Present()) {
+        return {};
+    }
+    return {"ok, but there is no module at address " + std::to_string(address),
+            ConsoleAction::kNone};
+}
+
+ConsoleResult SetOvercurrent(UnitState& state, const Values& values, bool detected) {
+    state.overcurrent.set(values[0], detected);
+    state.reports.Push(OvercurrentReport(values[0], detected));
+    return {};
+}
+
+ConsoleResult Overcurrent(ConsoleContext& context, const Values& values) {
+    return SetOvercurrent(context.unit.state(), values, true);
+}
+
+ConsoleResult Release(ConsoleContext& context, const Values& values) {
+    return SetOvercurrent(context.unit.state(), values, false);
+}
+
+ConsoleResult Speed(ConsoleContext& context, const Values& values) {
     UnitState& state = context.unit.state();
-    state.overcurrent.set(static_cast<std::size_t>(*block), detected);
-    state.reports.Push(OvercurrentReport(*block, detected));
-    return Ok();
-}
-
-ConsoleResult Overcurrent(ConsoleContext& context, ConsoleArguments arguments) {
-    return SetOvercurrent(context, arguments, true);
-}
-
-ConsoleResult Release(ConsoleContext& context, ConsoleArguments arguments) {
-    return SetOvercurrent(context, arguments, false);
-}
-
-ConsoleResult Speed(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> block = ParseNumber(arguments[0], 0, kMostBlock);
-    const std::optional<int> speed = ParseNumber(arguments[1], 0, kMostSpeed);
-    const bool forward = arguments[2] == "forward";
-    if (!block) {
-        return RangeError("B", 0, kMostBlock);
-    }
-    if (!speed) {
-        return RangeError("S", 0, kMostSpeed);
-    }
-    if (!forward && arguments[2] != "reverse") {
-        return Error("forward or reverse expected");
-    }
-    UnitState& state = context.unit.state();
+    const int block = values[0];
+    const int speed = values[1];
+    const bool forward = values[2] != 0;
+    state.drive.SetBlockSpeed(block, speed, forward, 0);
     context.unit.Advance(context.now);
-    state.drive.SetBlockSpeed(*block, *speed, forward, 0);
-    context.unit.Advance(context.now);
-    // Asked for, so it is reported even when nothing has changed.
-    state.reports.PushLatest(BlockSpeedReport(*block, *speed, forward));
-    return Ok();
+    // The user asked for it, so it is reported even if nothing has changed.
+    state.reports.PushLatest(BlockSpeedReport(block, speed, forward));
+    return {};
 }
 
-ConsoleResult Feedback(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> input = ParseNumber(arguments[0], 0, kMostInput);
-    const std::optional<int> active = ParseNumber(arguments[1], 0, 1);
-    if (!input) {
-        return RangeError("I", 0, kMostInput);
-    }
-    if (!active) {
-        return Error("0 or 1 expected");
-    }
+ConsoleResult Feedback(ConsoleContext& context, const Values& values) {
     UnitState& state = context.unit.state();
-    const auto index = static_cast<std::size_t>(*input);
-    if (state.feedback.test(index) != (*active == 1)) {
-        state.feedback.flip(index);
-        state.reports.Push(FeedbackReport(*input, *active == 1));
+    if (state.feedback.test(values[0]) != (values[1] != 0)) {
+        state.feedback.flip(values[0]);
+        state.reports.Push(FeedbackReport(values[0], values[1] != 0));
     }
-    return Ok();
+    return {};
 }
 
-ConsoleResult SetFlag(ConsoleArguments arguments, bool& flag) {
-    const std::optional<bool> value = ParseSwitch(arguments[0]);
-    if (!value) {
-        return Error("on or off expected");
-    }
-    flag = *value;
-    return Ok();
+ConsoleResult Fault(ConsoleContext& context, const Values& values) {
+    context.unit.state().fault = values[0] != 0;
+    return {};
 }
 
-ConsoleResult Fault(ConsoleContext& context, ConsoleArguments arguments) {
-    return SetFlag(arguments, context.unit.state().fault);
+ConsoleResult Hold(ConsoleContext& context, const Values& values) {
+    context.unit.state().hold = values[0] != 0;
+    return {};
 }
 
-ConsoleResult Hold(ConsoleContext& context, ConsoleArguments arguments) {
-    return SetFlag(arguments, context.unit.state().hold);
+ConsoleResult ModuleAbsent(ConsoleContext& context, const Values& values) {
+    ModuleSlot& slot = context.unit.state().layout.At(values[0]);
+    const ConsoleResult result = DoneAt(context.unit.state(), values[0]);
+    slot.status = kAbsentStatus;
+    return result;
 }
 
-ConsoleResult Module(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> address = ParseNumber(arguments[0], 0, kModuleAddresses - 1);
-    if (!address) {
-        return RangeError("ADDRESS", 0, kModuleAddresses - 1);
-    }
-    ModuleSlot& slot = context.unit.state().layout.At(*address);
-    if (arguments[1] == "absent" && arguments.size() == 2) {
-        slot.status = kAbsentStatus;
-        return Ok();
-    }
-    if (arguments[1] != "status" || arguments.size() != 3) {
-        return Error("absent or status BYTE expected");
-    }
-    const std::optional<int> status = ParseNumber(arguments[2], 0, kMostValue);
-    if (!status) {
-        return RangeError("BYTE", 0, kMostValue);
-    }
-    slot.status = static_cast<std::uint8_t>(*status);
-    return Ok();
+ConsoleResult ModuleStatus(ConsoleContext& context, const Values& values) {
+    context.unit.state().layout.At(values[0]).status = static_cast<std::uint8_t>(values[1]);
+    return {};
 }
 
-ConsoleResult MasterSlave(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> line = ParseNumber(arguments[0], 0, kTractionLines - 1);
-    const std::optional<int> mode = ParseNumber(arguments[1], 0, kMostValue);
-    if (!line) {
-        return RangeError("M", 0, kTractionLines - 1);
-    }
-    if (!mode) {
-        return RangeError("V", 0, kMostValue);
-    }
-    auto& memory = context.unit.state().memories.traction[static_cast<std::size_t>(*line)];
+ConsoleResult MasterSlave(ConsoleContext& context, const Values& values) {
+    UnitState& state = context.unit.state();
+    auto& memory = state.memories.traction[values[0]];
     for (const bool permanent : {false, true}) {
-        memory.Part(permanent)[kMasterSlaveParameter] = static_cast<std::uint8_t>(*mode);
+        memory.Part(permanent)[kMasterSlaveParameter] = static_cast<std::uint8_t>(values[1]);
     }
-    return Ok();
+    return DoneAt(state, LineAddress(values[0]));
 }
 
-ConsoleResult Clock(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> line = ParseNumber(arguments[0], 0, kTractionLines - 1);
-    const std::optional<int> clock = ParseNumber(arguments[1], 0, kMostValue);
-    if (!line) {
-        return RangeError("M", 0, kTractionLines - 1);
-    }
-    if (!clock) {
-        return RangeError("V", 0, kMostValue);
-    }
-    context.unit.state().layout.At(LineAddress(*line)).clock = static_cast<std::uint8_t>(*clock);
-    return Ok();
+ConsoleResult Clock(ConsoleContext& context, const Values& values) {
+    UnitState& state = context.unit.state();
+    const int address = LineAddress(values[0]);
+    state.layout.At(address).clock = static_cast<std::uint8_t>(values[1]);
+    return DoneAt(state, address);
 }
 
-ConsoleResult MuteModule(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> address = ParseNumber(arguments[0], 0, kModuleAddresses - 1);
-    const std::optional<bool> mute = ParseSwitch(arguments[1]);
-    if (!address) {
-        return RangeError("ADDRESS", 0, kModuleAddresses - 1);
-    }
-    if (!mute) {
-        return Error("on or off expected");
-    }
-    context.unit.state().muted.set(static_cast<std::size_t>(*address), *mute);
-    return Ok();
+ConsoleResult MuteModule(ConsoleContext& context, const Values& values) {
+    UnitState& state = context.unit.state();
+    state.muted.set(values[0], values[1] != 0);
+    return DoneAt(state, values[0]);
 }
 
-ConsoleResult AnswerDelay(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> polls = ParseNumber(arguments[0], 0, kMostPolls);
-    if (!polls) {
-        return RangeError("N", 0, kMostPolls);
-    }
-    context.unit.state().answerDelay = *polls;
-    return Ok();
+ConsoleResult AnswerDelay(ConsoleContext& context, const Values& values) {
+    context.unit.state().answerDelay = values[0];
+    return {};
 }
 
-ConsoleResult Reboot(ConsoleContext& context, ConsoleArguments) {
+ConsoleResult Reboot(ConsoleContext& context, const Values&) {
     context.unit.Reboot(context.now);
-    return Ok();
+    return {};
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"overcurrent", "B", 1, 1, &Overcurrent,
-     "Only reports an overcurrent in block B (0..255); \"fault on\" puts the system in fault.",
+    {"overcurrent",
+     {kBlock},
+     &Overcurrent,
+     "Reports an overcurrent in block B; \"fault on\" puts the system in fault.",
      "overcurrent 5"},
-    {"release", "B", 1, 1, &Release, "Reports the end of the overcurrent in block B (0..255).",
-     "release 5"},
-    {"speed", "B S forward|reverse", 3, 3, &Speed,
-     "Sets and reports the speed S (0..63) of block B (0..255).", "speed 5 12 forward"},
-    {"feedback", "I 0|1", 2, 2, &Feedback,
-     "Sets feedback input I (0..2047) and reports it when it changes.", "feedback 200 1"},
-    {"fault", "on|off", 1, 1, &Fault, "Puts the system in fault, or ends the fault.", "fault on"},
-    {"hold", "on|off", 1, 1, &Hold, "Holds the system, or lets it go on.", "hold on"},
-    {"module", "ADDRESS absent|status BYTE", 2, 3, &Module,
-     "Takes the module at ADDRESS (0..127) away, or makes it report status BYTE (0..127).",
+    {"release", {kBlock}, &Release, "Reports the end of the overcurrent in block B.", "release 5"},
+    {"speed",
+     {kBlock, Number("S", 0, 63), Choice(kDirections)},
+     &Speed,
+     "Sets and reports speed S of block B.",
+     "speed 5 12 forward"},
+    {"feedback",
+     {Number("I", 0, kFeedbackInputs - 1), Choice(kInputStates)},
+     &Feedback,
+     "Sets feedback input I and reports it when it changes.",
+     "feedback 200 1"},
+    {"fault", {Choice(kOnOff)}, &Fault, "Puts the system in fault, or ends the fault.", "fault on"},
+    {"hold", {Choice(kOnOff)}, &Hold, "Holds the system, or lets it go on.", "hold on"},
+    {"module",
+     {kAddress, Literal("absent")},
+     &ModuleAbsent,
+     "Takes the module at ADDRESS away.",
+     "module 32 absent"},
+    {"module",
+     {kAddress, Literal("status"), Number("BYTE", 0, 127)},
+     &ModuleStatus,
+     "Makes the module at ADDRESS report status BYTE; an absent one appears.",
      "module 32 status 0x08"},
-    {"ms", "M V", 2, 2, &MasterSlave,
-     "Sets the master/slave mode V of traction unit M (0..63): 0 auto, 1 master, 2 slave.",
+    {"ms",
+     {kTractionUnit, kValue},
+     &MasterSlave,
+     "Sets the master/slave mode of traction unit M in both memories: 0 auto, 1 master, 2 slave.",
      "ms 1 2"},
-    {"clock", "M V", 2, 2, &Clock,
-     "Sets the clock state V of traction unit M (0..63): 0 good, 1 none, 2 bad, 4 degraded.",
+    {"clock",
+     {kTractionUnit, kValue},
+     &Clock,
+     "Sets the clock state of traction unit M: 0 good, 1 none, 2 bad, 4 degraded.",
      "clock 1 4"},
-    {"mute-module", "ADDRESS on|off", 2, 2, &MuteModule,
-     "Keeps the module at ADDRESS from answering requests for its settings.", "mute-module 64 on"},
-    {"answer-delay", "N", 1, 1, &AnswerDelay,
+    {"mute-module",
+     {kAddress, Choice(kOnOff)},
+     &MuteModule,
+     "Keeps the module at ADDRESS from answering requests for its settings.",
+     "mute-module 64 on"},
+    {"answer-delay",
+     {Number("N", 0, 10'000)},  // minutes of polling
+     &AnswerDelay,
      "Sends a module's answer with the N-th poll after the request; 0: as the reply itself.",
      "answer-delay 3"},
-    {"reboot", "", 0, 0, &Reboot,
-     "Starts the unit afresh: permanent settings hold again, transparent mode ends.", "reboot"},
+    {"reboot",
+     {},
+     &Reboot,
+     "Restarts the unit: permanent settings hold again, transparent mode ends.",
+     "reboot"},
 };
 
 }  // namespace
 
-std::span<const ConsoleCommand> LayoutConsoleCommands() {
-    return kCommands;
+ConsoleGroup LayoutConsoleCommands() {
+    return {"Reports, states and modules", kCommands};
 }
 
 }  // namespace zelvar::sim

@@ -3,102 +3,147 @@
 #include <algorithm>
 
 #include "sim/console/console.h"
+#include "sim/console/state_listing.h"
 #include "sim/console/state_table.h"
 
 namespace zelvar::sim {
 
 namespace {
 
-ConsoleResult WithAction(ConsoleAction action) {
-    return {"ok", action};
+constexpr std::size_t kColumns = 80;
+
+constexpr Word kTraceModes[] = {{"on", static_cast<int>(ConsoleAction::kTraceOn)},
+                                {"all", static_cast<int>(ConsoleAction::kTraceAll)},
+                                {"off", static_cast<int>(ConsoleAction::kTraceOff)}};
+
+std::vector<std::string> CommandNames(const UnitState&) {
+    return ConsoleCommandNames();
 }
 
-ConsoleResult Trace(ConsoleContext&, ConsoleArguments arguments) {
-    const std::optional<bool> on = ParseSwitch(arguments[0]);
-    if (!on) {
-        return Error("on or off expected");
+ConsoleResult Trace(ConsoleContext&, const Values& values) {
+    return {"ok", static_cast<ConsoleAction>(values[0])};
+}
+
+TableSection LineTable(const ConsoleContext& context, std::size_t faults) {
+    std::string answers = "every command";
+    if (context.faults.silent()) {
+        answers = "nothing";
+    } else if (faults > 0) {
+        answers += ", with faults";
     }
-    return WithAction(*on ? ConsoleAction::kTraceOn : ConsoleAction::kTraceOff);
+    return {
+        "Line",
+        {},
+        {{"rate", context.lineBaud > 0 ? std::to_string(context.lineBaud) + " baud" : "no line"},
+         {"answers", answers}}};
 }
 
-std::string Rate(int baud) {
-    return baud > 0 ? std::to_string(baud) + " baud" : "no line";
+TableSection ArmedFaultsTable(const ConsoleContext& context) {
+    TableSection table{"Armed faults (\"clear-faults\" ends them)", {}, {}};
+    for (const ArmedFault& fault : context.faults.Armed()) {
+        table.rows.push_back({std::string(fault.command), fault.effect});
+    }
+    if (const int deferred = context.unit.deferredReplies(); deferred > 0) {
+        table.rows.push_back({"defer", deferred == 1 ? "next reply with content"
+                                                     : "next " + std::to_string(deferred) +
+                                                           " replies with content"});
+    }
+    return table;
 }
 
-ConsoleResult State(ConsoleContext& context, ConsoleArguments) {
-    std::vector<TableSection> sections = context.unit.Sections(context.now);
-    sections.push_back({"Line",
-                        {},
-                        {{"rate", Rate(context.lineBaud)},
-                         {"answers", context.faults.silent() ? "nothing" : "every command"}}});
+ConsoleResult State(ConsoleContext& context, const Values&) {
+    std::vector<TableSection> sections = StateSections(context.unit.state());
+    const TableSection faults = ArmedFaultsTable(context);
+    sections.push_back(LineTable(context, faults.rows.size()));
+    sections.push_back(faults);
     return {RenderSections(sections) + "ok", ConsoleAction::kNone};
 }
 
-ConsoleResult Dump(ConsoleContext& context, ConsoleArguments) {
-    return {context.unit.Describe(context.now) + "silent=" + (context.faults.silent() ? "1" : "0") +
+ConsoleResult Dump(ConsoleContext& context, const Values&) {
+    return {StateListing(context.unit.state()) + "silent=" + (context.faults.silent() ? "1" : "0") +
                 "\nline-baud=" + std::to_string(context.lineBaud) + "\nok",
             ConsoleAction::kNone};
 }
 
-ConsoleResult HangUp(ConsoleContext&, ConsoleArguments) {
-    return WithAction(ConsoleAction::kHangUp);
+ConsoleResult HangUp(ConsoleContext&, const Values&) {
+    return {"ok", ConsoleAction::kHangUp};
 }
 
-ConsoleResult Reconnect(ConsoleContext&, ConsoleArguments) {
-    return WithAction(ConsoleAction::kReconnect);
+ConsoleResult Reconnect(ConsoleContext&, const Values&) {
+    return {"ok", ConsoleAction::kReconnect};
 }
 
-ConsoleResult Quit(ConsoleContext&, ConsoleArguments) {
-    return WithAction(ConsoleAction::kQuit);
+ConsoleResult Quit(ConsoleContext&, const Values&) {
+    return {"ok", ConsoleAction::kQuit};
 }
 
-ConsoleResult HelpFor(std::string_view name) {
-    const ConsoleCommand* command = FindConsoleCommand(name);
-    if (command == nullptr) {
-        return Error(std::string("unknown command ").append(name));
+/// The forms of one command with all there is to say about them.
+std::string HelpFor(const std::string& name) {
+    constexpr std::size_t kIndent = 2;
+    const std::string indent(kIndent, ' ');
+    std::string text;
+    for (const ConsoleCommand* form : ConsoleFormsOf(name)) {
+        text.append(CommandForm(*form)).append("\n").append(indent);
+        text.append(Wrapped(CommandHelp(*form), kColumns, kIndent)).append("\n").append(indent);
+        text.append("Example: ").append(form->example).append("\n");
     }
-    std::string text = CommandForm(*command);
-    text.append("\n  ").append(command->help).append("\n  Example: ").append(command->example);
-    return {text.append("\nok"), ConsoleAction::kNone};
+    return text;
 }
 
-ConsoleResult Help(ConsoleContext&, ConsoleArguments arguments) {
-    if (!arguments.empty()) {
-        return HelpFor(arguments[0]);
-    }
-    std::size_t width = 0;
-    for (const auto table : ConsoleTables()) {
-        for (const ConsoleCommand& command : table) {
-            width = std::max(width, CommandForm(command).size());
+std::string HelpForAll() {
+    constexpr std::size_t kIndent = 2;
+    constexpr std::size_t kGap = 2;
+    std::size_t column = 0;
+    for (const ConsoleGroup& group : ConsoleGroups()) {
+        for (const ConsoleCommand& command : group.commands) {
+            column = std::max(column, kIndent + CommandForm(command).size() + kGap);
         }
     }
     std::string text;
-    for (const auto table : ConsoleTables()) {
-        for (const ConsoleCommand& command : table) {
-            std::string form = CommandForm(command);
-            form.resize(width, ' ');
-            text.append(form).append("  ").append(command.help).append("\n");
+    for (const ConsoleGroup& group : ConsoleGroups()) {
+        text.append(group.title).append("\n");
+        for (const ConsoleCommand& command : group.commands) {
+            std::string form(kIndent, ' ');
+            form += CommandForm(command);
+            form.resize(column, ' ');
+            text.append(form).append(Wrapped(command.help, kColumns, column)).append("\n");
         }
+        text.append("\n");
     }
-    return {text + "ok", ConsoleAction::kNone};
+    return text + "\"help COMMAND\" shows the ranges and an example; Tab completes words.\n";
+}
+
+ConsoleResult Help(ConsoleContext&, const Values& values) {
+    return {(!values.empty() ? HelpFor(ConsoleCommandNames()[values[0]]) : HelpForAll()) + "ok",
+            ConsoleAction::kNone};
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"hang-up", "", 0, 0, &HangUp, "Closes the pseudo-terminal: the other end sees its device go.",
+    {"hang-up",
+     {},
+     &HangUp,
+     "Closes the pseudo-terminal: for the other end the device vanishes.",
      "hang-up"},
-    {"reconnect", "", 0, 0, &Reconnect, "Makes a new pseudo-terminal and its link.", "reconnect"},
-    {"trace", "on|off", 1, 1, &Trace, "Shows every frame with its time, its bytes and its meaning.",
+    {"reconnect", {}, &Reconnect, "Makes a new pseudo-terminal and its link.", "reconnect"},
+    {"trace",
+     {Choice(kTraceModes)},
+     &Trace,
+     "Shows every frame with its time, bytes and meaning; \"on\" leaves out empty polls.",
      "trace on"},
-    {"state", "", 0, 0, &State, "Shows what the unit knows and did, as tables.", "state"},
-    {"dump", "", 0, 0, &Dump, "Lists the same for programs, one name=value a line.", "dump"},
-    {"help", "[COMMAND]", 0, 1, &Help, "Lists the commands, or explains one.", "help speed"},
-    {"quit", "", 0, 0, &Quit, "Ends the program.", "quit"},
+    {"state", {}, &State, "Shows the state of the unit and of the line as tables.", "state"},
+    {"dump", {}, &Dump, "Lists the state for programs, one name=value per line.", "dump"},
+    {"help",
+     {Optional(Name("COMMAND", &CommandNames))},
+     &Help,
+     "Lists the commands, or explains one. \"?\" does too.",
+     "help speed"},
+    {"quit", {}, &Quit, "Ends the program. \"exit\" does too.", "quit"},
 };
 
 }  // namespace
 
-std::span<const ConsoleCommand> ProgramConsoleCommands() {
-    return kCommands;
+ConsoleGroup ProgramConsoleCommands() {
+    return {"The program", kCommands};
 }
 
 }  // namespace zelvar::sim

@@ -1,148 +1,106 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "sim/console/console.h"
-#include "sim/layouts/table_reader.h"
-#include "sim/protocol/names.h"
+#include "sim/text/number.h"
 #include "sim/unit/railway_unit.h"
 
 namespace zelvar::sim {
 
 namespace {
 
-constexpr int kMostPoint = 511;
-// What one look catches up with: nothing of a run is dropped.
-constexpr int kMostRunMs =
-    static_cast<int>(std::chrono::milliseconds(kMostCatchUp) / std::chrono::milliseconds(1));
+using std::chrono::milliseconds;
 
-/// Takes a name off the front of the arguments; names can have blanks, and the longest one counts.
-template <typename Find>
-std::optional<std::size_t> TakeName(ConsoleArguments& arguments, Find find) {
-    std::optional<std::size_t> found;
-    std::size_t taken = 0;
-    std::string name;
-    for (std::size_t count = 1; count <= arguments.size(); ++count) {
-        name.append(count == 1 ? "" : " ").append(arguments[count - 1]);
-        if (const std::optional<std::size_t> index = find(name)) {
-            found = index;
-            taken = count;
-        }
+// As long as one step catches up with, so that nothing of a run is dropped.
+constexpr int kMaxRunMs = static_cast<int>(milliseconds(kMostCatchUp) / milliseconds(1));
+constexpr int kMaxPosition = 10'000;  // centimetres: no section is longer
+constexpr Word kPositions[] = {{"straight", 0}, {"thrown", 1}};
+
+std::vector<std::string> TrainNames(const UnitState& state) {
+    std::vector<std::string> names;
+    for (const Train& train : state.layout.track.trains) {
+        names.push_back(train.name);
     }
-    arguments = arguments.subspan(taken);
-    return found;
+    return names;
 }
 
-constexpr std::size_t kMostNames = 8;  // of those that an error tells; a line has no room for all
-
-/// "unknown train red: Railcar or Tram expected"
-template <typename Item, typename Name>
-ConsoleResult UnknownName(const std::string& what, const std::string& given,
-                          const std::vector<Item>& items, Name name) {
-    const std::string unknown = "unknown " + what + " " + given + ": ";
-    if (items.empty()) {
-        return Error(unknown + "the layout has none");
+std::vector<std::string> SectionNames(const UnitState& state) {
+    std::vector<std::string> names;
+    for (const TrackSection& section : state.layout.track.sections) {
+        names.push_back(section.name);
     }
-    std::vector<std::string> known;
-    for (std::size_t index = 0; index < std::min(items.size(), kMostNames); ++index) {
-        known.push_back(name(items[index]));
-    }
-    if (items.size() > kMostNames) {
-        return Error(unknown + Joined(known) + ", ... expected");
-    }
-    return Error(unknown + JoinedWith(known, "or") + " expected");
+    return names;
 }
 
-ConsoleResult Place(ConsoleContext& context, ConsoleArguments arguments) {
+ConsoleResult Place(ConsoleContext& context, const Values& values) {
     UnitState& state = context.unit.state();
-    const Railway& railway = state.railway;
-    const auto train =
-        TakeName(arguments, [&](const std::string& name) { return railway.FindTrain(name); });
-    if (!train) {
-        return UnknownName("train", arguments[0], railway.trains(),
-                           [](const auto& known) { return known.described.name; });
-    }
-    if (arguments.empty()) {
-        return Error("a section expected");
-    }
-    const auto section =
-        TakeName(arguments, [&](const std::string& name) { return railway.FindSection(name); });
-    if (!section) {
-        return UnknownName("section", arguments[0], railway.plan().sections,
-                           [](const auto& known) { return known.name; });
-    }
-    if (arguments.size() > 1) {
-        return Error("one number expected behind the section");
-    }
-    const double length = state.railway.plan().sections[*section].length;
+    const double length = state.railway.plan().sections[values[1]].length;
     // In the middle, or with its nose at the end when it is longer than the section.
-    const double trainLength = state.railway.trains()[*train].described.length;
+    const double trainLength = state.railway.trains()[values[0]].described.length;
     double position = std::min(length, (length + trainLength) / 2);
-    if (!arguments.empty()) {
-        const int most = static_cast<int>(std::floor(length));
-        const std::optional<int> given = ParseNumber(arguments[0], 0, most);
-        if (!given) {
-            return RangeError("CM", 0, most);
-        }
-        position = *given;
+    if (values.size() > 2) {
+        position = values[2];
     }
-    state.railway.Place(*train, *section, position, state.accessories.points);
+    if (position > length) {
+        return Error("CM: expected " + RangeText(0, static_cast<int>(std::floor(length))) +
+                     " in this section, found " + std::to_string(values[2]));
+    }
+    state.railway.Place(values[0], values[1], position, state.accessories.points);
     context.unit.Advance(context.now);
-    return Ok();
+    return {};
 }
 
-ConsoleResult Point(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> device = ParseNumber(arguments[0], 0, kMostPoint);
-    const bool thrown = arguments[1] == "thrown";
-    if (!device) {
-        return RangeError("D", 0, kMostPoint);
-    }
-    if (!thrown && arguments[1] != "straight") {
-        return Error("straight or thrown expected");
-    }
-    context.unit.state().accessories.points[*device] = thrown;
-    return Ok();
+ConsoleResult Point(ConsoleContext& context, const Values& values) {
+    context.unit.state().accessories.points[values[0]] = values[1] != 0;
+    return {};
 }
 
-ConsoleResult TimeFactor(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> factor = ParseNumber(arguments[0], 0, kMostTimeFactor);
-    if (!factor) {
-        return RangeError("N", 0, kMostTimeFactor);
-    }
-    context.unit.SetTimeFactor(*factor, context.now);
-    return Ok();
+ConsoleResult TimeFactor(ConsoleContext& context, const Values& values) {
+    context.unit.SetTimeFactor(values[0], context.now);
+    return {};
 }
 
-ConsoleResult Run(ConsoleContext& context, ConsoleArguments arguments) {
-    const std::optional<int> span = ParseNumber(arguments[0], 1, kMostRunMs);
-    if (!span) {
-        return RangeError("MS", 1, kMostRunMs);
-    }
+ConsoleResult Run(ConsoleContext& context, const Values& values) {
     // Otherwise the clock would add its own time, and no run would be like another.
     if (context.unit.timeFactor() != 0) {
-        return Error("\"time-factor 0\" expected first");
+        return Error("expected \"time-factor 0\" first");
     }
-    context.unit.Run(std::chrono::milliseconds(*span), context.now);
-    return Ok();
+    context.unit.Run(milliseconds(values[0]), context.now);
+    return {};
 }
 
 constexpr ConsoleCommand kCommands[] = {
-    {"place", "TRAIN SECTION [CM]", 2, kAnyNumberOfArguments, &Place,
-     "Puts TRAIN into SECTION, standing, its nose CM from the section's back or in the middle.",
+    {"place",
+     {Name("TRAIN", &TrainNames), Name("SECTION", &SectionNames),
+      Optional(Number("CM", 0, kMaxPosition))},
+     &Place,
+     "Puts TRAIN into SECTION, stopped, its nose CM centimetres from the section's back or in the "
+     "middle.",
      "place Goods train platform-1 120"},
-    {"point", "D straight|thrown", 2, 2, &Point, "Moves point D (0..511).", "point 1 thrown"},
-    {"time-factor", "N", 1, 1, &TimeFactor,
-     "Lets N simulated seconds (0..100) pass in each second.", "time-factor 5"},
-    {"run", "MS", 1, 1, &Run,
-     "Lets MS simulated milliseconds (1..600000) pass at once, when the time factor is 0.",
+    {"point",
+     {Number("D", 0, 511), Choice(kPositions)},
+     &Point,
+     "Moves point D.",
+     "point 1 thrown"},
+    {"time-factor",
+     {Number("N", 0, kMostTimeFactor)},
+     &TimeFactor,
+     "Lets N simulated seconds pass in each second; 0 stops simulated time.",
+     "time-factor 5"},
+    {"run",
+     {Number("MS", 1, kMaxRunMs)},
+     &Run,
+     "Lets MS simulated milliseconds pass at once, when the time factor is 0.",
      "run 20000"},
 };
 
 }  // namespace
 
-std::span<const ConsoleCommand> RailwayConsoleCommands() {
-    return kCommands;
+ConsoleGroup RailwayConsoleCommands() {
+    return {"Trains and time", kCommands};
 }
 
 }  // namespace zelvar::sim

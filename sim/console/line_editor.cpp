@@ -20,9 +20,9 @@ namespace {
 
 constexpr const char* kPrompt = "zelvarsim> ";
 constexpr int kHistoryLines = 1000;
-constexpr char kEndOfInput = '\x04';  // what the editor makes of Ctrl-D on an empty line
-/// A key can send several bytes, which arrive together; after this long no more will come. The only
-/// time that the line has to wait for the console.
+constexpr char kEndOfInput = '\x04';  // the editor's answer to Ctrl-D on an empty line
+/// A key can send several bytes, which arrive together; after this long the key is complete. Frames
+/// on the line wait for as long.
 constexpr int kKeyMs = 30;
 
 struct Key {
@@ -30,8 +30,8 @@ struct Key {
     const char* function;
 };
 
-/// Beside the editor's own. Those that wait for another key would hold up the line: searching takes
-/// what stands in the line already, and the others do nothing.
+/// In addition to the editor's own. Functions that wait for another key would hold up the line:
+/// searching takes the text typed so far, and the others are disabled.
 constexpr Key kKeys[] = {{"^I", "complete-word"},
                          {"^R", "ed-search-prev-history"},
                          {"^S", "ed-search-next-history"},
@@ -48,6 +48,12 @@ int TerminalColumns() {
     winsize size{};
     const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return known ? size.ws_col : kUsual;
+}
+
+/// Whether standard input has something, or has ended, within this many milliseconds.
+bool InputWaits(int limit) {
+    pollfd entry{STDIN_FILENO, POLLIN, 0};
+    return ::poll(&entry, 1, limit) == 1;
 }
 
 void WriteOut(std::string_view text) {
@@ -79,7 +85,7 @@ LineEditor::LineEditor(Completer completer, std::string historyFile)
       historyFile_(std::move(historyFile)),
       editor_(el_init("zelvarsim", stdin, stdout, stderr)),
       history_(history_init()) {
-    // The characters of the user's alphabet; the form of numbers stays as it is.
+    // Only the characters of the user's locale, not its numbers.
     std::setlocale(LC_CTYPE, "");
     HistEvent event{};
     ::history(history_, &event, H_SETSIZE, kHistoryLines);
@@ -92,7 +98,7 @@ LineEditor::LineEditor(Completer completer, std::string historyFile)
     el_set(editor_, EL_EDITOR, "emacs");
     el_set(editor_, EL_HIST, &::history, history_);
     el_set(editor_, EL_GETCFN, &LineEditor::NextCharacter);
-    // Wide: of narrow texts the library makes copies that it never gives back.
+    // Wide, because the library never frees its copies of narrow texts.
     el_wset(editor_, EL_ADDFN, L"complete-word", L"Completes the word", &LineEditor::CompleteKey);
     for (const Key& key : kKeys) {
         el_set(editor_, EL_BIND, key.key, key.function, nullptr);
@@ -120,16 +126,13 @@ void LineEditor::Suspend() {
 }
 
 std::optional<char> LineEditor::NextByte() {
-    if (!input_.empty()) {
-        const char byte = input_.front();
-        input_.pop_front();
-        return byte;
+    // A lone Escape begins a key that never goes on.
+    if (!InputWaits(kKeyMs)) {
+        return std::nullopt;
     }
-    // In the middle of a key: a lone Escape must not hold up the line.
-    pollfd entry{STDIN_FILENO, POLLIN, 0};
     char byte = 0;
-    const bool more = ::poll(&entry, 1, kKeyMs) == 1 && read(STDIN_FILENO, &byte, 1) == 1;
-    return more ? std::optional(byte) : std::nullopt;
+    ended_ = read(STDIN_FILENO, &byte, 1) != 1;
+    return ended_ ? std::nullopt : std::optional(byte);
 }
 
 int LineEditor::NextCharacter(EditLine* editor, wchar_t* character) {
@@ -142,7 +145,7 @@ int LineEditor::NextCharacter(EditLine* editor, wchar_t* character) {
     while (const std::optional<char> byte = self.NextByte()) {
         const std::size_t length = std::mbrtowc(character, &*byte, 1, &state);
         if (length == kNone) {
-            state = {};  // passed over: no character of the user's alphabet
+            state = {};  // skipped: no character of the user's locale
         } else if (length != kPartOfOne) {
             return 1;
         }
@@ -150,21 +153,18 @@ int LineEditor::NextCharacter(EditLine* editor, wchar_t* character) {
     return 0;
 }
 
-LineEditor::Outcome LineEditor::Feed(std::string_view bytes,
-                                     const std::function<void(const std::string&)>& run) {
-    input_.insert(input_.end(), bytes.begin(), bytes.end());
-    while (!input_.empty()) {
+LineEditor::Outcome LineEditor::ReadKeys(const std::function<void(const std::string&)>& run) {
+    while (InputWaits(0)) {
         int count = 0;
         const char* text = el_gets(editor_, &count);
-        if (text == nullptr || count <= 0) {
-            continue;
+        // The buffer goes on after `count`.
+        const std::string line =
+            text == nullptr || count <= 0 ? "" : std::string(text, text + count);
+        if (ended_ || line == std::string(1, kEndOfInput)) {
+            return Outcome::kEnded;
         }
-        const std::string line(text, static_cast<std::size_t>(count));
-        if (line == std::string(1, kEndOfInput)) {
-            return Outcome::kGone;
-        }
-        if (line.back() == '\n' || line.back() == '\r') {
-            // Completion leaves a blank behind the last word.
+        if (line.ends_with('\n') || line.ends_with('\r')) {
+            // Completion leaves a space after the last word.
             Accept(line.substr(0, line.find_last_not_of(" \r\n") + 1), run);
         }
     }
@@ -177,7 +177,7 @@ void LineEditor::Accept(const std::string& line,
     if (!line.empty()) {
         HistEvent event{};
         ::history(history_, &event, H_ENTER, line.c_str());
-        // At once: however the program ends, the line is kept.
+        // Saved now, so that the line is kept however the program ends.
         if (!historyFile_.empty()) {
             ::history(history_, &event, H_SAVE, historyFile_.c_str());
         }
@@ -188,8 +188,7 @@ void LineEditor::Accept(const std::string& line,
 
 void LineEditor::HideLine() {
     const LineInfoW* line = el_wline(editor_);
-    const auto before =
-        std::strlen(kPrompt) + static_cast<std::size_t>(line->cursor - line->buffer);
+    const auto before = std::strlen(kPrompt) + (line->cursor - line->buffer);
     const int rowsAbove = static_cast<int>(before) / TerminalColumns();
     std::string escape = "\r";
     if (rowsAbove > 0) {
@@ -211,7 +210,7 @@ void LineEditor::Print(std::string_view text) {
 void LineEditor::Restore() {
     el_resize(editor_);
     if (editing_) {
-        // A program that was stopped comes back to a terminal that others have used.
+        // While the program was stopped, another one has used the terminal.
         el_set(editor_, EL_PREP_TERM, 1);
         HideLine();
         el_set(editor_, EL_REFRESH);
@@ -239,7 +238,7 @@ unsigned char LineEditor::Complete() {
         return el_insertstr(editor_, rest.c_str()) == 0 ? CC_REFRESH : CC_REFRESH_BEEP;
     }
     HideLine();
-    WriteOut(kPrompt + line + "\n" + InColumns(words, static_cast<std::size_t>(TerminalColumns())));
+    WriteOut(kPrompt + line + "\n" + InColumns(words, TerminalColumns()));
     return CC_REDISPLAY;
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <optional>
 #include <string>
@@ -15,30 +14,30 @@ struct history;
 
 namespace zelvar::sim {
 
-/// The console of a person at a terminal: line editing, history and completion. Takes the terminal
-/// over from its making to its end, and never waits: whoever has it waits for standard input.
+/// The console of a user at a terminal: line editing, history and completion. It owns the terminal
+/// while it exists. Its owner waits for standard input.
 class LineEditor {
   public:
     using Completer = std::function<Completion(std::string_view line)>;
 
-    enum class Outcome { kGone, kOpen };
+    enum class Outcome { kEnded, kOpen };
 
-    /// `historyFile` is empty when there is no place for it.
+    /// @param historyFile empty: no history is kept
     LineEditor(Completer completer, std::string historyFile);
     ~LineEditor();
     LineEditor(const LineEditor&) = delete;
     LineEditor& operator=(const LineEditor&) = delete;
 
-    /// Takes the bytes that the terminal has sent; `run` gets each finished line while the terminal
-    /// is as other programs know it. Gone: the person has ended the input.
-    Outcome Feed(std::string_view bytes, const std::function<void(const std::string&)>& run);
-    /// Puts text above the line being edited, which stays whole.
+    /// Reads the keys typed so far; `run` gets each finished line, with the terminal in its usual
+    /// mode. Ended: no more input will come.
+    Outcome ReadKeys(const std::function<void(const std::string&)>& run);
+    /// Prints text above the line being edited.
     void Print(std::string_view text);
-    /// The terminal has another size, or the program was stopped and goes on.
+    /// To be called when the terminal has changed its size or the program goes on after a stop.
     void Restore();
 
   private:
-    /// The next byte of a key; nothing when the key is over.
+    /// The next byte of a key; none when the key is complete.
     std::optional<char> NextByte();
     static int NextCharacter(editline* editor, wchar_t* character);
     static unsigned char CompleteKey(editline* editor, int key);
@@ -53,12 +52,12 @@ class LineEditor {
     std::string historyFile_;
     editline* editor_ = nullptr;
     history* history_ = nullptr;
-    std::deque<char> input_;  // typed, but not yet taken by the editor
     bool editing_ = false;
+    bool ended_ = false;  // standard input has ended
 };
 
-/// Where the lines are kept: in the user's folder for such data, which is made when it is missing;
-/// empty when the user has none.
+/// The history file, in the user's folder for such data, which is created if missing; empty if the
+/// user has none.
 std::string HistoryPath();
 
 }  // namespace zelvar::sim

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "sim/layouts/layout_file.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
 
@@ -32,8 +33,8 @@ std::vector<std::string> ShippedNames(const fs::path& folder) {
     return names;
 }
 
-/// The program's name before a message, but where it begins with a place in a file: "FILE:LINE:" is
-/// what editors find there.
+/// The program's name before a message, unless that begins with "FILE:LINE:", which editors jump
+/// to.
 std::string WithProgram(std::string message, const std::string& path) {
     const std::size_t line = path.size() + 1;
     const bool isPlace = message.size() > line && message[line] >= '0' && message[line] <= '9';
@@ -65,8 +66,8 @@ std::variant<Layout, std::string> ChooseLayout(const std::string& name, const fs
         if (std::find(known.begin(), known.end(), name) == known.end()) {
             known.emplace_back(kEmpty);
             known.emplace_back("the path of a .toml file");
-            return "zelvarsim: --layout: " + JoinedWith(known, "or") + " expected, found \"" +
-                   name + "\" (the shipped ones are looked for in " + folder.string() + ")";
+            return "zelvarsim: --layout: expected " + JoinedWith(known, "or") + ", found " +
+                   Quoted(name) + " (shipped layouts are read from " + folder.string() + ")";
         }
         path = PathOf(name, folder).string();
     }

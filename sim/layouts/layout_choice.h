@@ -10,14 +10,14 @@
 
 namespace zelvar::sim {
 
-/// The shipped layouts lie in a folder that has a fixed place beside the program's own, in the
+/// The folder of the shipped layouts, at a fixed place beside the program's own folder, in the
 /// build tree as in an installation.
-/// @param program the first word of the command line, for systems that do not tell more
+/// @param program the first word of the command line, for systems without /proc
 std::filesystem::path LayoutFolder(const std::string& program);
 
-/// Reads the layout that a command line names: "none" is an empty unit, another bare word one of
-/// the shipped ones, and what has a slash or ends in ".toml" a file. Else lines to print that say
-/// what is wrong.
+/// Reads the layout that a command line names: "none" is a unit without modules, a name with a
+/// slash or that ends in ".toml" a file, any other name a shipped layout. If that fails, the lines
+/// to print.
 std::variant<Layout, std::string> ChooseLayout(const std::string& name,
                                                const std::filesystem::path& folder);
 

@@ -3,32 +3,25 @@
 #include "sim/layouts/layout_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <map>
 
 #include "sim/layouts/layout_track.h"
+#include "sim/layouts/table_reader.h"
+#include "sim/protocol/names.h"
 
 namespace zelvar::sim {
 
 namespace {
 
 constexpr std::uintmax_t kLargestFile = 1'048'576;  // bytes: the largest system takes some 20 000
-constexpr std::size_t kLongestTitle = 64;           // bytes: a line of a list with the name
+constexpr std::size_t kLongestTitle = 64;           // bytes: fits a line of the list, with the name
 constexpr Limits kChannels{0, 1};
 constexpr std::size_t kDipSwitches = 4;
 
-constexpr Word kUnitTypes[] = {{"KB-F", static_cast<int>(UnitType::kKbF)},
-                               {"KB-E", static_cast<int>(UnitType::kKbE)},
-                               {"KB-G", static_cast<int>(UnitType::kKbG)},
-                               {"QLRX", static_cast<int>(UnitType::kQlrx)}};
-constexpr Word kTractionTypes[] = {{"VD-F", static_cast<int>(TractionType::kVdF)},
-                                   {"VD60", static_cast<int>(TractionType::kVd60)},
-                                   {"QLRX-s", static_cast<int>(TractionType::kQlrxS)}};
-constexpr Word kMasterSlave[] = {{"auto", 0}, {"master", 1}, {"slave", 2}};
-constexpr Word kClocks[] = {{"good", 0}, {"none", 1}, {"bad", 2}, {"degraded", 4}};
 constexpr Word kSwitches[] = {{"off", 0}, {"on", 1}};
 
 constexpr Word kOk{"ok", static_cast<int>(ModuleState::kOk)};
@@ -56,23 +49,34 @@ ModuleState ReadState(TableReader& reader, std::span<const Word> states) {
         reader.OneOf("state", states, Need::kOptional).value_or(kOk.value));
 }
 
-/// The values that traction units alone have.
-void ReadClockAndRole(TableReader& reader, ModuleSlot& slot) {
-    slot.masterSlave = static_cast<std::uint8_t>(
-        reader.OneOf("master-slave", kMasterSlave, Need::kOptional).value_or(0));
-    slot.clock =
-        static_cast<std::uint8_t>(reader.OneOf("clock", kClocks, Need::kOptional).value_or(0));
+/// A setting in words, or a number in its range.
+std::optional<int> ReadSetting(TableReader& reader, const TractionSetting& setting) {
+    return setting.words.empty()
+               ? reader.Int(setting.layoutKey, {setting.min, setting.max}, Need::kOptional)
+               : reader.OneOf(setting.layoutKey, setting.words, Need::kOptional);
 }
 
-/// A VD60's second unit, which has its first one's version unless it says otherwise.
-ModuleSlot ReadSecondUnit(const TomlValue& table, int version, LayoutProblems& problems) {
-    TableReader reader(*table.AsTable(), table.line, problems);
+/// What only traction units have.
+void ReadSettingsAndClock(TableReader& reader, ModuleSlot& slot) {
+    for (const TractionSetting& setting : kTractionSettings) {
+        if (!setting.layoutKey.empty()) {
+            slot.settings[setting.parameter] =
+                static_cast<std::uint8_t>(ReadSetting(reader, setting).value_or(setting.factory));
+        }
+    }
+    slot.clock =
+        static_cast<std::uint8_t>(reader.OneOf("clock", kClockWords, Need::kOptional).value_or(0));
+}
+
+/// A VD60's second unit; without a version of its own it has that of the first unit.
+ModuleSlot ReadSecondUnit(const toml::table& table, int version, LayoutProblems& problems) {
+    TableReader reader(table, problems);
     ModuleSlot slot;
-    const int type = reader.OneOf("type", kTractionTypes, Need::kOptional)
+    const int type = reader.OneOf("type", kTractionTypeWords, Need::kOptional)
                          .value_or(static_cast<int>(TractionType::kVd60));
     slot.status = StatusByte(type, ReadState(reader, kTractionStates));
     slot.version = reader.Version("version", true, Need::kOptional).value_or(version);
-    ReadClockAndRole(reader, slot);
+    ReadSettingsAndClock(reader, slot);
     reader.RejectOtherKeys();
     return slot;
 }
@@ -81,31 +85,31 @@ class ModuleReader {
   public:
     ModuleReader(Layout& layout, LayoutProblems& problems) : layout_(layout), problems_(problems) {}
 
-    void Read(const Family& family, const TomlValue& table) {
-        TableReader reader(*table.AsTable(), table.line, problems_);
-        const auto channel = reader.Whole("channel", kChannels, Need::kRequired);
-        const auto module = reader.Whole("module", {0, family.places - 1}, Need::kRequired);
+    void Read(const Family& family, const toml::table& table) {
+        TableReader reader(table, problems_);
+        const auto channel = reader.Int("channel", kChannels, Need::kRequired);
+        const auto module = reader.Int("module", {0, family.places - 1}, Need::kRequired);
         const bool isTraction = family.address == kTractionFamily;
         const int type =
-            isTraction ? reader.OneOf("type", kTractionTypes, Need::kRequired).value_or(0) : 0;
+            isTraction ? reader.OneOf("type", kTractionTypeWords, Need::kRequired).value_or(0) : 0;
         ModuleSlot slot;
         slot.status = StatusByte(type, ReadState(reader, family.states));
         slot.version = reader.Version("version", true, Need::kOptional).value_or(0);
         ModuleSlot second;
         if (isTraction) {
-            ReadClockAndRole(reader, slot);
-            if (const TomlValue* unit = reader.Table("second", Need::kOptional)) {
+            ReadSettingsAndClock(reader, slot);
+            if (const toml::table* unit = reader.Table("second", Need::kOptional)) {
                 second = ReadSecondUnit(*unit, slot.version, problems_);
                 if (type != static_cast<int>(TractionType::kVd60)) {
-                    reader.Problem(unit->line,
-                                   R"(second: a module of type "VD60" expected, no other has one)");
+                    reader.Problem(LineOf(*unit),
+                                   R"(second: expected a module of type "VD60", no other has one)");
                 }
             }
         }
         reader.RejectOtherKeys();
         if (channel && module) {
             const int place = *channel * kModulesPerChannel + *module;
-            Put(family, place, slot, table.line);
+            Put(family, place, slot, LineOf(table));
             if (second.Present()) {
                 layout_.At(kSecondaryFamily + place) = second;
             }
@@ -115,27 +119,26 @@ class ModuleReader {
   private:
     void Put(const Family& family, int place, const ModuleSlot& slot, int line) {
         const int address = family.address + place;
-        int& earlier = lines_[static_cast<std::size_t>(address)];
-        if (earlier != 0) {
+        const auto [earlier, isNew] = lines_.emplace(address, line);
+        if (!isNew) {
             problems_.push_back(
-                {line, std::string(family.key) + ": another place expected, module " +
+                {line, std::string(family.key) + ": expected another place, module " +
                            std::to_string(place % kModulesPerChannel) + " of channel " +
                            std::to_string(place / kModulesPerChannel) +
-                           " is already described in line " + std::to_string(earlier)});
+                           " is already described in line " + std::to_string(earlier->second)});
             return;
         }
-        earlier = line;
         layout_.At(address) = slot;
     }
 
     Layout& layout_;
     LayoutProblems& problems_;
-    std::array<int, kModuleAddresses> lines_{};  // of each described module; 0: none
+    std::map<int, int> lines_;  // of the described modules, by address
 };
 
-void ReadUnit(const TomlValue& table, Layout& layout, LayoutProblems& problems) {
-    TableReader reader(*table.AsTable(), table.line, problems);
-    layout.unitType = reader.OneOf("type", kUnitTypes, Need::kRequired).value_or(0);
+void ReadUnit(const toml::table& table, Layout& layout, LayoutProblems& problems) {
+    TableReader reader(table, problems);
+    layout.unitType = reader.OneOf("type", kUnitTypeWords, Need::kRequired).value_or(0);
     layout.systemVersion = reader.Version("version", false, Need::kRequired).value_or(0);
     layout.protocolVersion = reader.Version("protocol", false, Need::kRequired).value_or(0);
     const auto switches = reader.ListOf("dip-switches", kSwitches, kDipSwitches, Need::kOptional)
@@ -148,31 +151,37 @@ void ReadUnit(const TomlValue& table, Layout& layout, LayoutProblems& problems) 
     reader.RejectOtherKeys();
 }
 
-}  // namespace
-
-std::variant<DescribedLayout, LayoutProblems> ParseLayout(std::string_view text) {
-    const auto parsed = ParseToml(text);
-    if (const auto* error = std::get_if<TomlError>(&parsed)) {
-        return LayoutProblems{{error->line, error->text}};
-    }
-    constexpr int kWholeFile = 1;
-    LayoutProblems problems;
+/// Reads every table of the file.
+DescribedLayout ReadRoot(const toml::table& file, LayoutProblems& problems) {
     DescribedLayout described;
-    TableReader root(*std::get<TomlValue>(parsed).AsTable(), kWholeFile, problems);
+    TableReader root(file, problems);
     described.title = root.Text("title", kLongestTitle, Need::kOptional).value_or("");
-    if (const TomlValue* unit = root.Table("unit", Need::kRequired)) {
+    if (const toml::table* unit = root.Table("unit", Need::kRequired)) {
         ReadUnit(*unit, described.layout, problems);
     }
     ModuleReader modules(described.layout, problems);
     for (const Family& family : kFamilies) {
-        for (const TomlValue* table : root.Tables(family.key)) {
+        for (const toml::table* table : root.Tables(family.key)) {
             modules.Read(family, *table);
         }
     }
     described.layout.track = ReadTrack(root, problems);
     root.RejectOtherKeys();
-    if (problems.empty()) {
-        return described;
+    return described;
+}
+
+}  // namespace
+
+std::variant<DescribedLayout, LayoutProblems> ParseLayout(std::string_view text) {
+    LayoutProblems problems;
+    try {
+        DescribedLayout described = ReadRoot(toml::parse(text), problems);
+        if (problems.empty()) {
+            return described;
+        }
+    } catch (const toml::parse_error& error) {
+        problems = {
+            {static_cast<int>(error.source().begin.line), std::string(error.description())}};
     }
     std::stable_sort(
         problems.begin(), problems.end(),
@@ -183,7 +192,7 @@ std::variant<DescribedLayout, LayoutProblems> ParseLayout(std::string_view text)
 std::variant<DescribedLayout, std::string> ReadLayoutFile(const std::string& path) {
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) {
-        return path + ": a file expected, found a folder";
+        return path + ": expected a file, found a folder";
     }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
@@ -194,9 +203,9 @@ std::variant<DescribedLayout, std::string> ReadLayoutFile(const std::string& pat
     if (file.bad()) {
         return path + ": cannot be read";
     }
-    text.resize(static_cast<std::size_t>(file.gcount()));
+    text.resize(file.gcount());
     if (text.size() > kLargestFile) {
-        return path + ": at most " + std::to_string(kLargestFile) + " bytes expected";
+        return path + ": expected at most " + std::to_string(kLargestFile) + " bytes";
     }
     auto parsed = ParseLayout(text);
     if (auto* described = std::get_if<DescribedLayout>(&parsed)) {

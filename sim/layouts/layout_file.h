@@ -6,7 +6,7 @@
 #include <string_view>
 #include <variant>
 
-#include "sim/layouts/table_reader.h"
+#include "sim/layouts/layout_problem.h"
 #include "sim/unit/layout.h"
 
 namespace zelvar::sim {
@@ -17,18 +17,11 @@ struct DescribedLayout {
     Layout layout;
 };
 
-/// Limits of the track, in centimetres and seconds: far beyond any table, and small enough to
-/// reckon with.
-inline constexpr Limits kSectionLength{1, 10'000};
-inline constexpr Limits kTrainLength{1, 1'000};
-inline constexpr Limits kTopSpeed{1, 500};  // 300 km/h in 1:160 is 52 cm/s
-inline constexpr Limits kTrainAcceleration{0, 500};
-
-/// Reads a layout out of a text. Either all of it is right, or every problem that could be found is
-/// listed by line: after a syntax error only that one.
+/// Reads a layout from a text. If anything is wrong, every problem that can be found is listed by
+/// line; of a TOML syntax error only the first one.
 std::variant<DescribedLayout, LayoutProblems> ParseLayout(std::string_view text);
 
-/// The same out of a file. What is wrong comes as lines to print: FILE:LINE: what was expected, or
+/// Reads a layout from a file. Problems come as lines to print: FILE:LINE: what was expected, or
 /// FILE: why it cannot be read.
 std::variant<DescribedLayout, std::string> ReadLayoutFile(const std::string& path);
 

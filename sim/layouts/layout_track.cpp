@@ -5,17 +5,24 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <sstream>
 
+#include "sim/text/words.h"
 #include "sim/unit/reports.h"
 
 namespace zelvar::sim {
 
 namespace {
 
+// In centimetres and seconds: far beyond any table, and small enough to calculate with.
+constexpr Limits kSectionLength{1, 10'000};
+constexpr Limits kTrainLength{1, 1'000};
+constexpr Limits kTopSpeed{1, 500};  // 300 km/h in 1:160 is 52 cm/s
+constexpr Limits kTrainAcceleration{0, 500};
 constexpr Limits kBlockNumbers{0, kBlocks - 1};
 constexpr Limits kFeedbackNumbers{0, kFeedbackInputs - 1};
 constexpr Limits kPointNumbers{0, 511};
-constexpr std::size_t kMostWays = 2;  // behind an end of a section
+constexpr std::size_t kMaxWays = 2;  // from an end of a section, by a point
 constexpr Limits kDccAddresses{1, 10'239};
 constexpr Limits kMccAddresses{0, 4'095};
 constexpr int kHighestShortAddress = 127;
@@ -24,21 +31,17 @@ constexpr Word kControls[] = {{"analog", static_cast<int>(TrainControl::kAnalog)
                               {"dcc", static_cast<int>(TrainControl::kDcc)},
                               {"mcc", static_cast<int>(TrainControl::kMcc)}};
 
-std::string Quoted(const std::string& text) {
-    return '"' + text + '"';
-}
-
-/// What an end of a section says of itself in the file.
+/// An end of a section as the file describes it.
 struct DescribedEnd {
     int line = 0;
-    std::optional<std::vector<LocatedText>> names;  // none: not there, or wrong
+    std::optional<std::vector<LocatedText>> names;  // none: missing or wrong
     bool written = false;
 };
 
 struct DescribedSection {
     int line = 0;
-    bool hasBlock = false;   // a right one
-    bool hasLength = false;  // a right one
+    bool hasBlock = false;   // a valid one
+    bool hasLength = false;  // a valid one
     DescribedEnd next;
     DescribedEnd previous;
 };
@@ -55,8 +58,8 @@ class TrackReader {
   public:
     explicit TrackReader(LayoutProblems& problems) : problems_(problems) {}
 
-    void ReadSection(const TomlValue& table);
-    void ReadTrain(const TomlValue& table);
+    void ReadSection(const toml::table& table);
+    void ReadTrain(const toml::table& table);
     /// Connects the sections by their names, once all are read.
     void Connect();
 
@@ -64,9 +67,9 @@ class TrackReader {
 
   private:
     void Problem(int line, std::string text) { problems_.push_back({line, std::move(text)}); }
-    /// Notes `key` of a section or train as taken; whether it was free.
+    /// Registers `key` of a section or train; a key that is taken already is a problem.
     template <typename Key>
-    bool TakeOnce(std::map<Key, int>& taken, const Key& key, int line, const std::string& what);
+    void TakeOnce(std::map<Key, int>& taken, const Key& key, int line, const std::string& what);
     DescribedEnd ReadEnd(TableReader& reader, const EndKeys& keys, TrackEnd& end);
     void ReadAddress(TableReader& reader, Train& train);
     void PlaceTrain(TableReader& reader, Train& train, const std::string& section);
@@ -85,55 +88,53 @@ class TrackReader {
 };
 
 template <typename Key>
-bool TrackReader::TakeOnce(std::map<Key, int>& taken, const Key& key, int line,
+void TrackReader::TakeOnce(std::map<Key, int>& taken, const Key& key, int line,
                            const std::string& what) {
     const auto [entry, isNew] = taken.emplace(key, line);
     if (!isNew) {
         Problem(line, what + " in line " + std::to_string(entry->second));
     }
-    return isNew;
 }
 
 DescribedEnd TrackReader::ReadEnd(TableReader& reader, const EndKeys& keys, TrackEnd& end) {
     DescribedEnd described{reader.LineOf(keys.ways), std::nullopt, reader.Has(keys.ways)};
-    described.names = reader.Names(keys.ways, kMostWays, Need::kOptional);
-    end.point = reader.Whole(keys.point, kPointNumbers, Need::kOptional);
-    const bool forks = described.names && described.names->size() == kMostWays;
+    described.names = reader.Names(keys.ways, kMaxWays, Need::kOptional);
+    end.point = reader.Int(keys.point, kPointNumbers, Need::kOptional);
+    const bool forks = described.names && described.names->size() == kMaxWays;
     const bool isRight = !described.written || described.names.has_value();
     if (forks && !reader.Has(keys.point)) {
-        Problem(described.line, std::string(keys.ways) + ": " + std::string(keys.point) +
-                                    " expected beside two names");
+        Problem(described.line, std::string(keys.ways) + ": expected " + std::string(keys.point) +
+                                    " beside two names");
     } else if (!forks && isRight && reader.Has(keys.point)) {
-        Problem(reader.LineOf(keys.point), std::string(keys.point) + ": two names in " +
-                                               std::string(keys.ways) +
-                                               " expected, straight on and thrown");
+        Problem(reader.LineOf(keys.point), std::string(keys.point) + ": expected two names in " +
+                                               std::string(keys.ways) + ", straight on and thrown");
     }
     return described;
 }
 
-void TrackReader::ReadSection(const TomlValue& table) {
-    TableReader reader(*table.AsTable(), table.line, problems_);
+void TrackReader::ReadSection(const toml::table& table) {
+    TableReader reader(table, problems_);
     TrackSection section;
     DescribedSection described;
-    described.line = table.line;
+    described.line = LineOf(table);
     section.name = reader.Name("name", Need::kRequired).value_or("");
-    const auto block = reader.Whole("block", kBlockNumbers, Need::kRequired);
+    const auto block = reader.Int("block", kBlockNumbers, Need::kRequired);
     const auto length = reader.Number("length", kSectionLength, Need::kRequired);
     section.block = block.value_or(0);
     section.length = length.value_or(0);
     described.hasBlock = block.has_value();
     described.hasLength = length.has_value();
-    section.feedback = reader.Whole("feedback", kFeedbackNumbers, Need::kOptional);
+    section.feedback = reader.Int("feedback", kFeedbackNumbers, Need::kOptional);
     described.next = ReadEnd(reader, kNext, section.front);
     described.previous = ReadEnd(reader, kPrevious, section.back);
     reader.RejectOtherKeys();
     if (!section.name.empty()) {
         TakeOnce(sectionLines_, section.name, reader.LineOf("name"),
-                 "name: another one expected, there is already a section " + Quoted(section.name));
+                 "name: expected another one, there is already a section " + Quoted(section.name));
     }
     if (section.feedback) {
         TakeOnce(feedbackLines_, *section.feedback, reader.LineOf("feedback"),
-                 "feedback: an input of its own expected, " + std::to_string(*section.feedback) +
+                 "feedback: expected an input of its own, " + std::to_string(*section.feedback) +
                      " is already used");
     }
     plan.sections.push_back(std::move(section));
@@ -147,7 +148,7 @@ std::optional<std::size_t> TrackReader::SectionNamed(const std::string& name) co
     if (found == plan.sections.end()) {
         return std::nullopt;
     }
-    return static_cast<std::size_t>(found - plan.sections.begin());
+    return found - plan.sections.begin();
 }
 
 std::vector<std::size_t> TrackReader::Indexes(const DescribedEnd& end, std::string_view key) {
@@ -156,7 +157,7 @@ std::vector<std::size_t> TrackReader::Indexes(const DescribedEnd& end, std::stri
         if (const auto index = SectionNamed(name.text)) {
             indexes.push_back(*index);
         } else {
-            Problem(name.line, std::string(key) + ": the name of a section expected, found " +
+            Problem(name.line, std::string(key) + ": expected the name of a section, found " +
                                    Quoted(name.text));
         }
     }
@@ -178,7 +179,7 @@ void TrackReader::DerivePrevious(std::size_t index) {
     }
     if (before.size() > 1) {
         Problem(described_[index].line, "section " + Quoted(plan.sections[index].name) +
-                                            ": previous and previous-point expected, since " +
+                                            ": expected previous and previous-point, since " +
                                             JoinedWith(names, "and") + " lead here");
     }
     plan.sections[index].back.sections = before;
@@ -192,8 +193,8 @@ void TrackReader::ExpectWayBack(std::size_t index, const TrackEnd& end,
         const bool isWrong = (theirs.next.written && !theirs.next.names) ||
                              (theirs.previous.written && !theirs.previous.names);
         if (!isWrong && !Leads(section.front, index) && !Leads(section.back, index)) {
-            Problem(described.line, std::string(key) + ": a section that leads back to " +
-                                        Quoted(plan.sections[index].name) + " expected, " +
+            Problem(described.line, std::string(key) + ": expected a section that leads back to " +
+                                        Quoted(plan.sections[index].name) + "; " +
                                         Quoted(section.name) +
                                         " names it neither in next nor in previous");
         }
@@ -223,26 +224,28 @@ void TrackReader::ReadAddress(TableReader& reader, Train& train) {
     if (train.control == TrainControl::kAnalog) {
         reader.Allow("address");
         if (reader.Has("address")) {
-            Problem(reader.LineOf("address"),
-                    R"(address: control = "dcc" or "mcc" expected, an analog train has none)");
+            Problem(
+                reader.LineOf("address"),
+                R"(address: expected only with control = "dcc" or "mcc", an analog train has none)");
         }
     } else {
         const bool isDcc = train.control == TrainControl::kDcc;
         train.address =
-            reader.Whole("address", isDcc ? kDccAddresses : kMccAddresses, Need::kRequired)
+            reader.Int("address", isDcc ? kDccAddresses : kMccAddresses, Need::kRequired)
                 .value_or(0);
     }
     // Above this number there is no short address.
     train.longAddress = train.control == TrainControl::kDcc && train.address > kHighestShortAddress;
-    const std::optional<bool> isLong = reader.Truth("long-address", Need::kOptional);
+    const std::optional<bool> isLong = reader.Bool("long-address", Need::kOptional);
     if (!isLong) {
         return;
     }
     if (train.control != TrainControl::kDcc) {
-        Problem(reader.LineOf("long-address"),
-                R"(long-address: control = "dcc" expected, only its addresses are long or short)");
+        Problem(
+            reader.LineOf("long-address"),
+            R"(long-address: expected only with control = "dcc", other addresses have one form)");
     } else if (train.longAddress && !*isLong) {
-        Problem(reader.LineOf("long-address"), "long-address: true expected above address " +
+        Problem(reader.LineOf("long-address"), "long-address: expected true above address " +
                                                    std::to_string(kHighestShortAddress) +
                                                    ", found false");
     }
@@ -253,24 +256,24 @@ void TrackReader::PlaceTrain(TableReader& reader, Train& train, const std::strin
     const auto index = SectionNamed(section);
     if (!index) {
         Problem(reader.LineOf("section"),
-                "section: the name of a section expected, found " + Quoted(section));
+                "section: expected the name of a section, found " + Quoted(section));
         return;
     }
     train.section = *index;
     const TrackSection& place = plan.sections[*index];
     if (described_[*index].hasBlock) {
         TakeOnce(occupiedLines_, place.block, reader.LineOf("section"),
-                 "section: one in another block expected, a train begins in block " +
-                     std::to_string(place.block) + " already");
+                 "section: expected one in another block, a train already begins in block " +
+                     std::to_string(place.block));
     }
     if (!described_[*index].hasLength) {
-        return;  // told already, and nothing fits what is not known
+        return;  // already reported; cannot check further without a valid length
     }
-    const std::string room =
-        Shown({place.length, 0}) + " cm of section " + Quoted(place.name) + " expected";
+    std::ostringstream room;
+    room << "at most the " << place.length << " cm of section " << Quoted(place.name);
     if (train.length > place.length) {
         Problem(reader.LineOf("length"),
-                "length: at most the " + room + ", where the train begins");
+                "length: expected " + room.str() + ", where the train begins");
         return;
     }
     // In the middle, unless the file says otherwise.
@@ -278,12 +281,12 @@ void TrackReader::PlaceTrain(TableReader& reader, Train& train, const std::strin
     train.position = isPlaced ? train.position : (place.length + train.length) / 2;
     if (isPlaced && (train.position < train.length || train.position > place.length)) {
         Problem(reader.LineOf("position"),
-                "position: at least the train's length and at most the " + room);
+                "position: expected at least the train's length and " + room.str());
     }
 }
 
-void TrackReader::ReadTrain(const TomlValue& table) {
-    TableReader reader(*table.AsTable(), table.line, problems_);
+void TrackReader::ReadTrain(const toml::table& table) {
+    TableReader reader(table, problems_);
     Train train;
     train.name = reader.Name("name", Need::kRequired).value_or("");
     const auto control = reader.OneOf("control", kControls, Need::kRequired);
@@ -293,13 +296,13 @@ void TrackReader::ReadTrain(const TomlValue& table) {
     }
     const auto section = reader.Name("section", Need::kRequired);
     const auto length = reader.Number("length", kTrainLength, Need::kRequired);
-    const auto position = reader.Number("position", {0, kSectionLength.most}, Need::kOptional);
+    const auto position = reader.Number("position", {0, kSectionLength.max}, Need::kOptional);
     train.topSpeed = reader.Number("top-speed", kTopSpeed, Need::kRequired).value_or(0);
     train.acceleration =
         reader.Number("acceleration", kTrainAcceleration, Need::kOptional).value_or(0);
     if (!train.name.empty()) {
         TakeOnce(trainLines_, train.name, reader.LineOf("name"),
-                 "name: another one expected, there is already a train " + Quoted(train.name));
+                 "name: expected another one, there is already a train " + Quoted(train.name));
     }
     const bool isPlaceable = length && position.has_value() == reader.Has("position");
     if (section && isPlaceable) {
@@ -307,7 +310,7 @@ void TrackReader::ReadTrain(const TomlValue& table) {
         train.position = position.value_or(0);
         PlaceTrain(reader, train, *section);
     }
-    // Without a right control nobody knows which of these belong here.
+    // Without a valid control it is unknown which of these belong here.
     if (!control) {
         reader.Allow("address");
         reader.Allow("long-address");
@@ -320,11 +323,11 @@ void TrackReader::ReadTrain(const TomlValue& table) {
 
 TrackPlan ReadTrack(TableReader& root, LayoutProblems& problems) {
     TrackReader reader(problems);
-    for (const TomlValue* table : root.Tables("section")) {
+    for (const toml::table* table : root.Tables("section")) {
         reader.ReadSection(*table);
     }
     reader.Connect();
-    for (const TomlValue* table : root.Tables("train")) {
+    for (const toml::table* table : root.Tables("train")) {
         reader.ReadTrain(*table);
     }
     return std::move(reader.plan);

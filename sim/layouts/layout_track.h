@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sim/layouts/layout_file.h"
+#include "sim/layouts/table_reader.h"
 #include "sim/railway/track_plan.h"
 
 namespace zelvar::sim {

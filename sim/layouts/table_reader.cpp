@@ -3,21 +3,14 @@
 #include "sim/layouts/table_reader.h"
 
 #include <algorithm>
-#include <cmath>
+#include <sstream>
 
+#include "sim/text/number.h"
 #include "sim/unit/layout.h"
 
 namespace zelvar::sim {
 
 namespace {
-
-std::string RangeText(Limits limits) {
-    return std::to_string(limits.least) + ".." + std::to_string(limits.most);
-}
-
-std::string Quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
 
 bool IsPrintable(const std::string& text) {
     constexpr unsigned char kFirstPrintable = 0x20;
@@ -28,7 +21,7 @@ bool IsPrintable(const std::string& text) {
     });
 }
 
-/// D.DD, or D.DD and a letter A..G behind a blank, as a decimal number.
+/// D.DD, or D.DD and a letter A..G after a space, as a decimal number.
 std::optional<int> ParseVersion(std::string_view text) {
     constexpr std::size_t kPlain = 4;
     constexpr std::size_t kWithLetter = 6;
@@ -59,81 +52,97 @@ std::optional<int> ParseVersion(std::string_view text) {
     return version + (letter - 'A' + 1);
 }
 
-}  // namespace
-
-std::string JoinedWith(std::span<const std::string> parts, std::string_view last) {
-    std::string text;
-    for (std::size_t index = 0; index < parts.size(); ++index) {
-        if (index > 0) {
-            text += index + 1 == parts.size() ? ' ' + std::string(last) + ' ' : ", ";
-        }
-        text += parts[index];
+/// A value as a message shows it, in one line: `7`, `"north"`, `a list of 3`.
+std::string Shown(const toml::node& value) {
+    constexpr std::size_t kLongestShown = 60;  // bytes
+    if (value.is_table()) {
+        return "a table";
+    }
+    if (const toml::array* list = value.as_array()) {
+        return "a list of " + std::to_string(list->size());
+    }
+    std::ostringstream out;
+    if (const auto* number = value.as_floating_point()) {
+        out << number->get();  // toml++ would show 3.2 with all its digits
+    } else {
+        // Control characters come as escapes, so that a message does not drive the terminal.
+        out << toml::toml_formatter(value, toml::format_flags::allow_unicode_strings);
+    }
+    std::string text = out.str();
+    if (text.size() > kLongestShown) {
+        text.replace(kLongestShown, std::string::npos, "...");
     }
     return text;
 }
 
-const TomlValue* TableReader::Find(std::string_view key) const {
-    const auto entry = std::find_if(table_.begin(), table_.end(), [&](const TomlEntry& candidate) {
-        return candidate.key == key;
-    });
-    return entry == table_.end() ? nullptr : &entry->value;
+}  // namespace
+
+int LineOf(const toml::node& node) {
+    return std::max(1, static_cast<int>(node.source().begin.line));
 }
 
-const TomlValue* TableReader::Take(std::string_view key, Need need) {
-    known_.push_back(key);
-    const TomlValue* found = Find(key);
+const toml::node* TableReader::Take(std::string_view key, Need need) {
+    Allow(key);
+    const toml::node* found = table_.get(key);
     if (found == nullptr && need == Need::kRequired) {
-        Problem(line_, std::string(key) + ": expected here, but missing");
+        Problem(sim::LineOf(table_), std::string(key) + ": expected here, but missing");
     }
     return found;
 }
 
-void TableReader::Wrong(std::string_view key, const TomlValue& found, const std::string& expected) {
-    Problem(found.line, std::string(key) + ": " + expected + " expected, found " + Shown(found));
+void TableReader::Wrong(std::string_view key, const toml::node& found,
+                        const std::string& expected) {
+    Problem(sim::LineOf(found),
+            std::string(key) + ": expected " + expected + ", found " + Shown(found));
 }
 
 int TableReader::LineOf(std::string_view key) const {
-    const TomlValue* found = Find(key);
-    return found == nullptr ? line_ : found->line;
+    const toml::node* found = table_.get(key);
+    return sim::LineOf(found == nullptr ? table_ : *found);
 }
 
-std::optional<int> TableReader::Whole(std::string_view key, Limits limits, Need need) {
-    const TomlValue* found = Take(key, need);
+std::optional<int> TableReader::Int(std::string_view key, Limits limits, Need need) {
+    const toml::node* found = Take(key, need);
     if (found == nullptr) {
         return std::nullopt;
     }
-    const auto* number = std::get_if<std::int64_t>(&found->value);
-    if (number == nullptr || *number < limits.least || *number > limits.most) {
-        Wrong(key, *found, "a whole number " + RangeText(limits));
+    const auto number = found->value_exact<std::int64_t>();
+    if (!number || *number < limits.min || *number > limits.max) {
+        Wrong(key, *found, "a whole number " + RangeText(limits.min, limits.max));
         return std::nullopt;
     }
     return static_cast<int>(*number);
 }
 
 std::optional<double> TableReader::Number(std::string_view key, Limits limits, Need need) {
-    const TomlValue* found = Take(key, need);
+    const toml::node* found = Take(key, need);
     if (found == nullptr) {
         return std::nullopt;
     }
-    double number = std::nan("");  // outside all limits, as is a "nan" in the file
-    if (const auto* whole = std::get_if<std::int64_t>(&found->value)) {
-        number = static_cast<double>(*whole);
-    } else if (const auto* fraction = std::get_if<double>(&found->value)) {
-        number = *fraction;
-    }
-    if (!(number >= limits.least && number <= limits.most)) {
-        Wrong(key, *found, "a number " + RangeText(limits));
+    const auto number = found->is_number() ? found->value<double>() : std::nullopt;
+    // A "nan" in the file is outside all limits.
+    if (!number || !(*number >= limits.min && *number <= limits.max)) {
+        Wrong(key, *found, "a number " + RangeText(limits.min, limits.max));
         return std::nullopt;
     }
     return number;
 }
 
-std::optional<int> TableReader::WordValue(std::string_view key, const TomlValue& found,
+std::optional<bool> TableReader::Bool(std::string_view key, Need need) {
+    const toml::node* found = Take(key, need);
+    const auto value = found == nullptr ? std::nullopt : found->value_exact<bool>();
+    if (found != nullptr && !value) {
+        Wrong(key, *found, "true or false");
+    }
+    return value;
+}
+
+std::optional<int> TableReader::WordValue(std::string_view key, const toml::node& found,
                                           std::span<const Word> words) {
-    const auto* text = std::get_if<std::string>(&found.value);
+    const auto text = found.value_exact<std::string_view>();
     std::vector<std::string> choices;
     for (const Word& word : words) {
-        if (text != nullptr && *text == word.text) {
+        if (text == word.text) {
             return word.value;
         }
         choices.push_back(Quoted(word.text));
@@ -144,24 +153,24 @@ std::optional<int> TableReader::WordValue(std::string_view key, const TomlValue&
 
 std::optional<int> TableReader::OneOf(std::string_view key, std::span<const Word> words,
                                       Need need) {
-    const TomlValue* found = Take(key, need);
+    const toml::node* found = Take(key, need);
     return found == nullptr ? std::nullopt : WordValue(key, *found, words);
 }
 
 std::optional<std::vector<int>> TableReader::ListOf(std::string_view key,
                                                     std::span<const Word> words, std::size_t count,
                                                     Need need) {
-    const TomlValue* found = Take(key, need);
+    const toml::node* found = Take(key, need);
     if (found == nullptr) {
         return std::nullopt;
     }
-    const TomlArray* list = found->AsArray();
+    const toml::array* list = found->as_array();
     if (list == nullptr || list->size() != count) {
         Wrong(key, *found, "a list of " + std::to_string(count) + " words");
         return std::nullopt;
     }
     std::vector<int> values;
-    for (const TomlValue& item : *list) {
+    for (const toml::node& item : *list) {
         if (const std::optional<int> value = WordValue(key, item, words)) {
             values.push_back(*value);
         }
@@ -169,127 +178,120 @@ std::optional<std::vector<int>> TableReader::ListOf(std::string_view key,
     return values.size() == count ? std::optional(values) : std::nullopt;
 }
 
-std::optional<bool> TableReader::Truth(std::string_view key, Need need) {
-    const TomlValue* found = Take(key, need);
-    if (found == nullptr) {
-        return std::nullopt;
-    }
-    const bool* truth = std::get_if<bool>(&found->value);
-    if (truth == nullptr) {
-        Wrong(key, *found, "true or false");
-        return std::nullopt;
-    }
-    return *truth;
-}
-
 std::optional<std::string> TableReader::Text(std::string_view key, std::size_t longest, Need need) {
-    const TomlValue* found = Take(key, need);
+    const toml::node* found = Take(key, need);
     if (found == nullptr) {
         return std::nullopt;
     }
-    const auto* text = std::get_if<std::string>(&found->value);
-    if (text == nullptr || text->size() > longest || !IsPrintable(*text)) {
+    auto text = found->value_exact<std::string>();
+    if (!text || text->size() > longest || !IsPrintable(*text)) {
         Wrong(key, *found, "a text of 1.." + std::to_string(longest) + " characters");
         return std::nullopt;
     }
-    return *text;
+    return text;
 }
 
-std::optional<std::vector<LocatedText>> TableReader::Names(std::string_view key, std::size_t most,
+std::optional<std::vector<LocatedText>> TableReader::Names(std::string_view key, std::size_t max,
                                                            Need need) {
-    const TomlValue* found = Take(key, need);
+    const toml::node* found = Take(key, need);
     if (found == nullptr) {
         return std::nullopt;
     }
-    const TomlArray single{*found};
-    const TomlArray& list = found->AsArray() != nullptr ? *found->AsArray() : single;
+    std::vector<const toml::node*> items;
+    if (const toml::array* list = found->as_array()) {
+        for (const toml::node& item : *list) {
+            items.push_back(&item);
+        }
+    } else {
+        items.push_back(found);
+    }
     std::vector<LocatedText> names;
-    for (const TomlValue& item : list) {
-        const auto* text = std::get_if<std::string>(&item.value);
-        if (text == nullptr) {
-            Wrong(key, item, "a name or a list of names");
+    for (const toml::node* item : items) {
+        auto text = item->value_exact<std::string>();
+        if (!text) {
+            Wrong(key, *item, "a name or a list of names");
             return std::nullopt;
         }
         if (std::any_of(names.begin(), names.end(),
                         [&](const LocatedText& name) { return name.text == *text; })) {
-            Problem(item.line, std::string(key) + ": different names expected, found " +
-                                   Shown(item) + " twice");
+            Problem(sim::LineOf(*item), std::string(key) + ": expected different names, found " +
+                                            Shown(*item) + " twice");
             return std::nullopt;
         }
-        names.push_back({*text, item.line});
+        names.push_back({std::move(*text), sim::LineOf(*item)});
     }
-    if (names.size() > most) {
-        Problem(found->line, std::string(key) + ": at most " + std::to_string(most) +
-                                 " names expected, found " + std::to_string(names.size()));
+    if (names.size() > max) {
+        Problem(sim::LineOf(*found), std::string(key) + ": expected at most " +
+                                         std::to_string(max) + " names, found " +
+                                         std::to_string(names.size()));
         return std::nullopt;
     }
     return names;
 }
 
-std::optional<int> TableReader::Version(std::string_view key, bool mayBeNone, Need need) {
-    const TomlValue* found = Take(key, need);
+std::optional<int> TableReader::Version(std::string_view key, bool orNone, Need need) {
+    const toml::node* found = Take(key, need);
     if (found == nullptr) {
         return std::nullopt;
     }
-    const auto* text = std::get_if<std::string>(&found->value);
-    if (text != nullptr && mayBeNone && *text == "none") {
+    const auto text = found->value_exact<std::string_view>();
+    if (orNone && text == "none") {
         return 0;
     }
-    const std::optional<int> version = text == nullptr ? std::nullopt : ParseVersion(*text);
-    // The two bytes that carry a version have no room for every number.
+    const std::optional<int> version = text ? ParseVersion(*text) : std::nullopt;
+    // The two bytes that carry a version cannot hold every number.
     if (!version || !EncodeVersion(*version)) {
-        const bool unquoted = std::holds_alternative<double>(found->value) ||
-                              std::holds_alternative<std::int64_t>(found->value);
         Wrong(key, *found,
-              std::string(R"(a version like "1.02" or "1.02 C")") +
-                  (unquoted ? " in quotation marks" : "") +
-                  R"(, up to "9.85 G", the digits behind the point at most 85,)" +
-                  (mayBeNone ? R"( or "none")" : ""));
+              std::string(orNone ? R"("none" or )" : "") + R"(a version like "1.02" or "1.02 C")" +
+                  (found->is_number() ? " in quotation marks" : "") +
+                  R"(, at most "9.85 G" and at most 85 after the point)");
         return std::nullopt;
     }
     return version;
 }
 
-const TomlValue* TableReader::Table(std::string_view key, Need need) {
-    const TomlValue* found = Take(key, Need::kOptional);
-    if (found == nullptr && need == Need::kRequired) {
-        // A table stands anywhere in the file, not "here".
-        Problem(line_, "[" + std::string(key) + "]: expected, but missing");
-    }
-    if (found != nullptr && found->AsTable() == nullptr) {
-        Wrong(key, *found, "a table, [" + std::string(key) + "] or { ... },");
+const toml::table* TableReader::Table(std::string_view key, Need need) {
+    const toml::node* found = Take(key, Need::kOptional);
+    if (found == nullptr) {
+        if (need == Need::kRequired) {
+            // A table stands anywhere in the file, not "here".
+            Problem(sim::LineOf(table_), "[" + std::string(key) + "]: expected, but missing");
+        }
         return nullptr;
     }
-    return found;
+    if (!found->is_table()) {
+        Wrong(key, *found, "a table, [" + std::string(key) + "] or { ... }");
+    }
+    return found->as_table();
 }
 
-std::vector<const TomlValue*> TableReader::Tables(std::string_view key) {
-    const TomlValue* found = Take(key, Need::kOptional);
-    std::vector<const TomlValue*> tables;
+std::vector<const toml::table*> TableReader::Tables(std::string_view key) {
+    const toml::node* found = Take(key, Need::kOptional);
+    std::vector<const toml::table*> tables;
     if (found == nullptr) {
         return tables;
     }
-    const std::string expected = "tables, each under its own [[" + std::string(key) + "]],";
-    if (found->AsArray() == nullptr) {
+    const std::string expected = "tables, each under its own [[" + std::string(key) + "]]";
+    const toml::array* list = found->as_array();
+    if (list == nullptr) {
         Wrong(key, *found, expected);
         return tables;
     }
-    for (const TomlValue& item : *found->AsArray()) {
-        if (item.AsTable() == nullptr) {
-            Wrong(key, item, expected);
+    for (const toml::node& item : *list) {
+        if (const toml::table* table = item.as_table()) {
+            tables.push_back(table);
         } else {
-            tables.push_back(&item);
+            Wrong(key, item, expected);
         }
     }
     return tables;
 }
 
 void TableReader::RejectOtherKeys() {
-    std::vector<std::string> names(known_.begin(), known_.end());
-    for (const TomlEntry& entry : table_) {
-        if (std::find(known_.begin(), known_.end(), entry.key) == known_.end()) {
-            Problem(entry.line, "unknown key " + Quoted(entry.key) + ": " +
-                                    JoinedWith(names, "or") + " expected");
+    for (const auto& [key, value] : table_) {
+        if (std::find(known_.begin(), known_.end(), key.str()) == known_.end()) {
+            Problem(static_cast<int>(key.source().begin.line),
+                    "unknown key " + Quoted(key.str()) + ": expected " + JoinedWith(known_, "or"));
         }
     }
 }

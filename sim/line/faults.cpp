@@ -20,6 +20,16 @@ bool Remaining::Take() {
     return true;
 }
 
+std::string Remaining::Describe() const {
+    if (count_ == kForever) {
+        return "every reply";
+    }
+    if (count_ > 1) {
+        return "next " + std::to_string(count_) + " replies";
+    }
+    return count_ == 1 ? "next reply" : "";
+}
+
 void Faults::SetSilent(bool silent) {
     if (silent) {
         answersLeft_ = 0;
@@ -41,6 +51,35 @@ void Faults::SetLate(std::chrono::milliseconds delay, std::optional<int> replies
 
 void Faults::AddStray(const std::vector<std::uint8_t>& bytes) {
     stray_.insert(stray_.end(), bytes.begin(), bytes.end());
+}
+
+std::vector<ArmedFault> Faults::Armed() const {
+    const auto inMs = [](std::chrono::milliseconds time) {
+        return std::to_string(time.count()) + " ms";
+    };
+    std::vector<ArmedFault> armed;
+    const auto add = [&](std::string_view command, const Remaining& replies,
+                         const std::string& amount = "") {
+        if (replies.Active()) {
+            armed.push_back({command, amount + replies.Describe()});
+        }
+    };
+    if (silent()) {
+        armed.push_back({"silent", "no reply"});
+    } else if (answersLeft_) {
+        armed.push_back({"silent-after", std::to_string(*answersLeft_) + " more replies"});
+    }
+    add("late", late_, inMs(lateBy_) + ", ");
+    add("bad-checksum", badChecksum_);
+    add("short", short_);
+    add("double", double_);
+    if (!stray_.empty()) {
+        armed.push_back({"stray", std::to_string(stray_.size()) + " bytes before the next reply"});
+    }
+    if (drip_.count() > 0) {
+        armed.push_back({"drip", inMs(drip_) + " more between two bytes"});
+    }
+    return armed;
 }
 
 std::optional<OutgoingReply> Faults::Apply(std::vector<std::uint8_t> reply) {

@@ -5,6 +5,8 @@
 #include <chrono>
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace zelvar::sim {
@@ -18,18 +20,26 @@ class Remaining {
     /// Whether this reply is hit; counts it.
     bool Take();
     bool Active() const { return count_ != 0; }
+    /// "next reply", "next 3 replies" or "every reply"; empty when no reply will be hit.
+    std::string Describe() const;
 
   private:
     static constexpr int kForever = -1;
     int count_ = 0;
 };
 
-/// A reply as it is to leave: its bytes, how much later than usual it starts, and how much time
-/// more than the line needs lies between two bytes.
+/// A reply as it will leave: its bytes, how much later than usual it starts, and the extra time
+/// between two bytes.
 struct OutgoingReply {
     std::vector<std::uint8_t> bytes;
     std::chrono::milliseconds delay{0};
     std::chrono::milliseconds byteGap{0};
+};
+
+/// A fault that will hit a reply: the console command that set it, and what it will do.
+struct ArmedFault {
+    std::string_view command;
+    std::string effect;
 };
 
 /// What the unit does wrong on request. Everything is off at the start.
@@ -44,12 +54,13 @@ class Faults {
     void SetBadChecksums(int replies) { badChecksum_.Set(replies); }
     void SetShort(int replies) { short_.Set(replies); }
     void SetDouble(int replies) { double_.Set(replies); }
-    /// Bytes sent before the next reply, behind those that already wait for it.
+    /// Bytes sent before the next reply, after those that already wait for it.
     void AddStray(const std::vector<std::uint8_t>& bytes);
-    /// Time between two bytes beyond the line's own; 0 turns it off.
+    /// Extra time between two bytes, beyond the line's own; 0 turns it off.
     void SetDrip(std::chrono::milliseconds gap) { drip_ = gap; }
 
     bool silent() const { return answersLeft_ == 0; }
+    std::vector<ArmedFault> Armed() const;
 
     /// The reply with every fault that is due; nothing while silent. Each call counts one reply.
     std::optional<OutgoingReply> Apply(std::vector<std::uint8_t> reply);

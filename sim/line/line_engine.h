@@ -19,8 +19,8 @@ namespace zelvar::sim {
 /// Joins the unit to a line: bytes in, bytes out at their times. Knows neither clock nor device.
 class LineEngine {
   public:
-    /// Told of every frame: received ones when they are complete or the next one cuts them off,
-    /// replies when they are queued.
+    /// Gets every frame: a received one when it is complete or the next one cuts it off, a reply
+    /// when it is queued.
     using TraceSink = std::function<void(bool sent, std::span<const std::uint8_t> bytes)>;
 
     /// `unitDelay` lies between a command's last bit and the first one of its reply.

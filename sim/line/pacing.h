@@ -16,7 +16,8 @@ class Pacer {
     explicit Pacer(int baud = 0) { SetBaud(baud); }
     void SetBaud(int baud);
 
-    /// One byte handed to the line at `now`, behind those before it: when its last bit is over.
+    /// The time of the last bit of a byte that is handed over at `now` and follows the bytes before
+    /// it.
     std::chrono::nanoseconds Pass(std::chrono::nanoseconds now);
     /// Forgets the bytes handed over so far; the next one finds the line free.
     void Restart() { freeAt_ = std::chrono::nanoseconds::min(); }

@@ -9,7 +9,11 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
-#include <stdlib.h>  // NOLINT: the pseudo-terminal calls are not in <cstdlib>
+#ifdef __APPLE__
+#include <util.h>
+#else
+#include <pty.h>
+#endif
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <system_error>
@@ -30,35 +34,30 @@ struct Rate {
 constexpr Rate kRates[] = {
     {B9600, 9600}, {B19200, 19200}, {B38400, 38400}, {B57600, 57600}, {B115200, 115200}};
 
-/// Raw mode at a rate; parity only where there is a real line.
+/// Raw mode at a rate; parity only on a real line.
 bool SetRaw(int fd, int baud, bool oddParity) {
     termios settings{};
     if (tcgetattr(fd, &settings) != 0) {
         return false;
     }
-    settings.c_iflag = 0;
-    settings.c_oflag = 0;
-    settings.c_lflag = 0;
-    settings.c_cflag &= ~static_cast<tcflag_t>(CSIZE | PARENB | PARODD | CSTOPB);
-    settings.c_cflag |= CS8 | CREAD | CLOCAL;
-    if (oddParity) {
-        settings.c_cflag |= PARENB | PARODD;
-    }
+    cfmakeraw(&settings);  // 8 data bits, no parity
+    settings.c_cflag &= ~static_cast<tcflag_t>(CSTOPB);
+    settings.c_cflag |= CREAD | CLOCAL | (oddParity ? PARENB | PARODD : 0);
     settings.c_cc[VMIN] = 1;
     settings.c_cc[VTIME] = 0;
     for (const Rate& rate : kRates) {
         if (rate.baud == baud) {
-            cfsetispeed(&settings, rate.code);
-            cfsetospeed(&settings, rate.code);
+            cfsetspeed(&settings, rate.code);
         }
     }
     return tcsetattr(fd, TCSANOW, &settings) == 0;
 }
 
-/// Says to others that this program serves the link: a name of its own that goes with the program,
-/// however that ends. Not a mark on the pseudo-terminal behind the link, since one that is gone
-/// leaves its number to the next.
-/// @return what holds the mark while it is open; nothing when another program has it
+/// Marks the link as served by this program: a socket name that vanishes with the program, however
+/// that ends. The pseudo-terminal itself cannot carry the mark, because the next one takes over its
+/// number.
+/// @return the descriptor that holds the mark while it is open (-1: none could be made); nothing if
+/// another program has it
 std::optional<int> MarkAsServed(const std::string& link) {
 #ifdef __linux__
     std::error_code error;
@@ -67,7 +66,7 @@ std::optional<int> MarkAsServed(const std::string& link) {
     const std::size_t hash = std::hash<std::string>()(folder / whole.filename());
     sockaddr_un name{};
     name.sun_family = AF_UNIX;
-    // A zero first: no file stands for it.
+    // A zero first: the name is not that of a file.
     const std::string text = '\0' + ("zelvarsim-" + std::to_string(hash));
     text.copy(name.sun_path, sizeof name.sun_path);
     const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + text.size());
@@ -99,18 +98,13 @@ std::optional<std::string> SerialLine::Fail(const std::string& what) {
 
 std::optional<std::string> SerialLine::OpenPseudoTerminal(const std::string& link, int baud) {
     Close();
-    fd_ = posix_openpt(O_RDWR | O_NOCTTY);
-    if (fd_ < 0 || grantpt(fd_) != 0 || unlockpt(fd_) != 0 || !SetNonBlocking(fd_)) {
+    if (openpty(&fd_, &slaveFd_, nullptr, nullptr, nullptr) != 0) {
         return Fail("no pseudo-terminal");
     }
-    const char* name = ptsname(fd_);
-    if (name == nullptr) {
-        return Fail("no pseudo-terminal");
-    }
-    slaveName_ = name;
-    slaveFd_ = open(name, O_RDWR | O_NOCTTY);
-    if (slaveFd_ < 0 || !SetRaw(slaveFd_, baud, false)) {
-        return Fail(slaveName_);
+    const char* name = ttyname(slaveFd_);
+    slaveName_ = name == nullptr ? "" : name;
+    if (name == nullptr || !SetNonBlocking(fd_) || !SetRaw(slaveFd_, baud, false)) {
+        return Fail("the pseudo-terminal " + slaveName_);
     }
     path_ = slaveName_;
     if (!link.empty()) {
@@ -147,7 +141,7 @@ std::optional<std::string> SerialLine::OpenDevice(const std::string& path, int b
 
 void SerialLine::Close() {
     if (!link_.empty()) {
-        // Somebody else may have put a link of their own there meanwhile.
+        // Another program may have put a link of its own there meanwhile.
         std::error_code error;
         if (std::filesystem::read_symlink(link_, error) == slaveName_ && !error) {
             std::filesystem::remove(link_, error);
@@ -196,7 +190,7 @@ void SerialLine::Write(std::span<const std::uint8_t> bytes) const {
         if (count <= 0) {
             return;
         }
-        bytes = bytes.subspan(static_cast<std::size_t>(count));
+        bytes = bytes.subspan(count);
     }
 }
 

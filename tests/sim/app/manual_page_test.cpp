@@ -4,8 +4,8 @@
 // The manual page and the help say what the program's own tables say.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
+#include <gmock/gmock.h>
 #include <regex>
 #include <sstream>
 
@@ -25,7 +25,7 @@ std::string PlainPage() {
     return std::regex_replace(unfonted, std::regex(R"(\\-)"), "-");
 }
 
-/// The lines that head the paragraphs of a section: what comes right after each .TP.
+/// The headings of a section's paragraphs: the lines after .TP.
 std::vector<std::string> Heads(const std::string& section) {
     std::istringstream lines(PlainPage());
     std::vector<std::string> heads;
@@ -40,32 +40,29 @@ std::vector<std::string> Heads(const std::string& section) {
     return heads;
 }
 
-std::vector<std::string> FirstWords(std::vector<std::string> lines) {
-    for (std::string& line : lines) {
-        line = line.substr(0, line.find(' '));
-    }
-    return lines;
-}
-
 TEST(ManualPageTest, ListsEveryOptionAndNoOther) {
-    EXPECT_EQ(FirstWords(Heads("OPTIONS")), OptionNames());
-}
-
-TEST(ManualPageTest, NamesTheValuesAsTheHelpDoes) {
-    const std::string help = UsageText();
-    for (const std::string& head : Heads("OPTIONS")) {
-        EXPECT_NE(help.find("\n  " + head + ' '), std::string::npos) << head;
-    }
+    EXPECT_EQ(Heads("OPTIONS"), OptionForms());
 }
 
 TEST(ManualPageTest, ListsEveryConsoleCommandAndNoOther) {
     std::vector<std::string> forms;
-    for (const auto table : ConsoleTables()) {
-        for (const ConsoleCommand& command : table) {
+    for (const ConsoleGroup& group : ConsoleGroups()) {
+        for (const ConsoleCommand& command : group.commands) {
             forms.push_back(CommandForm(command));
         }
     }
     EXPECT_EQ(Heads("CONSOLE"), forms);
+}
+
+/// So the ranges stand in two places, and a wrong one shows.
+TEST(ManualPageTest, DescribesEveryConsoleCommandAsHelpDoes) {
+    const std::string page = PlainPage();
+    for (const ConsoleGroup& group : ConsoleGroups()) {
+        for (const ConsoleCommand& command : group.commands) {
+            EXPECT_THAT(page, testing::HasSubstr("\n.TP\n" + CommandForm(command) + "\n" +
+                                                 CommandHelp(command) + "\n"));
+        }
+    }
 }
 
 TEST(ManualPageTest, ShowsALayoutThatIsRight) {
@@ -81,13 +78,14 @@ TEST(ManualPageTest, ShowsALayoutThatIsRight) {
 
 TEST(HelpTest, ListsEveryOption) {
     const std::string help = UsageText();
-    for (const std::string& name : OptionNames()) {
-        EXPECT_NE(help.find("\n  " + name + ' '), std::string::npos) << name;
+    for (const std::string& form : OptionForms()) {
+        EXPECT_THAT(help, testing::AnyOf(testing::HasSubstr("\n  " + form + " "),
+                                         testing::HasSubstr("\n  -h," + form + " ")));
     }
 }
 
 TEST(HelpTest, FitsATerminal) {
-    constexpr std::size_t kColumns = 88;
+    constexpr std::size_t kColumns = 80;
     std::istringstream lines(UsageText());
     for (std::string line; std::getline(lines, line);) {
         EXPECT_LE(line.size(), kColumns) << line;

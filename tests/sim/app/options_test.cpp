@@ -4,37 +4,48 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <gmock/gmock.h>
 
 namespace zelvar::sim {
 namespace {
 
-std::variant<Options, std::string> Parse(const std::vector<std::string_view>& arguments) {
-    return ParseOptions(arguments);
+using Arguments = std::vector<std::string_view>;
+using testing::HasSubstr;
+
+Options Right(const Arguments& arguments) {
+    const auto parsed = ParseOptions(arguments);
+    if (const auto* end = std::get_if<EarlyEnd>(&parsed)) {
+        ADD_FAILURE() << end->text;
+        return {};
+    }
+    return std::get<Options>(parsed);
 }
 
-Options Right(const std::vector<std::string_view>& arguments) {
-    const auto parsed = Parse(arguments);
-    EXPECT_TRUE(std::holds_alternative<Options>(parsed));
-    return std::holds_alternative<Options>(parsed) ? std::get<Options>(parsed) : Options{};
+EarlyEnd EndOf(const Arguments& arguments) {
+    const auto parsed = ParseOptions(arguments);
+    const auto* end = std::get_if<EarlyEnd>(&parsed);
+    return end == nullptr ? EarlyEnd{-1, "no end"} : *end;
 }
 
-TEST(OptionsTest, WithoutAnyTheDefaultsHold) {
+TEST(OptionsTest, WithoutAnyTheDefaultsApply) {
     const Options options = Right({});
     EXPECT_TRUE(options.pacing);
     EXPECT_EQ(options.baud, 19200);
     EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(1));
     EXPECT_EQ(options.timeFactor, 1);
     EXPECT_EQ(options.seed, 0);
-    EXPECT_TRUE(options.link.empty());
-    EXPECT_TRUE(options.device.empty());
+    EXPECT_EQ(options.link, "");
+    EXPECT_EQ(options.device, "");
+    EXPECT_EQ(options.explain, "");
     EXPECT_EQ(options.layoutName, "club");
+    EXPECT_FALSE(options.trace);
+    EXPECT_FALSE(options.listLayouts);
 }
 
 TEST(OptionsTest, TakesAllOfThem) {
     const Options options = Right({"--link", "/x/y", "--no-pacing", "--baud", "38400", "--layout",
                                    "none", "--unit-delay", "0", "--time-factor", "100", "--seed",
-                                   "2147483647", "--help", "--version", "--list-layouts"});
+                                   "2147483647", "--trace", "--explain", "-", "--list-layouts"});
     EXPECT_EQ(options.link, "/x/y");
     EXPECT_FALSE(options.pacing);
     EXPECT_EQ(options.baud, 38400);
@@ -42,90 +53,76 @@ TEST(OptionsTest, TakesAllOfThem) {
     EXPECT_EQ(options.unitDelay, std::chrono::milliseconds(0));
     EXPECT_EQ(options.timeFactor, 100);
     EXPECT_EQ(options.seed, 2147483647);
-    EXPECT_TRUE(options.help);
-    EXPECT_TRUE(options.version);
+    EXPECT_TRUE(options.trace);
+    EXPECT_EQ(options.explain, "-");
     EXPECT_TRUE(options.listLayouts);
     EXPECT_EQ(Right({"--device", "/dev/x"}).device, "/dev/x");
-}
-
-TEST(OptionsTest, TakesAValueInTheSameWord) {
-    const Options options = Right({"--link=/x/y=z", "--baud=38400", "--no-pacing", "--seed=7"});
-    EXPECT_EQ(options.link, "/x/y=z");
-    EXPECT_EQ(options.baud, 38400);
-    EXPECT_EQ(options.seed, 7);
-}
-
-TEST(OptionsTest, TakesTheHighestOfEachNumber) {
     EXPECT_EQ(Right({"--unit-delay", "60000"}).unitDelay, std::chrono::milliseconds(60000));
 }
 
-TEST(OptionsTest, HasAShortWordForHelp) {
-    EXPECT_TRUE(Right({"-h"}).help);
+TEST(OptionsTest, TakesAValueInTheSameWord) {
+    const Options options = Right({"--link=/x/y=z", "--baud=38400", "--no-pacing", "--seed=0x10"});
+    EXPECT_EQ(options.link, "/x/y=z");
+    EXPECT_EQ(options.baud, 38400);
+    EXPECT_EQ(options.seed, 16);
+}
+
+TEST(OptionsTest, TheLastOfTheSameOptionCounts) {
+    EXPECT_EQ(Right({"--layout", "club", "--layout", "starter"}).layoutName, "starter");
+}
+
+TEST(OptionsTest, LeadingZerosMakeNoOctalNumber) {
+    EXPECT_EQ(Right({"--seed", "010"}).seed, 10);
+}
+
+TEST(OptionsTest, HelpAndVersionEndWithoutAMistake) {
+    for (const char* word : {"--help", "-h"}) {
+        EXPECT_EQ(EndOf({word}).status, 0);
+        EXPECT_EQ(EndOf({word}).text, UsageText());
+    }
+    EXPECT_EQ(EndOf({"--version"}).status, 0);
+    EXPECT_THAT(EndOf({"--version"}).text, testing::MatchesRegex("zelvarsim [0-9.]+\n"));
 }
 
 struct WrongCase {
     const char* name;
-    std::vector<std::string_view> arguments;
-    const char* message;
+    Arguments arguments;
+    const char* option;
+    const char* expected;
 };
 
 class WrongOptions : public testing::TestWithParam<WrongCase> {};
 
-TEST_P(WrongOptions, SayWhatIsWrong) {
-    const auto parsed = Parse(GetParam().arguments);
-    ASSERT_TRUE(std::holds_alternative<std::string>(parsed));
-    EXPECT_EQ(std::get<std::string>(parsed), GetParam().message);
+TEST_P(WrongOptions, NameTheOptionAndWhatWasExpected) {
+    const EarlyEnd end = EndOf(GetParam().arguments);
+    EXPECT_EQ(end.status, 2);
+    EXPECT_THAT(end.text, testing::StartsWith("zelvarsim: "));
+    EXPECT_THAT(end.text, HasSubstr(GetParam().option));
+    EXPECT_THAT(end.text, HasSubstr(GetParam().expected));
+    EXPECT_THAT(end.text, testing::EndsWith("\nTry \"zelvarsim --help\".\n"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, WrongOptions,
     testing::Values(
-        WrongCase{"Unknown", {"--lnk", "x"}, "unknown option --lnk"},
-        WrongCase{"BareWord", {"x"}, "unknown option x"},
-        WrongCase{
-            "MissingValue", {"--no-pacing", "--link"}, "missing value of --link: a path expected"},
-        WrongCase{"NoValueWanted", {"--trace=on"}, "--trace takes no value"},
-        WrongCase{"UnknownWithValue", {"--lnk=x"}, "unknown option --lnk"},
-        WrongCase{
-            "EmptyLink", {"--link", ""}, "wrong value of --link: a path expected, found \"\""},
-        WrongCase{"EmptyBehindTheSign",
-                  {"--link="},
-                  "wrong value of --link: a path expected, found \"\""},
-        WrongCase{"Baud",
-                  {"--baud", "9600"},
-                  "wrong value of --baud: 19200 or 38400 expected, found \"9600\""},
-        WrongCase{"Layout",
-                  {"--layout", ""},
-                  "wrong value of --layout: a name or a path expected, found \"\""},
-        WrongCase{"Explain",
-                  {"--explain", ""},
-                  "wrong value of --explain: a path or \"-\" expected, found \"\""},
-        WrongCase{"Delay",
-                  {"--unit-delay", "-1"},
-                  "wrong value of --unit-delay: a whole number 0..60000 expected, found \"-1\""},
-        WrongCase{"DelayTooLong",
-                  {"--unit-delay", "60001"},
-                  "wrong value of --unit-delay: a whole number 0..60000 expected, found "
-                  "\"60001\""},
-        WrongCase{"DelayText",
-                  {"--unit-delay=5ms"},
-                  "wrong value of --unit-delay: a whole number 0..60000 expected, found \"5ms\""},
-        WrongCase{"TimeFactor",
-                  {"--time-factor", "101"},
-                  "wrong value of --time-factor: a whole number 0..100 expected, found \"101\""},
-        WrongCase{"TimeFactorNegative",
-                  {"--time-factor", "-1"},
-                  "wrong value of --time-factor: a whole number 0..100 expected, found \"-1\""},
-        WrongCase{"Seed",
-                  {"--seed", "-1"},
-                  "wrong value of --seed: a whole number 0..2147483647 expected, found \"-1\""},
-        WrongCase{"SeedTooHigh",
-                  {"--seed", "2147483648"},
-                  "wrong value of --seed: a whole number 0..2147483647 expected, found "
-                  "\"2147483648\""},
-        WrongCase{"LinkAndDevice",
-                  {"--link", "a", "--device", "b"},
-                  "--link and --device exclude each other"}),
+        WrongCase{"Unknown", {"--lnk", "x"}, "--lnk", "not expected"},
+        WrongCase{"Shortened", {"--lin", "x"}, "--lin", "not expected"},
+        WrongCase{"BareWord", {"x"}, "x", "not expected"},
+        WrongCase{"MissingValue", {"--no-pacing", "--link"}, "--link", "PATH missing"},
+        WrongCase{"ValueOfAFlag", {"--trace=on"}, "trace", "disallowed"},
+        WrongCase{"EmptyLink", {"--link", ""}, "--link", "expected a path, found \"\""},
+        WrongCase{"EmptyDevice", {"--device", ""}, "--device", "expected a path"},
+        WrongCase{"Baud", {"--baud", "9600"}, "--baud", "expected 19200 or 38400, found \"9600\""},
+        WrongCase{"Layout", {"--layout", ""}, "--layout", "expected a name or a path"},
+        WrongCase{"Explain", {"--explain", ""}, "--explain", "expected a path or \"-\""},
+        WrongCase{"Delay", {"--unit-delay", "-1"}, "--unit-delay", "0..60000, found \"-1\""},
+        WrongCase{"DelayTooLong", {"--unit-delay", "60001"}, "--unit-delay", "a whole number"},
+        WrongCase{"DelayText", {"--unit-delay=5ms"}, "--unit-delay", "found \"5ms\""},
+        WrongCase{"TimeFactor", {"--time-factor", "101"}, "--time-factor", "0..100, found \"101\""},
+        WrongCase{"TimeFactorBelow", {"--time-factor", "-1"}, "--time-factor", "found \"-1\""},
+        WrongCase{"Seed", {"--seed", "-1"}, "--seed", "0..2147483647, found \"-1\""},
+        WrongCase{"SeedTooHigh", {"--seed", "2147483648"}, "--seed", "found \"2147483648\""},
+        WrongCase{"LinkAndDevice", {"--link", "a", "--device", "b"}, "--link", "--device"}),
     [](const auto& row) { return row.param.name; });
 
 }  // namespace

@@ -122,7 +122,7 @@ TEST_F(ProgramTest, ConsoleReportsReachTheLine) {
     EXPECT_EQ(Command("overcurrent 133"), "ok");
     SendFrame({});
     EXPECT_EQ(Receive(4), (Bytes{0x0A, 0xB3, 0x85, 0xBE}));
-    EXPECT_EQ(Command("nonsense"), "error unknown command nonsense");
+    EXPECT_EQ(Command("nonsense"), "error unknown command nonsense; \"help\" lists them");
 }
 
 TEST_F(ProgramTest, ServesTheNextOpeningToo) {
@@ -382,7 +382,7 @@ TEST_F(ProgramTest, EndsWhenItsDeviceGoes) {
 TEST_F(ProgramTest, RefusesUnknownOptionsAndMissingDevices) {
     Start({"--bogus"});
     EXPECT_EQ(WaitForEnd(), 2);
-    EXPECT_EQ(process_->Errors(), "zelvarsim: unknown option --bogus\nTry \"zelvarsim --help\".\n");
+    EXPECT_THAT(process_->Errors(), testing::HasSubstr("--bogus"));
     Start({"--device", (folder_ / "none").string()});
     EXPECT_EQ(WaitForEnd(), 1);
 }
@@ -392,7 +392,7 @@ TEST_F(ProgramTest, TellsItsVersionAndItsOptions) {
     EXPECT_TRUE(ReadLine().starts_with("zelvarsim "));
     EXPECT_EQ(WaitForEnd(), 0);
     Start({"--help"});
-    EXPECT_EQ(ReadLine(), "usage: zelvarsim [options]");
+    EXPECT_THAT(ReadLine(), testing::StartsWith("A simulated central unit"));
     EXPECT_EQ(WaitForEnd(), 0);
 }
 

@@ -1,25 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "sim/console/console.h"
+#include <gmock/gmock.h>
 
+#include "sim/console/console_fixture.h"
 #include "sim/unit/reports.h"
-#include "sim/unit_fixture.h"
 
 namespace zelvar::sim {
 namespace {
 
 using std::chrono::milliseconds;
+using testing::HasSubstr;
+using testing::Not;
 
-class ConsoleTest : public UnitFixture {
-  protected:
-    ConsoleResult Run(std::string_view line) {
-        ConsoleContext context{unit_, faults_, now_};
-        return RunConsoleLine(context, line);
-    }
-    std::string Answer(std::string_view line) { return Run(line).text; }
-
-    Faults faults_;
-};
+using ConsoleTest = ConsoleFixture<UnitFixture>;
 
 struct LineCase {
     const char* name;
@@ -33,62 +26,34 @@ TEST_P(ConsoleLine, IsAnsweredWith) {
     EXPECT_EQ(Answer(GetParam().line), GetParam().answer);
 }
 
+/// What single arguments accept and reject is tested beside this.
 INSTANTIATE_TEST_SUITE_P(
-    Right, ConsoleLine,
+    Rows, ConsoleLine,
     testing::Values(
-        LineCase{"Blank", "", ""}, LineCase{"OnlyBlanks", "  \t ", ""},
-        LineCase{"Overcurrent", "overcurrent 255", "ok"},
-        LineCase{"BlanksAround", "  release   0x10 \r", "ok"},
-        LineCase{"Speed", "speed 5 63 reverse", "ok"},
-        LineCase{"Feedback", "feedback 2047 1", "ok"}, LineCase{"Fault", "fault on", "ok"},
-        LineCase{"Hold", "hold off", "ok"}, LineCase{"ModuleAbsent", "module 32 absent", "ok"},
-        LineCase{"ModuleStatus", "module 127 status 0x0F", "ok"}, LineCase{"Ms", "ms 63 127", "ok"},
-        LineCase{"Clock", "clock 0 3", "ok"}, LineCase{"Mute", "mute-module 32 on", "ok"},
-        LineCase{"AnswerDelay", "answer-delay 0", "ok"}, LineCase{"Reboot", "reboot", "ok"},
-        LineCase{"Silent", "silent on", "ok"}, LineCase{"SilentAfter", "silent-after 3", "ok"},
-        LineCase{"Late", "late 100", "ok"}, LineCase{"LateCount", "late 100 2", "ok"},
-        LineCase{"BadChecksum", "bad-checksum 1", "ok"}, LineCase{"Short", "short 1", "ok"},
-        LineCase{"Double", "double 1", "ok"}, LineCase{"Stray", "stray FF 8 0a", "ok"},
-        LineCase{"Drip", "drip 5", "ok"}, LineCase{"Defer", "defer 1", "ok"}),
-    [](const auto& row) { return row.param.name; });
-
-INSTANTIATE_TEST_SUITE_P(
-    Wrong, ConsoleLine,
-    testing::Values(
-        LineCase{"Unknown", "explode 5", "error unknown command explode"},
-        LineCase{"CaseCounts", "Fault on", "error unknown command Fault"},
+        LineCase{"Empty", "", ""}, LineCase{"OnlySpaces", "  \t ", ""},
+        LineCase{"SpacesAround", "  release   0x10 \r", "ok"},
+        LineCase{"Unknown", "explode 5", "error unknown command explode; \"help\" lists them"},
+        LineCase{"Misspelt", "fualt on", "error unknown command fualt; did you mean fault?"},
+        LineCase{"CaseCounts", "Fault on", "error unknown command Fault; did you mean fault?"},
         LineCase{"TooFew", "speed 1 2", "error usage: speed B S forward|reverse"},
         LineCase{"TooMany", "reboot now", "error usage: reboot"},
-        LineCase{"BlockTooHigh", "overcurrent 256", "error B must be 0..255"},
-        LineCase{"BlockNegative", "release -1", "error B must be 0..255"},
-        LineCase{"BlockText", "speed five 5 forward", "error B must be 0..255"},
-        LineCase{"SpeedTooHigh", "speed 5 64 forward", "error S must be 0..63"},
-        LineCase{"Direction", "speed 5 6 up", "error forward or reverse expected"},
-        LineCase{"InputTooHigh", "feedback 2048 1", "error I must be 0..2047"},
-        LineCase{"InputState", "feedback 5 2", "error 0 or 1 expected"},
-        LineCase{"Switch", "fault yes", "error on or off expected"},
-        LineCase{"HoldSwitch", "hold 1", "error on or off expected"},
-        LineCase{"Address", "module 128 absent", "error ADDRESS must be 0..127"},
-        LineCase{"ModuleWord", "module 5 gone", "error absent or status BYTE expected"},
-        LineCase{"ModuleAbsentMore", "module 5 absent 3", "error absent or status BYTE expected"},
-        LineCase{"ModuleNoByte", "module 5 status", "error absent or status BYTE expected"},
-        LineCase{"StatusByte", "module 5 status 0x80", "error BYTE must be 0..127"},
-        LineCase{"MsLine", "ms 64 1", "error M must be 0..63"},
-        LineCase{"MsValue", "ms 6 128", "error V must be 0..127"},
-        LineCase{"ClockLine", "clock x 1", "error M must be 0..63"},
-        LineCase{"ClockValue", "clock 1 x", "error V must be 0..127"},
-        LineCase{"MuteAddress", "mute-module x on", "error ADDRESS must be 0..127"},
-        LineCase{"MuteSwitch", "mute-module 5 1", "error on or off expected"},
-        LineCase{"AnswerDelay", "answer-delay -1", "error N must be 0..10000"},
-        LineCase{"SilentSwitch", "silent maybe", "error on or off expected"},
-        LineCase{"LateText", "late soon", "error MS must be 0..3600000"},
-        LineCase{"LateCount", "late 5 x", "error N must be 0..1000000"},
-        LineCase{"Replies", "double 1.5", "error N must be 0..1000000"},
-        LineCase{"StrayDigits", "stray 0 100", "error two hexadecimal digits expected: 100"},
-        LineCase{"StrayText", "stray G0", "error two hexadecimal digits expected: G0"},
-        LineCase{"StraySign", "stray -1", "error two hexadecimal digits expected: -1"},
-        LineCase{"Drip", "drip 3600001", "error MS must be 0..3600000"},
-        LineCase{"Trace", "trace 1", "error on or off expected"}),
+        LineCase{"Number", "speed 1 64 forward", "error S: expected 0..63, found 64"},
+        LineCase{"Choice", "speed 1 2 up", "error expected forward or reverse, found up"},
+        LineCase{"NeitherForm", "module 5 gone", "error expected absent or status, found gone"},
+        LineCase{"NoForm", "module 5",
+                 "error usage: module ADDRESS absent or module ADDRESS status BYTE"},
+        LineCase{"TheFirstForm", "module 5 absent 3", "error usage: module ADDRESS absent"},
+        LineCase{"TheSecondForm", "module 5 status", "error usage: module ADDRESS status BYTE"},
+        LineCase{"NumberOfAForm", "module 5 status 128", "error BYTE: expected 0..127, found 128"},
+        LineCase{"NumberOfBothForms", "module 128 absent",
+                 "error ADDRESS: expected 0..127, found 128"},
+        LineCase{"PresentModule", "clock 4 1", "ok"},
+        LineCase{"ClockOfAnAbsentModule", "clock 63 1", "ok, but there is no module at address 31"},
+        LineCase{"RoleOfAnAbsentModule", "ms 63 1", "ok, but there is no module at address 31"},
+        LineCase{"MutesAnAbsentModule", "mute-module 95 on",
+                 "ok, but there is no module at address 95"},
+        LineCase{"TakesAnAbsentModuleAway", "module 31 absent",
+                 "ok, but there is no module at address 31"}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(ConsoleTest, AWrongStrayLineAddsNothing) {
@@ -224,8 +189,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(ActionCase{"HangUp", "hang-up", ConsoleAction::kHangUp},
                     ActionCase{"Reconnect", "reconnect", ConsoleAction::kReconnect},
                     ActionCase{"TraceOn", "trace on", ConsoleAction::kTraceOn},
+                    ActionCase{"TraceAll", "trace all", ConsoleAction::kTraceAll},
                     ActionCase{"TraceOff", "trace off", ConsoleAction::kTraceOff},
                     ActionCase{"Quit", "quit", ConsoleAction::kQuit},
+                    ActionCase{"Exit", "exit", ConsoleAction::kQuit},
                     ActionCase{"Other", "fault on", ConsoleAction::kNone},
                     ActionCase{"Wrong", "quit now", ConsoleAction::kNone}),
     [](const auto& row) { return row.param.name; });
@@ -242,70 +209,40 @@ TEST_F(ConsoleTest, StateShowsTablesAndTheLine) {
     EXPECT_TRUE(text.starts_with("Unit\n  type             KB-E\n")) << text;
     EXPECT_TRUE(text.ends_with("Line\n  rate     no line\n  answers  every command\n\nok")) << text;
     Answer("silent on");
-    EXPECT_NE(Answer("state").find("answers  nothing\n"), std::string::npos);
+    EXPECT_THAT(Answer("state"), HasSubstr("answers  nothing\n"));
 }
 
-TEST_F(ConsoleTest, HelpTellsOfEveryCommandInAlignedColumnsAndEndsWithOk) {
-    std::istringstream lines(Answer("help"));
-    std::size_t column = 0;
-    for (const auto table : ConsoleTables()) {
-        for (const ConsoleCommand& command : table) {
-            std::string line;
-            std::getline(lines, line);
-            EXPECT_TRUE(line.starts_with(CommandForm(command) + " ")) << line;
-            ASSERT_TRUE(line.ends_with(command.help)) << line;
-            const std::size_t start = line.size() - command.help.size();
-            column = column == 0 ? start : column;
-            EXPECT_EQ(start, column) << line;
-        }
+TEST_F(ConsoleTest, StateShowsArmedFaultsUntilTheyAreCleared) {
+    for (const char* line : {"late 500 2", "bad-checksum 1", "short 3", "double 1", "stray FF 08",
+                             "drip 50", "defer 2", "silent-after 4"}) {
+        EXPECT_EQ(Answer(line), "ok") << line;
     }
-    std::string last;
-    std::getline(lines, last);
-    EXPECT_EQ(last, "ok");
+    const std::string text = Answer("state");
+    EXPECT_THAT(text, HasSubstr("answers  every command, with faults\n"));
+    EXPECT_THAT(text, HasSubstr("Armed faults (\"clear-faults\" ends them)\n"
+                                "  silent-after  4 more replies\n"
+                                "  late          500 ms, next 2 replies\n"
+                                "  bad-checksum  next reply\n"
+                                "  short         next 3 replies\n"
+                                "  double        next reply\n"
+                                "  stray         2 bytes before the next reply\n"
+                                "  drip          50 ms more between two bytes\n"
+                                "  defer         next 2 replies with content\n"));
+    EXPECT_EQ(Answer("clear-faults"), "ok");
+    EXPECT_THAT(Answer("state"), Not(HasSubstr("Armed faults")));
+    EXPECT_THAT(Answer("state"), HasSubstr("answers  every command\n"));
+    const auto outgoing = faults_.Apply({0x08, 0xF8});
+    EXPECT_EQ(outgoing->bytes, (std::vector<std::uint8_t>{0x08, 0xF8}));
+    EXPECT_EQ(outgoing->delay, milliseconds(0));
+    EXPECT_EQ(outgoing->byteGap, milliseconds(0));
+    EXPECT_NE(Ask({1, 2}), Payload{}) << "still deferred";
 }
 
-/// What `zelvarsim` plays when nothing else is asked for.
-Layout ClubLayout() {
-    return LayoutOf(ZELVAR_SHIPPED_LAYOUTS "/club.toml");
-}
-
-TEST_F(ConsoleTest, EveryCommandHasOneSentenceAndAnExampleThatIsRightOnTheClubsLayout) {
-    unit_ = CentralUnit(ClubLayout());
-    for (const auto table : ConsoleTables()) {
-        for (const ConsoleCommand& command : table) {
-            unit_.SetTimeFactor(0, now_);  // as "run" needs it
-            EXPECT_TRUE(command.help.ends_with('.')) << command.name;
-            EXPECT_EQ(command.help.find(". "), std::string_view::npos) << command.name;
-            const std::string answer = Answer(command.example);
-            EXPECT_EQ(SplitWords(command.example).at(0), command.name);
-            EXPECT_TRUE(answer.ends_with("ok")) << command.example << ": " << answer;
-        }
-    }
-}
-
-TEST_F(ConsoleTest, TheExampleOfAPointMovesOneOnTheClubsTrack) {
-    const int point = *ParseNumber(SplitWords(FindConsoleCommand("point")->example).at(1), 0, 511);
-    bool found = false;
-    for (const TrackSection& section : ClubLayout().track.sections) {
-        found = found || section.front.point == point || section.back.point == point;
-    }
-    EXPECT_TRUE(found) << point;
-}
-
-TEST_F(ConsoleTest, HelpOfOneCommandHasItsExample) {
-    EXPECT_EQ(Answer("help silent"),
-              "silent on|off\n  Answers nothing, or everything again.\n  Example: silent on\nok");
-    EXPECT_EQ(Answer("help nonsense"), "error unknown command nonsense");
-}
-
-TEST(ParseNumberTest, TakesDecimalAndHexadecimalOnly) {
-    EXPECT_EQ(ParseNumber("12", 0, 20), 12);
-    EXPECT_EQ(ParseNumber("0x0C", 0, 20), 12);
-    EXPECT_EQ(ParseNumber("-5", -5, 20), -5);
-    for (const char* text :
-         {"", "0x", "0x-1", "1 2", "12x", "x", "99999999999", "21", "-1", "+1"}) {
-        EXPECT_EQ(ParseNumber(text, 0, 20), std::nullopt) << text;
-    }
+TEST_F(ConsoleTest, StateShowsFaultsWithoutAnEndAndSilence) {
+    Answer("late 20");
+    EXPECT_THAT(Answer("state"), HasSubstr("  late  20 ms, every reply\n"));
+    Answer("silent on");
+    EXPECT_THAT(Answer("state"), HasSubstr("  silent  no reply\n"));
 }
 
 }  // namespace

@@ -61,16 +61,14 @@ TEST(ChooseLayoutTest, APlaceInAFileStandsAtTheBeginningOfTheMessage) {
     EXPECT_EQ(Message(path, kShipped), path + ":1: [unit]: expected, but missing");
 }
 
-TEST(ChooseLayoutTest, AnUnknownWordIsToldTheKnownOnes) {
+TEST(ChooseLayoutTest, TheErrorForAnUnknownNameListsTheKnownOnes) {
     EXPECT_EQ(Message("big", kShipped),
-              "zelvarsim: --layout: club, largest, starter, none or the path of a .toml file "
-              "expected, found "
-              "\"big\" (the shipped ones are looked for in " +
+              "zelvarsim: --layout: expected club, largest, starter, none or the path of a .toml "
+              "file, found \"big\" (shipped layouts are read from " +
                   kShipped.string() + ")");
     EXPECT_EQ(Message("club", "/nowhere"),
-              "zelvarsim: --layout: none or the path of a .toml file expected, found \"club\" (the "
-              "shipped "
-              "ones are looked for in /nowhere)");
+              "zelvarsim: --layout: expected none or the path of a .toml file, found \"club\" "
+              "(shipped layouts are read from /nowhere)");
     EXPECT_NE(Message("", kShipped), "nothing wrong");
 }
 
@@ -106,7 +104,7 @@ TEST(ShippedLayouts, TheClubHasEveryFamilyOnBothChannelsAndEveryState) {
         }
         families.insert(address / kModulesPerChannel);  // family and channel
         states.insert(slot.status & (kIdleBit | kFaultBit));
-        masters += slot.masterSlave == 1 ? 1 : 0;
+        masters += slot.settings[kMasterSlaveParameter] == 1 ? 1 : 0;
         if (address / kTractionFamily == 1) {
             types.insert(slot.status & kTypeMask);
         }
@@ -161,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, ShippedTracks, testing::Values("starter", "club",
                          [](const auto& row) { return row.param; });
 
 TEST(LayoutFolderTest, LiesBesideTheProgramsFolder) {
-    // Linux tells where the program is, whatever its first word says.
+    // On Linux the first word of the command line does not matter.
     const std::filesystem::path folder = LayoutFolder("/somewhere/else/zelvarsim");
     EXPECT_TRUE(folder.string().ends_with("/share/zelvarsim/layouts")) << folder;
 }

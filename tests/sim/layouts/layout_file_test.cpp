@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kUnit =
     "[unit]\ntype = \"KB-E\"\nversion = \"1.02\"\nprotocol = \"3.11 B\"\n";
 
-/// The layout of a text that is right behind a unit; the test fails otherwise.
+/// The layout of a text that follows a unit; the test fails if there is a problem.
 Layout Read(const std::string& text) {
     const auto parsed = ParseLayout(std::string(kUnit) + text);
     if (const auto* problems = std::get_if<LayoutProblems>(&parsed)) {
@@ -67,11 +67,18 @@ INSTANTIATE_TEST_SUITE_P(Rows, UnitTypes,
                                          UnitTypeCase{"Qlrx", "QLRX", 10}),
                          [](const auto& row) { return row.param.name; });
 
+struct ExpectedSlot {
+    int status;
+    int version;
+    int masterSlave;
+    int clock;
+};
+
 struct ModuleCase {
     const char* name;
     std::string text;
     int address;
-    ModuleSlot slot;
+    ExpectedSlot slot;
 };
 
 class ModuleTables : public testing::TestWithParam<ModuleCase> {};
@@ -81,7 +88,7 @@ TEST_P(ModuleTables, DescribeOneSlot) {
     const ModuleSlot& slot = layout.At(GetParam().address);
     EXPECT_EQ(slot.status, GetParam().slot.status);
     EXPECT_EQ(slot.version, GetParam().slot.version);
-    EXPECT_EQ(slot.masterSlave, GetParam().slot.masterSlave);
+    EXPECT_EQ(slot.settings[kMasterSlaveParameter], GetParam().slot.masterSlave);
     EXPECT_EQ(slot.clock, GetParam().slot.clock);
     const auto present = [](const ModuleSlot& candidate) { return candidate.Present(); };
     const bool isPair = GetParam().address < kTractionFamily;
@@ -176,10 +183,10 @@ TEST_F(ReadLayoutFileTest, ListsEveryProblemWithFileAndLine) {
     Write("[unit]\ntype = \"KB-E\"\nversion = 1.02\nprotocol = \"3.11 B\"\nspeed = 9600\n");
     EXPECT_EQ(Message(path_),
               path_ +
-                  ":3: version: a version like \"1.02\" or \"1.02 C\" in quotation marks, up to "
-                  "\"9.85 G\", the digits behind the point at most 85, expected, found 1.02\n" +
+                  ":3: version: expected a version like \"1.02\" or \"1.02 C\" in quotation marks, "
+                  "at most \"9.85 G\" and at most 85 after the point, found 1.02\n" +
                   path_ +
-                  ":5: unknown key \"speed\": type, version, protocol or dip-switches expected");
+                  ":5: unknown key \"speed\": expected type, version, protocol or dip-switches");
 }
 
 TEST_F(ReadLayoutFileTest, SaysWhenThereIsNone) {
@@ -187,7 +194,7 @@ TEST_F(ReadLayoutFileTest, SaysWhenThereIsNone) {
 }
 
 TEST_F(ReadLayoutFileTest, TakesNoFolder) {
-    EXPECT_EQ(Message(folder_.string()), folder_.string() + ": a file expected, found a folder");
+    EXPECT_EQ(Message(folder_.string()), folder_.string() + ": expected a file, found a folder");
 }
 
 TEST_F(ReadLayoutFileTest, ReadsUpToAMebibyte) {
@@ -196,7 +203,7 @@ TEST_F(ReadLayoutFileTest, ReadsUpToAMebibyte) {
     Write(text);
     EXPECT_EQ(Message(path_), "nothing wrong");
     Write(text + '\n');
-    EXPECT_EQ(Message(path_), path_ + ": at most 1048576 bytes expected");
+    EXPECT_EQ(Message(path_), path_ + ": expected at most 1048576 bytes");
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <gmock/gmock.h>
+
 namespace zelvar::sim {
 namespace {
 
@@ -17,90 +19,89 @@ TEST_P(WrongLayouts, SayWhereAndWhatWasExpected) {
 
 std::string AVersion(const std::string& how = "") {
     return "a version like \"1.02\" or \"1.02 C\"" + how +
-           ", up to \"9.85 G\", the digits behind the point at most 85,";
+           ", at most \"9.85 G\" and at most 85 after the point, found ";
 }
 
-const std::string kValueExpected =
-    "a text in quotation marks, a number, true, false or a list expected";
-const std::string kQuoteExpected = "a closing quotation mark expected before the end of the line";
-const std::string kOnceExpected = "each key and each [table] once expected";
-
-const ProblemCase kSyntax[] = {
-    {"Nothing", "", {"1: [unit]: expected, but missing"}},
-    {"NoValue", "title =\n", {"1: " + kValueExpected}},
-    {"TextWithoutQuotes", "title = KB-E\n", {"1: " + kValueExpected}},
-    {"TextLikeFalse", "title = fault\n", {"1: " + kValueExpected}},
-    {"TextLikeTrue", "title = traction\n", {"1: " + kValueExpected}},
-    {"TextLikeNan", "title = none\n", {"1: " + kValueExpected}},
-    {"TextLikeInf", "title = inner\n", {"1: " + kValueExpected}},
-    {"OpenText", "\ntitle = \"a\n", {"2: " + kQuoteExpected}},
-    {"OpenTextWithATab", "title = \"a\tb\n", {"1: " + kQuoteExpected}},
-    {"OpenTextOfAnotherSystem", "\r\ntitle = \"a\r\nx = 1\r\n", {"2: " + kQuoteExpected}},
-    {"OpenLiteralText", "\n\ntitle = 'a\n", {"3: " + kQuoteExpected}},
-    {"OpenTextAtTheEnd", "title = \"a", {"1: a closing quotation mark expected"}},
-    {"OpenLongText", "title = \"\"\"a\n", {"1: a closing quotation mark expected"}},
-    {"ControlCharacter",
-     "\ntitle = \"a\x01z\"\n",
-     {"2: string: unescaped control characters other than TAB (U+0009) are explicitly prohibited"}},
-    {"ControlCharacterInAComment",
-     "# \x01\n",
-     {"1: comment: control characters other than TAB (U+0009) are explicitly prohibited in "
-      "comments"}},
-    {"OpenHeader", "\n[unit\n", {"2: table header: expected ']', saw '\\n'"}},
-    {"KeyTwice", "title = \"a\"\ntitle = \"b\"\n", {"2: " + kOnceExpected}},
-    {"UnitTwice", UnitText() + "[unit]\n", {"5: " + kOnceExpected}},
+struct SyntaxCase {
+    const char* name;
+    const char* text;
+    const char* line;
 };
 
+class WrongSyntax : public testing::TestWithParam<SyntaxCase> {};
+
+/// The text of the error is that of toml++, whose versions differ in it.
+TEST_P(WrongSyntax, IsReportedAloneWithItsLine) {
+    const std::vector<std::string> problems = ProblemsOf(GetParam().text);
+    ASSERT_EQ(problems.size(), 1U);
+    EXPECT_THAT(problems[0], testing::StartsWith(std::string(GetParam().line) + ": Error while"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, WrongSyntax,
+    testing::Values(SyntaxCase{"NoValue", "title =\n", "1"},
+                    SyntaxCase{"TextWithoutQuotes", "[unit]\ntype = KB-E\n", "2"},
+                    SyntaxCase{"OpenText", "\r\ntitle = \"a\r\nx = 1\r\n", "2"},
+                    SyntaxCase{"OpenTextAtTheEnd", "title = \"a", "1"},
+                    SyntaxCase{"OpenHeader", "\n[unit\n", "2"},
+                    SyntaxCase{"KeyTwice", "title = \"a\"\ntitle = \"b\"\n", "2"}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(WrongSyntaxTest, ShowsNoControlCharacters) {
+    EXPECT_THAT(ProblemsOf("[a\x1b]\n").front(), testing::Not(testing::HasSubstr("\x1b")));
+}
+
 const ProblemCase kUnits[] = {
-    {"UnitIsNoTable", "unit = 5\n", {"1: unit: a table, [unit] or { ... }, expected, found 5"}},
+    {"Nothing", "", {"1: [unit]: expected, but missing"}},
+    {"UnitIsNoTable", "unit = 5\n", {"1: unit: expected a table, [unit] or { ... }, found 5"}},
     {"UnitHasNothing",
      "title = \"a\"\n[unit]\n",
      {"2: type: expected here, but missing", "2: version: expected here, but missing",
       "2: protocol: expected here, but missing"}},
     {"UnitType",
      "[unit]\ntype = \"KB-X\"\nversion = \"1.02\"\nprotocol = \"3.10\"\n",
-     {"2: type: \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\" expected, found \"KB-X\""}},
+     {"2: type: expected \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\", found \"KB-X\""}},
     {"UnitTypeIsNumber",
      "[unit]\ntype = 2\nversion = \"1.02\"\nprotocol = \"3.10\"\n",
-     {"2: type: \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\" expected, found 2"}},
+     {"2: type: expected \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\", found 2"}},
     {"UnitVersionNone",
      "[unit]\ntype = \"KB-E\"\nversion = \"none\"\nprotocol = \"3.10\"\n",
-     {"3: version: " + AVersion() + " expected, found \"none\""}},
+     {"3: version: expected " + AVersion() + "\"none\""}},
     {"ProtocolIsNumber",
      "[unit]\ntype = \"KB-E\"\nversion = \"1.02\"\nprotocol = 3.20\n",
-     {"4: protocol: " + AVersion(" in quotation marks") + " expected, found 3.2"}},
+     {"4: protocol: expected " + AVersion(" in quotation marks") + "3.2"}},
     {"VersionIsWholeNumber",
      "[unit]\ntype = \"KB-E\"\nversion = 1\nprotocol = \"3.10\"\n",
-     {"3: version: " + AVersion(" in quotation marks") + " expected, found 1"}},
+     {"3: version: expected " + AVersion(" in quotation marks") + "1"}},
     {"UnitKey",
      UnitText() + "baud = 19200\n",
-     {"5: unknown key \"baud\": type, version, protocol or dip-switches expected"}},
+     {"5: unknown key \"baud\": expected type, version, protocol or dip-switches"}},
     {"RootKey",
      "layout = 1\n" + UnitText(),
-     {"1: unknown key \"layout\": title, unit, traction-module, point-module, signal-module, "
-      "section or train expected"}},
+     {"1: unknown key \"layout\": expected title, unit, traction-module, point-module, "
+      "signal-module, section or train"}},
     {"TitleEmpty",
      "title = \"\"\n" + UnitText(),
-     {"1: title: a text of 1..64 characters expected, found \"\""}},
+     {"1: title: expected a text of 1..64 characters, found \"\""}},
     {"TitleTooLong",
      "title = \"" + std::string(65, 'x') + "\"\n" + UnitText(),
-     {"1: title: a text of 1..64 characters expected, found \"" + std::string(60, 'x') + "...\""}},
+     {"1: title: expected a text of 1..64 characters, found \"" + std::string(59, 'x') + "..."}},
     {"TitleWithControls",
      "title = \"a\\tb\"\n" + UnitText(),
-     {"1: title: a text of 1..64 characters expected, found \"a?b\""}},
+     {"1: title: expected a text of 1..64 characters, found \"a\\tb\""}},
     {"SwitchesNoList",
      UnitText() + "dip-switches = \"on\"\n",
-     {"5: dip-switches: a list of 4 words expected, found \"on\""}},
+     {"5: dip-switches: expected a list of 4 words, found \"on\""}},
     {"SwitchesTooFew",
      UnitText() + "dip-switches = [\"on\", \"on\", \"on\"]\n",
-     {"5: dip-switches: a list of 4 words expected, found a list of 3"}},
+     {"5: dip-switches: expected a list of 4 words, found a list of 3"}},
     {"SwitchesTooMany",
      UnitText() + "dip-switches = [\"on\", \"on\", \"on\", \"on\", \"on\"]\n",
-     {"5: dip-switches: a list of 4 words expected, found a list of 5"}},
+     {"5: dip-switches: expected a list of 4 words, found a list of 5"}},
     {"SwitchWord",
      UnitText() + "dip-switches = [\n\"on\",\n\"on\",\ntrue,\n\"up\"]\n",
-     {"8: dip-switches: \"off\" or \"on\" expected, found true",
-      "9: dip-switches: \"off\" or \"on\" expected, found \"up\""}},
+     {"8: dip-switches: expected \"off\" or \"on\", found true",
+      "9: dip-switches: expected \"off\" or \"on\", found \"up\""}},
 };
 
 /// A module's table from line 5 on: its channel in line 6, its number in line 7, then `rest`.
@@ -121,75 +122,75 @@ ProblemCase Vd(const char* name, const std::string& rest,
 const ProblemCase kModules[] = {
     {"OneTable",
      UnitText() + "[traction-module]\nchannel = 0\n",
-     {"5: traction-module: tables, each under its own [[traction-module]], expected, found a "
+     {"5: traction-module: expected tables, each under its own [[traction-module]], found a "
       "table"}},
     {"ListOfNumbers",
      "point-module = [5]\n" + UnitText(),
-     {"1: point-module: tables, each under its own [[point-module]], expected, found 5"}},
+     {"1: point-module: expected tables, each under its own [[point-module]], found 5"}},
     {"NoPlace",
      UnitText() + "[[signal-module]]\nstate = \"ok\"\n",
      {"5: channel: expected here, but missing", "5: module: expected here, but missing"}},
     Module("ChannelBelow", "signal-module", "-1", "0", "",
-           {"6: channel: a whole number 0..1 expected, found -1"}),
+           {"6: channel: expected a whole number 0..1, found -1"}),
     Module("ChannelAbove", "signal-module", "2", "0", "",
-           {"6: channel: a whole number 0..1 expected, found 2"}),
+           {"6: channel: expected a whole number 0..1, found 2"}),
     Module("ChannelIsText", "signal-module", "\"1\"", "0", "",
-           {"6: channel: a whole number 0..1 expected, found \"1\""}),
+           {"6: channel: expected a whole number 0..1, found \"1\""}),
     Module("ChannelIsFraction", "signal-module", "1.0", "0", "",
-           {"6: channel: a whole number 0..1 expected, found 1"}),
+           {"6: channel: expected a whole number 0..1, found 1"}),
     Module("ModuleIsDate", "signal-module", "1", "2026-11-20", "",
-           {"7: module: a whole number 0..15 expected, found a date or time"}),
+           {"7: module: expected a whole number 0..15, found 2026-11-20"}),
     Module("ModuleHuge", "signal-module", "1", "4294967296", "",
-           {"7: module: a whole number 0..15 expected, found 4294967296"}),
+           {"7: module: expected a whole number 0..15, found 4294967296"}),
     Module("TractionBelow", "traction-module", "0", "-1", "type = \"VD-F\"\n",
-           {"7: module: a whole number 0..15 expected, found -1"}),
+           {"7: module: expected a whole number 0..15, found -1"}),
     Module("TractionAbove", "traction-module", "0", "16", "type = \"VD-F\"\n",
-           {"7: module: a whole number 0..15 expected, found 16"}),
+           {"7: module: expected a whole number 0..15, found 16"}),
     Module("PointsBelow", "point-module", "0", "-1", "",
-           {"7: module: a whole number 0..7 expected, found -1"}),
+           {"7: module: expected a whole number 0..7, found -1"}),
     Module("PointsAbove", "point-module", "0", "8", "",
-           {"7: module: a whole number 0..7 expected, found 8"}),
+           {"7: module: expected a whole number 0..7, found 8"}),
     Module("SignalsBelow", "signal-module", "0", "-1", "",
-           {"7: module: a whole number 0..15 expected, found -1"}),
+           {"7: module: expected a whole number 0..15, found -1"}),
     Module("SignalsAbove", "signal-module", "0", "16", "",
-           {"7: module: a whole number 0..15 expected, found 16"}),
+           {"7: module: expected a whole number 0..15, found 16"}),
     Vd("TypeMissing", "", {"5: type: expected here, but missing"}),
     Vd("Type", "type = \"VD\"\n",
-       {"8: type: \"VD-F\", \"VD60\" or \"QLRX-s\" expected, found \"VD\""}),
+       {"8: type: expected \"VD-F\", \"VD60\" or \"QLRX-s\", found \"VD\""}),
     Vd("TractionHold", "type = \"VD-F\"\nstate = \"hold\"\n",
-       {"9: state: \"ok\", \"idle\" or \"fault\" expected, found \"hold\""}),
+       {"9: state: expected \"ok\", \"idle\" or \"fault\", found \"hold\""}),
     Module("PointsFault", "point-module", "0", "0", "state = \"fault\"\n",
-           {"8: state: \"ok\", \"idle\" or \"hold\" expected, found \"fault\""}),
+           {"8: state: expected \"ok\", \"idle\" or \"hold\", found \"fault\""}),
     Module("SignalsFault", "signal-module", "0", "0", "state = \"fault\"\n",
-           {"8: state: \"ok\" or \"idle\" expected, found \"fault\""}),
+           {"8: state: expected \"ok\" or \"idle\", found \"fault\""}),
     Vd("MasterSlave", "type = \"VD-F\"\nmaster-slave = \"both\"\n",
-       {"9: master-slave: \"auto\", \"master\" or \"slave\" expected, found \"both\""}),
+       {"9: master-slave: expected \"auto\", \"master\" or \"slave\", found \"both\""}),
     Vd("Clock", "type = \"VD-F\"\nclock = \"late\"\n",
-       {"9: clock: \"good\", \"none\", \"bad\" or \"degraded\" expected, found \"late\""}),
+       {"9: clock: expected \"good\", \"none\", \"bad\" or \"degraded\", found \"late\""}),
     Module("PointsHaveNoType", "point-module", "0", "0", "type = \"VD-F\"\n",
-           {"8: unknown key \"type\": channel, module, state or version expected"}),
+           {"8: unknown key \"type\": expected channel, module, state or version"}),
     Module("SignalsHaveNoClock", "signal-module", "0", "0", "clock = \"good\"\n",
-           {"8: unknown key \"clock\": channel, module, state or version expected"}),
+           {"8: unknown key \"clock\": expected channel, module, state or version"}),
     Vd("SecondIsNoTable", "type = \"VD60\"\nsecond = true\n",
-       {"9: second: a table, [second] or { ... }, expected, found true"}),
+       {"9: second: expected a table, [second] or { ... }, found true"}),
     Vd("SecondWithoutVd60", "type = \"VD-F\"\nsecond = {}\n",
-       {"9: second: a module of type \"VD60\" expected, no other has one"}),
+       {"9: second: expected a module of type \"VD60\", no other has one"}),
     Vd("SecondsKey", "type = \"VD60\"\nsecond = { module = 4 }\n",
-       {"9: unknown key \"module\": type, state, version, master-slave or clock expected"}),
+       {"9: unknown key \"module\": expected type, state, version, master-slave or clock"}),
     Vd("SecondsState", "type = \"VD60\"\nsecond = { state = \"gone\" }\n",
-       {"9: state: \"ok\", \"idle\" or \"fault\" expected, found \"gone\""}),
+       {"9: state: expected \"ok\", \"idle\" or \"fault\", found \"gone\""}),
     Vd("SamePlace", "type = \"VD-F\"\n[[traction-module]]\nchannel=0\nmodule=3\ntype=\"VD60\"\n",
-       {"9: traction-module: another place expected, module 3 of channel 0 is already described in "
+       {"9: traction-module: expected another place, module 3 of channel 0 is already described in "
         "line 5"}),
     Module("SamePlaceOfPoints", "point-module", "1", "7",
            "[[point-module]]\nchannel=1\nmodule=7\n[[point-module]]\nchannel=0\nmodule=7\n",
-           {"8: point-module: another place expected, module 7 of channel 1 is already described "
+           {"8: point-module: expected another place, module 7 of channel 1 is already described "
             "in line 5"}),
 };
 
 ProblemCase Version(const char* name, const char* version) {
     return Vd(name, "type = \"VD-F\"\nversion = \"" + std::string(version) + "\"\n",
-              {"9: version: " + AVersion() + " or \"none\" expected, found \"" + version + '"'});
+              {"9: version: expected \"none\" or " + AVersion() + "\"" + version + '"'});
 }
 
 const ProblemCase kVersions[] = {
@@ -197,10 +198,10 @@ const ProblemCase kVersions[] = {
     Version("NoRoomForHundreds", "1.86"),
     Version("LetterH", "1.02 H"),
     Version("LetterBeforeA", "1.02 @"),
-    Version("SmallLetter", "1.02 c"),
-    Version("NoBlank", "1.02C"),
-    Version("OtherThanBlank", "1.02-C"),
-    Version("BlankOnly", "1.02 "),
+    Version("LowercaseLetter", "1.02 c"),
+    Version("NoSpace", "1.02C"),
+    Version("OtherThanSpace", "1.02-C"),
+    Version("SpaceOnly", "1.02 "),
     Version("OneDigit", "1.2"),
     Version("TwoDigitsBefore", "11.02"),
     Version("NoDigit", "1.x2"),
@@ -209,7 +210,6 @@ const ProblemCase kVersions[] = {
     Version("Empty", ""),
 };
 
-INSTANTIATE_TEST_SUITE_P(Syntax, WrongLayouts, testing::ValuesIn(kSyntax), CaseName);
 INSTANTIATE_TEST_SUITE_P(Units, WrongLayouts, testing::ValuesIn(kUnits), CaseName);
 INSTANTIATE_TEST_SUITE_P(Modules, WrongLayouts, testing::ValuesIn(kModules), CaseName);
 INSTANTIATE_TEST_SUITE_P(Versions, WrongLayouts, testing::ValuesIn(kVersions), CaseName);
@@ -221,10 +221,10 @@ TEST(LayoutProblemsTest, AreAllListedInTheOrderOfTheFile) {
                   "1: section: expected here, but missing",
                   "1: length: expected here, but missing",
                   "1: top-speed: expected here, but missing",
-                  "2: name: a text of 1..40 characters expected, found 5",
+                  "2: name: expected a text of 1..40 characters, found 5",
                   "3: protocol: expected here, but missing",
-                  "4: type: \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\" expected, found 1",
-                  "5: version: " + AVersion() + " expected, found \"1.0\"",
+                  "4: type: expected \"KB-F\", \"KB-E\", \"KB-G\" or \"QLRX\", found 1",
+                  "5: version: expected " + AVersion() + "\"1.0\"",
                   "6: name: expected here, but missing",
                   "6: block: expected here, but missing",
                   "6: length: expected here, but missing",

@@ -20,7 +20,7 @@ std::string Reference() {
     return text.str();
 }
 
-/// The first indented block behind a heading, without its indentation.
+/// The first indented block after a heading, without its indentation.
 std::string ExampleUnder(const std::string& heading) {
     std::istringstream lines(Reference());
     std::string line;
@@ -76,7 +76,7 @@ TEST_P(ReferencedTables, HaveALineForEachKey) {
     std::string known;
     for (const std::string& problem : ProblemsOf(GetParam().text)) {
         std::smatch match;
-        if (std::regex_match(problem, match, std::regex(R"(.*unknown key "x": (.*) expected)"))) {
+        if (std::regex_match(problem, match, std::regex(R"(.*unknown key "x": expected (.*))"))) {
             known = match[1];
         }
     }
