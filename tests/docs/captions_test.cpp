@@ -78,9 +78,15 @@ class Manual : public twin::TwinWindow {
     static constexpr int kNever = 1'000'000;
 
     void SeeModules() {
-        // A secondary unit of another kind than a VD60.
-        port.state().layout.At(5).status =
-            sim::StatusByte(static_cast<int>(sim::TractionType::kVdF), sim::ModuleState::kOk);
+        using sim::ModuleState;
+        const auto put = [this](int address, ModuleState state) {
+            port.state().layout.At(address).status =
+                sim::StatusByte(static_cast<int>(sim::TractionType::kVdF), state);
+        };
+        put(32 + 0, ModuleState::kIdle);
+        put(32 + 3, ModuleState::kFault);
+        put(64 + 0, ModuleState::kHold);
+        put(5, ModuleState::kOk);  // a secondary unit of another kind than a VD60
         RequestStatus();
         RequestStatus(true);
         Collect();
@@ -138,6 +144,9 @@ class Manual : public twin::TwinWindow {
         DoubleClick("lblCom");
         Collect();
         port.state().fault = true;
+        Poll();
+        Collect();
+        Tick("Check_Stop", true);
         Poll();
         Collect();
     }
