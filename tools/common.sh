@@ -94,8 +94,7 @@ keep_owner() {
     owner=$(stat -c %u .)
     if [ "$(id -u)" -eq 0 ] && [ "$owner" -ne 0 ]; then
         # A folder from outside of a container may belong to a user without a name here.
-        name=$(getent passwd "$owner" | cut -d: -f1)
-        home=$(getent passwd "$owner" | cut -d: -f6)
+        IFS=: read -r name _ _ _ _ home _ < <(getent passwd "$owner" || echo)
         [ -z "$name" ] || groups=--init-groups
         say "Continuing as ${name:-user $owner}, to whom this folder belongs"
         exec setpriv --reuid "$owner" --regid "$(stat -c %g .)" "$groups" \

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <poll.h>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "sim/console/state_table.h"
 
+#include <algorithm>
+
 #include "sim/protocol/names.h"
 #include "sim/unit_fixture.h"
 
