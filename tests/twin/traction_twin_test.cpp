@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include <numeric>
+#include <string>
+#include <string_view>
 
 #include "config/module_commands.h"
 #include "config/selection_list.h"
