@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/nested_loop.h"
 
 namespace zelvar::testing {

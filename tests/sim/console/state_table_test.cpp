@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "sim/console/state_table.h"
 
+#include <algorithm>
+
 #include "sim/unit_fixture.h"
 
 namespace zelvar::sim {

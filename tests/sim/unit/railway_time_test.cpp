@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Simulated time, and that the same commands give the same run.
+#include <algorithm>
+
 #include "sim/console/console.h"
 #include "sim/console/state_listing.h"
 #include "sim/railway_fixture.h"
