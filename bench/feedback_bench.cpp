@@ -64,8 +64,7 @@ double Microseconds(Clock::duration time, const benchmark::State& state) {
 /// Both take turns, so that a busy machine slows both. Painting the whole monitor is counted
 /// apart; a frame has 16,000 microseconds for layout and painting together.
 void BM_RelayoutOf128Labels(benchmark::State& state) {
-    zelvar::HandlerGate gate;
-    zelvar::DlgZelvarFeedback monitor(gate);
+    zelvar::DlgZelvarFeedback monitor;
     auto* spin = monitor.findChild<zelvar::UpDown*>(QStringLiteral("UpDownFBbase"));
     auto* last = monitor.findChild<QLabel*>(QStringLiteral("lblFBM(127)"));
     for (int input = 0; input < zelvar::kFeedbackInputs; ++input) {

@@ -70,12 +70,11 @@ int main(int argc, char** argv) {
     const zelvar::e2e::Simulator simulator(folder, {"--unit-delay", kUnitDelayMilliseconds},
                                            zelvar::e2e::Simulator::Line::kPaced);
     CountingPort port(zelvar::PortTable(zelvar::PortNaming::Linux, simulator.Device()));
-    zelvar::HandlerGate gate;
-    zelvar::QtTimer timer(gate, zelvar::kPollInterval);
+    zelvar::QtTimer timer(zelvar::kPollInterval);
     const zelvar::SteadyClock clock;
     NoBox box;
     const auto describe = [](int number) { return QString::number(number); };
-    zelvar::MainWindow window({port, timer, clock, box, gate, describe, describe});
+    zelvar::MainWindow window({port, timer, clock, box, describe, describe});
     window.show();
     QApplication::processEvents();
     window.findChild<QComboBox*>(QStringLiteral("cboPort"))->setCurrentIndex(0);

@@ -33,28 +33,14 @@ available() {
     done
 }
 
-# need CHOICE...: installs what is missing, with sudo unless you are root. A choice is a package, or
-# several of which one does, since Debian and Ubuntu releases name some of them differently. One that
-# ends in "?" is left out where the system does not have it.
-need() {
-    if ! command -v dpkg-query >/dev/null; then
-        say "This is not a Debian or Ubuntu machine. Please make sure that it has: ${*%\?}"
-        return 0
-    fi
-    local choice package missing=() packages=() unknown=() as_root=()
+# resolve CHOICE...: sets `packages` to those of this system that are missing, `unknown` to the choices
+# that it does not have. One that ends in "?" may be missing where the system does not have it.
+resolve() {
+    local choice package
+    packages=()
+    unknown=()
     for choice in "$@"; do
-        installed "${choice%\?}" || missing+=("$choice")
-    done
-    [ ${#missing[@]} -eq 0 ] && return 0
-
-    if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null && as_root=(sudo)
-    fi
-    if [ "$(id -u)" -eq 0 ] || [ ${#as_root[@]} -gt 0 ]; then
-        # A repository that cannot be reached is no error here: what is missing may come from another.
-        "${as_root[@]}" apt-get update -q || true
-    fi
-    for choice in "${missing[@]}"; do
+        installed "${choice%\?}" && continue
         package=$(available "${choice%\?}")
         if [ -n "$package" ]; then
             packages+=("$package")
@@ -62,16 +48,38 @@ need() {
             unknown+=("$choice")
         fi
     done
-    [ ${#unknown[@]} -eq 0 ] || die "apt does not know ${unknown[*]}.
-Is this computer online, and has it run \"apt-get update\" since it was set up?"
-    [ ${#packages[@]} -eq 0 ] && return 0
+}
 
-    local install=(apt-get install -y -q --no-install-recommends "${packages[@]}")
-    if [ "$(id -u)" -ne 0 ] && [ ${#as_root[@]} -eq 0 ]; then
-        die "Some packages are missing, and there is no sudo here. Please have an administrator run
-    ${install[*]}
-and start this again."
+# need CHOICE...: installs what is missing, with sudo unless you are root. A choice is a package, or
+# several of which one does, since Debian and Ubuntu releases name some of them differently.
+need() {
+    if ! command -v dpkg-query >/dev/null; then
+        say "This is not a Debian or Ubuntu machine. Please make sure that it has: ${*%\?}"
+        return 0
     fi
+    local packages unknown choice as_root=()
+    local install=(apt-get install -y -q --no-install-recommends)
+    resolve "$@"
+    [ $((${#packages[@]} + ${#unknown[@]})) -gt 0 ] || return 0
+
+    if [ "$(id -u)" -ne 0 ]; then
+        as_root=(sudo)
+        if ! command -v sudo >/dev/null; then
+            # A machine that never ran `apt-get update` knows no names; apt also takes an expression.
+            for choice in "${unknown[@]}"; do
+                [ "${choice//|/}" = "$choice" ] || choice="'^($choice)\$'"
+                packages+=("$choice")
+            done
+            die "Some packages are missing, and there is no sudo here. Please have an administrator run
+    apt-get update && ${install[*]} ${packages[*]}
+and start this again."
+        fi
+    fi
+    # A repository that cannot be reached is no error yet: another one may have what is missing.
+    "${as_root[@]}" apt-get update -q || true
+    resolve "$@"
+    [ ${#unknown[@]} -eq 0 ] || die "apt does not know ${unknown[*]}. Is this computer online?"
+    install+=("${packages[@]}")
     say "Installing ${packages[*]}"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive "${install[@]}" ||
         die "The packages could not be installed. Is this computer online?
@@ -86,8 +94,7 @@ keep_owner() {
     owner=$(stat -c %u .)
     if [ "$(id -u)" -eq 0 ] && [ "$owner" -ne 0 ]; then
         # A folder from outside of a container may belong to a user without a name here.
-        name=$(getent passwd "$owner" | cut -d: -f1)
-        home=$(getent passwd "$owner" | cut -d: -f6)
+        IFS=: read -r name _ _ _ _ home _ < <(getent passwd "$owner" || echo)
         [ -z "$name" ] || groups=--init-groups
         say "Continuing as ${name:-user $owner}, to whom this folder belongs"
         exec setpriv --reuid "$owner" --regid "$(stat -c %g .)" "$groups" \

@@ -11,17 +11,18 @@ namespace zelvar::sim {
 
 struct UnitState;
 
-/// A table for people: a heading, the columns' names (none: rows of a name and a value), the rows.
+/// A table for people: a heading, the names of the columns (none: rows of a name and a value), the
+/// rows.
 struct TableSection {
     std::string_view heading;
     std::vector<std::string> columns;
     std::vector<std::vector<std::string>> rows;
 };
 
-/// What there is of the unit and its layout. Adding a section is adding a row to a table.
+/// The state as tables. Those of things that are not there have no rows.
 std::vector<TableSection> StateSections(const UnitState& state);
 
-/// The sections that have rows, with aligned columns and a blank line behind each.
+/// The sections that have rows, with aligned columns and an empty line after each.
 std::string RenderSections(std::span<const TableSection> sections);
 
 }  // namespace zelvar::sim

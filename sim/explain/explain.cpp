@@ -3,17 +3,17 @@
 #include "sim/explain/explain.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 
-#include "sim/protocol/names.h"
+#include "sim/explain/replies.h"
+#include "sim/unit/commands.h"
 
 namespace zelvar::sim {
 
 namespace {
 
-constexpr std::uint8_t kFirstDataByte = 0x80;
-constexpr std::uint8_t kCountMask = 0x07;
-constexpr std::size_t kHexColumn = 28;  // the longest frame: nine bytes, and a blank
+constexpr std::size_t kHexColumn = 28;  // the longest frame: nine bytes, and a space
 
 std::string Values(const Payload& data) {
     std::string text = "values";
@@ -21,15 +21,6 @@ std::string Values(const Payload& data) {
         text.append(index == 0 ? " " : ", ").append(std::to_string(data[index]));
     }
     return text;
-}
-
-const ReplyWords* FindReply(const Payload& reply) {
-    for (const ReplyWords& row : ReplyTable()) {
-        if (row.pattern.Matches(reply)) {
-            return &row;
-        }
-    }
-    return nullptr;
 }
 
 std::string EmptyReply(const std::optional<Payload>& command) {
@@ -40,30 +31,21 @@ std::string EmptyReply(const std::optional<Payload>& command) {
         return "nothing to report";
     }
     const CommandRow* row = FindCommand(*command);
-    const CommandWords* words = row == nullptr ? nullptr : FindWords(row->name);
-    const bool asks = words != nullptr && words->asks;
+    const bool asks = row != nullptr && row->asks == Asks::kYes;
     return asks ? "acknowledged, no answer yet" : "acknowledged";
 }
 
 /// What the bytes from one header to the next one are.
 struct Piece {
-    std::string trouble;  // empty: a right frame
+    std::string trouble;  // empty: a correct frame
     std::optional<CommandFrame> frame;
-    std::size_t extra = 0;  // bytes behind it that belong to none
+    std::size_t extra = 0;  // bytes after it that belong to no frame
 };
-
-std::uint8_t Checksum(std::span<const std::uint8_t> bytes) {
-    unsigned sum = 0;
-    for (const std::uint8_t byte : bytes) {
-        sum += byte;
-    }
-    return static_cast<std::uint8_t>((~sum + 1U) | kFirstDataByte);
-}
 
 Piece TakeApart(std::span<const std::uint8_t> bytes, bool reply) {
     const std::uint8_t header = bytes[0];
     const bool holds = (header & kHeaderHoldBit) != 0;
-    if (header >= kFirstDataByte) {
+    if (header >= kDataBit) {
         return {std::to_string(bytes.size()) + " bytes without a header", {}, 0};
     }
     if ((header & kHeaderMark) == 0 || (holds && !reply)) {
@@ -83,7 +65,7 @@ Piece TakeApart(std::span<const std::uint8_t> bytes, bool reply) {
         piece.frame->data.Append(byte);
     }
     piece.extra = bytes.size() - length;
-    const std::uint8_t expected = Checksum(bytes.first(length - 1));
+    const std::uint8_t expected = ChecksumByte(bytes.first(length - 1));
     if (bytes[length - 1] != expected) {
         piece.trouble = "wrong checksum, " + HexText(std::span(&expected, 1)) + " expected: ";
     }
@@ -99,13 +81,13 @@ std::string Flags(std::uint8_t header, bool reply) {
     return fault && hold ? " [fault, hold]" : fault ? " [fault]" : hold ? " [hold]" : "";
 }
 
-/// Explains each frame by `words`, which gets the frame and whether it is right.
+/// Explains each frame by `words`, which gets the frame and whether it is correct.
 template <typename Words>
-std::string ExplainBytes(std::span<const std::uint8_t> bytes, bool reply, Words words) {
+std::string ExplainBytes(std::span<const std::uint8_t> bytes, bool reply, const Words& words) {
     std::string text;
     while (!bytes.empty()) {
         std::size_t length = 1;
-        while (length < bytes.size() && bytes[length] >= kFirstDataByte) {
+        while (length < bytes.size() && bytes[length] >= kDataBit) {
             ++length;
         }
         const Piece piece = TakeApart(bytes.first(length), reply);
@@ -124,45 +106,23 @@ std::string ExplainBytes(std::span<const std::uint8_t> bytes, bool reply, Words 
 
 }  // namespace
 
-const CommandWords* FindWords(std::string_view name) {
-    for (const auto table :
-         {StatusWords(), ModuleWords(), UnitWords(), DriveWords(), AccessoryWords()}) {
-        for (const CommandWords& entry : table) {
-            if (entry.name == name) {
-                return &entry;
-            }
-        }
-    }
-    return nullptr;
-}
-
-std::optional<int> Conversation::TypeOf(int address) const {
-    const std::optional<int>& told = types[static_cast<std::size_t>(address)];
-    const bool second = FamilyOf(address) == kSecondaryFamily;
-    return !told && second ? static_cast<int>(TractionType::kVd60) : told;
-}
-
 std::string ExplainCommandData(const Payload& command, const Conversation& conversation) {
     const CommandRow* row = FindCommand(command);
-    const CommandWords* words = row == nullptr ? nullptr : FindWords(row->name);
-    if (words == nullptr) {
-        return "unknown command, " + Values(command);
-    }
-    return words->wordsIn == nullptr ? words->words(command)
-                                     : words->wordsIn(conversation, command);
+    return row == nullptr ? "unknown command, " + Values(command)
+                          : row->words.In(command, conversation.types);
 }
 
 std::string ExplainReplyData(const Conversation& conversation, const Payload& reply) {
     if (reply.size() == 0) {
         return EmptyReply(conversation.command);
     }
-    const ReplyWords* row = FindReply(reply);
+    const ReplyRow* row = FindReply(reply);
     if (row == nullptr) {
         return "unknown answer, " + Values(reply);
     }
-    const std::string text = row->words(conversation, reply);
+    const std::string text = row->words.In(reply, conversation.types);
     const std::optional<Payload>& command = conversation.command;
-    // Polls bring whatever waits; the other commands get what they ask for.
+    // A poll brings whatever waits; another command gets what it asks for.
     const bool foreign =
         command && command->size() > 0 && row->answers != nullptr && !row->answers(*command, reply);
     return foreign ? text + " (not what was asked for)" : text;
@@ -180,11 +140,8 @@ std::string Explainer::Command(std::span<const std::uint8_t> bytes) {
 
 std::string Explainer::Reply(std::span<const std::uint8_t> bytes) {
     return ExplainBytes(bytes, true, [this](const CommandFrame& frame, bool right) {
-        const ReplyWords* row = FindReply(frame.data);
-        if (right && row != nullptr && row->name == "module-status" &&
-            (frame.data[3] & kPresentBit) != 0) {
-            conversation_.types[static_cast<std::size_t>(frame.data[2])] =
-                frame.data[3] & kTypeMask;
+        if (const auto reported = TypeInStatus(frame.data); right && reported) {
+            conversation_.types.Set(reported->address, reported->type);
         }
         return ExplainReplyData(conversation_, frame.data);
     });

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <vector>
 
 #include "sim/explain/explain.h"
 #include "sim/text/number.h"
@@ -12,9 +13,9 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr std::string_view kBlanks = " \t\r";
-constexpr std::size_t kByteText = 3;  // a blank and two digits
-/// A line of the log whose reply is as long as a reply can be.
+constexpr std::string_view kSpaces = " \t\r";
+constexpr std::size_t kByteText = 3;  // a space and two digits
+/// The length of a line whose reply is as long as a reply can be.
 constexpr std::size_t kLogColumn = 62;
 constexpr int kMostByte = 255;
 constexpr std::string_view kUnansweredPoll = "poll -> no answer";
@@ -36,21 +37,21 @@ Bytes TakeBytes(std::string_view& text) {
     return bytes;
 }
 
-std::string_view WithoutBlanksBefore(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+std::string_view WithoutSpacesBefore(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(kSpaces), text.size()));
     return text;
 }
 
-std::string_view WithoutBlanksBehind(std::string_view text) {
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+std::string_view WithoutSpacesAfter(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(kSpaces) + 1);
 }
 
-/// What stands behind the bytes is either nothing, or the meaning that was added earlier.
+/// After the bytes comes nothing, or the meaning that was added earlier.
 bool EndsFrames(std::string_view rest) {
     return rest.empty() || rest.starts_with("  ");
 }
 
-/// "? line 12: ...", as an earlier explanation has marked it.
+/// "? line 12: ...", the mark of an earlier explanation.
 bool IsMarked(std::string_view content) {
     if (!content.starts_with(kUnknownMark)) {
         return false;
@@ -61,8 +62,8 @@ bool IsMarked(std::string_view content) {
            content.substr(digits).starts_with(": ");
 }
 
-/// ">> 0A 81 80 F5                 << 08 F8", also with a meaning behind it, and also with nothing
-/// behind the "<<", where no answer came.
+/// ">> 0A 81 80 F5                 << 08 F8", also with a meaning after it, and with nothing after
+/// the "<<", where no answer came.
 std::optional<std::string> ExplainLogLine(Explainer& explainer, std::string_view line) {
     std::string_view rest = line;
     rest.remove_prefix(2);
@@ -71,16 +72,16 @@ std::optional<std::string> ExplainLogLine(Explainer& explainer, std::string_view
         return std::nullopt;
     }
     std::string meaning = explainer.Command(command);
-    std::string_view frames = WithoutBlanksBehind(line.substr(0, line.size() - rest.size()));
-    std::string_view behind = WithoutBlanksBefore(rest);
-    if (behind.starts_with("<<")) {
-        behind.remove_prefix(2);
-        const Bytes reply = TakeBytes(behind);
-        if (!EndsFrames(behind)) {
+    std::string_view frames = WithoutSpacesAfter(line.substr(0, line.size() - rest.size()));
+    std::string_view after = WithoutSpacesBefore(rest);
+    if (after.starts_with("<<")) {
+        after.remove_prefix(2);
+        const Bytes reply = TakeBytes(after);
+        if (!EndsFrames(after)) {
             return std::nullopt;
         }
         meaning.append(" -> ").append(reply.empty() ? "no answer" : explainer.Reply(reply));
-        frames = line.substr(0, line.size() - behind.size());
+        frames = line.substr(0, line.size() - after.size());
     } else {
         meaning.append(" -> no answer");
     }
@@ -95,7 +96,7 @@ std::optional<std::string> ExplainTraceLine(Explainer& explainer, std::string_vi
     if (mark == std::string_view::npos) {
         return std::nullopt;
     }
-    const std::string_view time = WithoutBlanksBehind(line.substr(0, mark));
+    const std::string_view time = WithoutSpacesAfter(line.substr(0, mark));
     if (time.find_first_not_of("0123456789:.") != std::string_view::npos) {
         return std::nullopt;
     }
@@ -116,8 +117,8 @@ LogCount ExplainLog(std::istream& in, std::ostream& out) {
     bool inLog = false;  // the line before was one of the program's log
     for (std::string raw; std::getline(in, raw);) {
         ++count.lines;
-        const std::string_view line = WithoutBlanksBehind(raw);
-        const std::string_view content = WithoutBlanksBefore(line);
+        const std::string_view line = WithoutSpacesAfter(raw);
+        const std::string_view content = WithoutSpacesBefore(line);
         std::optional<std::string> explained;
         if (content.starts_with(">>")) {
             explained = ExplainLogLine(explainer, content);

@@ -11,6 +11,7 @@
 
 #include "sim/layouts/layout_track.h"
 #include "sim/layouts/table_reader.h"
+#include "sim/protocol/names.h"
 
 namespace zelvar::sim {
 
@@ -21,15 +22,6 @@ constexpr std::size_t kLongestTitle = 64;           // bytes: fits a line of the
 constexpr Limits kChannels{0, 1};
 constexpr std::size_t kDipSwitches = 4;
 
-constexpr Word kUnitTypes[] = {{"KB-F", static_cast<int>(UnitType::kKbF)},
-                               {"KB-E", static_cast<int>(UnitType::kKbE)},
-                               {"KB-G", static_cast<int>(UnitType::kKbG)},
-                               {"QLRX", static_cast<int>(UnitType::kQlrx)}};
-constexpr Word kTractionTypes[] = {{"VD-F", static_cast<int>(TractionType::kVdF)},
-                                   {"VD60", static_cast<int>(TractionType::kVd60)},
-                                   {"QLRX-s", static_cast<int>(TractionType::kQlrxS)}};
-constexpr Word kMasterSlave[] = {{"auto", 0}, {"master", 1}, {"slave", 2}};
-constexpr Word kClocks[] = {{"good", 0}, {"none", 1}, {"bad", 2}, {"degraded", 4}};
 constexpr Word kSwitches[] = {{"off", 0}, {"on", 1}};
 
 constexpr Word kOk{"ok", static_cast<int>(ModuleState::kOk)};
@@ -57,23 +49,34 @@ ModuleState ReadState(TableReader& reader, std::span<const Word> states) {
         reader.OneOf("state", states, Need::kOptional).value_or(kOk.value));
 }
 
-/// The values that only traction units have.
-void ReadClockAndRole(TableReader& reader, ModuleSlot& slot) {
-    slot.masterSlave = static_cast<std::uint8_t>(
-        reader.OneOf("master-slave", kMasterSlave, Need::kOptional).value_or(0));
+/// A setting in words, or a number in its range.
+std::optional<int> ReadSetting(TableReader& reader, const TractionSetting& setting) {
+    return setting.words.empty()
+               ? reader.Int(setting.layoutKey, {setting.min, setting.max}, Need::kOptional)
+               : reader.OneOf(setting.layoutKey, setting.words, Need::kOptional);
+}
+
+/// What only traction units have.
+void ReadSettingsAndClock(TableReader& reader, ModuleSlot& slot) {
+    for (const TractionSetting& setting : kTractionSettings) {
+        if (!setting.layoutKey.empty()) {
+            slot.settings[setting.parameter] =
+                static_cast<std::uint8_t>(ReadSetting(reader, setting).value_or(setting.factory));
+        }
+    }
     slot.clock =
-        static_cast<std::uint8_t>(reader.OneOf("clock", kClocks, Need::kOptional).value_or(0));
+        static_cast<std::uint8_t>(reader.OneOf("clock", kClockWords, Need::kOptional).value_or(0));
 }
 
 /// A VD60's second unit; without a version of its own it has that of the first unit.
 ModuleSlot ReadSecondUnit(const toml::table& table, int version, LayoutProblems& problems) {
     TableReader reader(table, problems);
     ModuleSlot slot;
-    const int type = reader.OneOf("type", kTractionTypes, Need::kOptional)
+    const int type = reader.OneOf("type", kTractionTypeWords, Need::kOptional)
                          .value_or(static_cast<int>(TractionType::kVd60));
     slot.status = StatusByte(type, ReadState(reader, kTractionStates));
     slot.version = reader.Version("version", true, Need::kOptional).value_or(version);
-    ReadClockAndRole(reader, slot);
+    ReadSettingsAndClock(reader, slot);
     reader.RejectOtherKeys();
     return slot;
 }
@@ -88,13 +91,13 @@ class ModuleReader {
         const auto module = reader.Int("module", {0, family.places - 1}, Need::kRequired);
         const bool isTraction = family.address == kTractionFamily;
         const int type =
-            isTraction ? reader.OneOf("type", kTractionTypes, Need::kRequired).value_or(0) : 0;
+            isTraction ? reader.OneOf("type", kTractionTypeWords, Need::kRequired).value_or(0) : 0;
         ModuleSlot slot;
         slot.status = StatusByte(type, ReadState(reader, family.states));
         slot.version = reader.Version("version", true, Need::kOptional).value_or(0);
         ModuleSlot second;
         if (isTraction) {
-            ReadClockAndRole(reader, slot);
+            ReadSettingsAndClock(reader, slot);
             if (const toml::table* unit = reader.Table("second", Need::kOptional)) {
                 second = ReadSecondUnit(*unit, slot.version, problems_);
                 if (type != static_cast<int>(TractionType::kVd60)) {
@@ -135,7 +138,7 @@ class ModuleReader {
 
 void ReadUnit(const toml::table& table, Layout& layout, LayoutProblems& problems) {
     TableReader reader(table, problems);
-    layout.unitType = reader.OneOf("type", kUnitTypes, Need::kRequired).value_or(0);
+    layout.unitType = reader.OneOf("type", kUnitTypeWords, Need::kRequired).value_or(0);
     layout.systemVersion = reader.Version("version", false, Need::kRequired).value_or(0);
     layout.protocolVersion = reader.Version("protocol", false, Need::kRequired).value_or(0);
     const auto switches = reader.ListOf("dip-switches", kSwitches, kDipSwitches, Need::kOptional)

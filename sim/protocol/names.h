@@ -6,54 +6,43 @@
 #include <string>
 #include <string_view>
 
-#include "sim/unit/layout.h"
+#include "sim/text/words.h"
 
 namespace zelvar::sim {
 
-/// Words for the values that travel on the line, for people to read. A value without a name is
-/// told as its number.
+/// Words for the values that travel on the line. A value without a word is shown as its number.
 
-/// "3.11 B"; "none" for 0.
-std::string VersionName(int version);
-/// The version in two bytes, as a number: 0x19, 0x0A is 3112.
-int DecodeVersion(int high, int low);
+inline constexpr Word kClockWords[] = {{"good", 0}, {"none", 1}, {"bad", 2}, {"degraded", 4}};
+inline constexpr Word kPowerWords[] = {{"normal", 0}, {"low", 1}, {"high", 2}, {"unlimited", 3}};
 
-std::string UnitTypeName(int type);
-std::string TractionTypeName(int type);
-/// A module by its address 0..127: "traction module 19", "point module 9".
-std::string ModuleName(int address);
-/// The same behind "of": "of the second unit of traction module 19", "of point module 9".
-std::string OfModule(int address);
-/// The family of an address 0..127.
-int FamilyOf(int address);
-/// What a status byte says, by the family of the module's address: "VD60, OK" or "absent".
-std::string StatusName(int address, int status);
-/// The state alone: "absent", "idle", "fault", "hold" or "OK".
-std::string_view ModuleStateName(int address, int status);
-
-/// The setting of a traction module by its number 1..15: "HFI level". Number 15 is the address in
-/// a QLRX-s and the state of the clock elsewhere.
-std::string SettingName(int parameter);
-/// Its value: "master" or "12".
-std::string SettingValueName(int parameter, int value);
 std::string ClockName(int clock);
-/// The power of a point motor: "high".
+/// The power of a point motor: "high"
 std::string PowerName(int power);
-/// Sixtieths of a second: "15/60 s"; `zero` in place of 0.
-std::string TimeName(int sixtieths, std::string_view zero = "0/60 s");
+/// Sixtieths of a second: "15/60 s"
+std::string TimeName(int sixtieths);
+/// The same for a device of a point module, where 0 is "the default".
+std::string DeviceTimeName(int sixtieths);
 
-/// The switches that are on in the unit's configuration and its options; "none".
+/// The switches that are on in the unit's configuration and its options; "none"
 std::string ConfigurationName(int configuration);
 std::string OptionsName(int options);
-/// The functions that are on, for the eight of an MCC locomotive; "none".
+
+/// The functions of a DCC decoder from number `first` on, by the bits of `functions`: "F1, F4"
+std::string DccFunctionsName(int functions, int first = 0, std::string_view light = "F0");
+/// Those of an MCC decoder: "light, F1"
 std::string MccFunctionsName(int functions);
-/// An MCC speed in half steps 0..30: "3.5 of 15".
+
+/// The half steps 0..30 that a speed code of an MCC command stands for; 0 for the emergency stop,
+/// code 0, too.
+int MccHalfSteps(int code);
+/// "3.5 of 15"
 std::string HalfStepsName(int halfSteps);
 
-std::string_view DirectionName(bool forward);
-std::string_view PositionName(bool thrown);
+std::string DirectionName(int forward);
+std::string PositionName(int thrown);
+std::string OnOffName(int on);
 
-/// "a, b, c"; `none` when there are none.
+/// "a, b, c"; `none` when there are none
 std::string Joined(std::span<const std::string> words, std::string_view none = "none");
 
 }  // namespace zelvar::sim

@@ -2,48 +2,32 @@
 // SPDX-License-Identifier: MIT
 #include "sim/protocol/wire.h"
 
+#include <numeric>
+
 namespace zelvar::sim {
 
-namespace {
-
-constexpr std::uint8_t kDataBit = 0x80;  // tells data and checksum from headers
-constexpr std::uint8_t kValueMask = 0x7F;
-constexpr std::uint8_t kCountMask = 0x07;
-
-}  // namespace
-
-Payload::Payload(std::initializer_list<int> values) {
-    for (const int value : values) {
-        Append(value);
-    }
-}
-
-void Payload::Append(int value) {
-    if (count_ < kMaxDataBytes) {
-        values_[count_] = static_cast<std::uint8_t>(value & kValueMask);
-        ++count_;
-    }
+std::uint8_t ChecksumByte(std::span<const std::uint8_t> bytes) {
+    const unsigned sum = std::accumulate(bytes.begin(), bytes.end(), 0U);
+    // Two's complement in seven bits, so that everything adds up to a multiple of 128.
+    return static_cast<std::uint8_t>(((~sum + 1U) & kValueMask) | kDataBit);
 }
 
 std::vector<std::uint8_t> EncodeFrame(const Payload& data, std::uint8_t bits) {
     std::vector<std::uint8_t> bytes;
-    bytes.reserve(data.size() + 2);
+    bytes.reserve(kMaxFrameBytes);
     const auto header = static_cast<std::uint8_t>(
         (kHeaderMark | data.size() | (bits & static_cast<unsigned>(~kCountMask))) & kValueMask);
     bytes.push_back(header);
-    unsigned sum = header;
     for (std::size_t index = 0; index < data.size(); ++index) {
-        sum += static_cast<unsigned>(data[index]);
         bytes.push_back(static_cast<std::uint8_t>(data[index] | kDataBit));
     }
-    // Two's complement in seven bits, so that everything adds up to a multiple of 128.
-    bytes.push_back(static_cast<std::uint8_t>(((~sum + 1U) & kValueMask) | kDataBit));
+    bytes.push_back(ChecksumByte(bytes));
     return bytes;
 }
 
 FrameParser::Outcome FrameParser::Push(std::uint8_t byte) {
     if ((byte & kDataBit) == 0) {
-        // A header starts a frame at any time; what was there of an earlier one is lost.
+        // A header starts a frame at any time and drops an incomplete one.
         const bool known = (byte & kHeaderMark) != 0 && (byte & kHeaderHoldBit) == 0;
         frame_ = CommandFrame{byte, {}};
         sum_ = byte;

@@ -6,12 +6,22 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <span>
 #include <vector>
 
 namespace zelvar::sim {
 
 /// Data bytes one frame can carry: its header counts them in three bits.
 inline constexpr std::size_t kMaxDataBytes = 7;
+/// The bytes of the longest frame; header and checksum come with the data.
+inline constexpr std::size_t kMaxFrameBytes = kMaxDataBytes + 2;
+
+/// Data values have seven bits.
+inline constexpr int kPayloadRange = 128;
+inline constexpr std::uint8_t kValueMask = kPayloadRange - 1;
+/// On the line all bytes but the header have this bit.
+inline constexpr std::uint8_t kDataBit = 0x80;
+inline constexpr std::uint8_t kCountMask = 0x07;  // the number of data values, in a header
 
 /// Header bits beside the count of data bytes.
 inline constexpr std::uint8_t kHeaderMark = 0x08;      // set in every frame
@@ -23,14 +33,23 @@ inline constexpr std::uint8_t kHeaderToggleBit = 0x40;
 /// The data values of a frame: 0 to 7 values of 0..127. Wider numbers lose their upper bits.
 class Payload {
   public:
-    Payload() = default;
-    Payload(std::initializer_list<int> values);
+    constexpr Payload() = default;
+    constexpr Payload(std::initializer_list<int> values) {
+        for (const int value : values) {
+            Append(value);
+        }
+    }
 
     /// Adds one value; an eighth one is dropped.
-    void Append(int value);
+    constexpr void Append(int value) {
+        if (count_ < kMaxDataBytes) {
+            values_[count_] = static_cast<std::uint8_t>(value & kValueMask);
+            ++count_;
+        }
+    }
 
     constexpr std::size_t size() const { return count_; }
-    /// Value number `index`, from 0; 0 behind the last one (`index` below 7).
+    /// The value at `index` 0..6; 0 after the last one.
     constexpr int operator[](std::size_t index) const { return values_[index]; }
     bool operator==(const Payload&) const = default;
 
@@ -48,6 +67,9 @@ struct CommandFrame {
     bool Toggle() const { return (header & kHeaderToggleBit) != 0; }
 };
 
+/// The byte that ends a frame whose other bytes are these.
+std::uint8_t ChecksumByte(std::span<const std::uint8_t> bytes);
+
 /// The bytes of a frame on the wire: header, data, checksum. `bits` are header bits set beside the
 /// mark and the count.
 std::vector<std::uint8_t> EncodeFrame(const Payload& data, std::uint8_t bits = 0);
@@ -56,7 +78,7 @@ std::vector<std::uint8_t> EncodeFrame(const Payload& data, std::uint8_t bits = 0
 class FrameParser {
   public:
     enum class Outcome {
-        kNothing,        // inside a frame, or a byte that belongs to none
+        kNothing,        // inside a frame, or a byte outside any frame
         kFrame,          // complete and right: `frame()` holds it
         kBadChecksum,    // complete and wrong
         kUnknownHeader,  // the bytes up to the next header are skipped
@@ -68,7 +90,7 @@ class FrameParser {
   private:
     CommandFrame frame_;
     unsigned sum_ = 0;
-    std::size_t missing_ = 0;  // bytes still to come, the checksum among them
+    std::size_t missing_ = 0;  // bytes still to come, including the checksum
 };
 
 }  // namespace zelvar::sim

@@ -4,36 +4,23 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <vector>
+
+#include "sim/protocol/names.h"
 
 namespace zelvar::sim {
 
-namespace {
-
-constexpr int kMccFullMask = 0x0F;
-constexpr int kMccEvenBit = 0x10;  // set in the codes of even half steps, 0 among them
-constexpr int kHalvesPerStep = 2;
-
-}  // namespace
-
-int MccHalfSteps(int code) {
-    const bool even = (code & kMccEvenBit) != 0;
-    const int full = code & kMccFullMask;
-    return full == 0 ? 0 : kHalvesPerStep * full - (even ? 0 : 1);
-}
-
-void Drive::Advance(std::chrono::nanoseconds now, ReportQueue& reports) {
+std::vector<int> Drive::Advance(std::chrono::nanoseconds now) {
     now_ = now;
+    std::vector<int> changed;
     for (int number = 0; number < kBlocks; ++number) {
-        Block& block = Of(number);
-        if (block.speed.Advance(now)) {
-            reports.PushLatest(
-                BlockSpeedReport(number, std::abs(block.speed.speed()), block.RunsForward()));
+        if (blocks_[number].speed.Advance(now)) {
+            changed.push_back(number);
         }
     }
     for (auto& [decoder, locomotive] : mcc_) {
         locomotive.halfSteps.Advance(now);
     }
+    return changed;
 }
 
 bool Drive::Settled() const {
@@ -53,15 +40,15 @@ void Drive::Restart() {
 }
 
 void Drive::SetBlockSpeed(int block, int speed, bool forward, int acceleration) {
-    for (const auto& [number, turned] : Together(block)) {
-        Block& other = Of(number);
+    for (const auto& [number, turned] : LinkedBlocks(block)) {
+        Block& other = blocks_[number];
         other.forward = forward != turned;
         other.speed.Set(other.forward ? speed : -speed, now_, acceleration * kAnalogStep);
     }
 }
 
 void Drive::ClearBlock(int block) {
-    Block& cleared = Of(block);
+    Block& cleared = blocks_[block];
     cleared.forward = true;
     cleared.light = false;
     cleared.speed.Set(0, now_, std::chrono::nanoseconds(0));
@@ -80,7 +67,7 @@ void Drive::Link(int first, int second, bool inverted) {
         return;
     }
     links_[{first, second}] = inverted;
-    const Block& leading = Of(first);
+    const Block& leading = blocks_[first];
     const int speed = leading.speed.target();
     SetBlockSpeed(first, std::abs(speed), leading.forward, 0);
 }
@@ -109,8 +96,8 @@ void Drive::SetMccSpeed(int decoder, int code, int acceleration) {
     locomotive.halfSteps.Set(MccHalfSteps(code), now_, acceleration * kMccHalfStep);
 }
 
-std::map<int, bool> Drive::Together(int block) const {
-    std::map<int, bool> together = {{block, false}};
+std::map<int, bool> Drive::LinkedBlocks(int block) const {
+    std::map<int, bool> linked = {{block, false}};
     std::vector<int> open = {block};
     while (!open.empty()) {
         const int current = open.back();
@@ -121,12 +108,12 @@ std::map<int, bool> Drive::Together(int block) const {
                 continue;
             }
             const int other = first == current ? second : first;
-            if (together.emplace(other, together.at(current) != inverted).second) {
+            if (linked.emplace(other, linked.at(current) != inverted).second) {
                 open.push_back(other);
             }
         }
     }
-    return together;
+    return linked;
 }
 
 }  // namespace zelvar::sim

@@ -8,9 +8,10 @@
 #include <map>
 #include <tuple>
 #include <utility>
+#include <vector>
 
+#include "sim/protocol/addresses.h"
 #include "sim/railway/ramp.h"
-#include "sim/unit/reports.h"
 
 namespace zelvar::sim {
 
@@ -18,13 +19,13 @@ namespace zelvar::sim {
 inline constexpr std::chrono::milliseconds kAnalogStep{10};   // 127 takes 80 s to the top
 inline constexpr std::chrono::milliseconds kMccHalfStep{20};  // 7 takes 4.2 s to the top
 
-/// A track block with whatever analog locomotive stands in it.
+/// A track block with the analog locomotives in it.
 struct Block {
     Ramp speed;           // -63..63, forward is positive
-    bool forward = true;  // the direction asked for
+    bool forward = true;  // the requested direction
     bool light = false;
 
-    /// Forward while it still rolls that way, else what was asked for.
+    /// The actual direction while moving, the requested one at standstill.
     bool RunsForward() const { return speed.speed() == 0 ? forward : speed.speed() > 0; }
 };
 
@@ -46,7 +47,7 @@ struct DccLocomotive {
     bool emergencyStop = false;
     int block = 0;
     std::bitset<kDccFunctions> functions;  // 0 is the light
-    bool cleared = false;                  // stopped with its block, until its next speed
+    bool cleared = false;                  // stopped together with its block, until its next speed
 };
 
 struct MccLocomotive {
@@ -55,16 +56,13 @@ struct MccLocomotive {
     int functions = 0;  // eight bits
 };
 
-/// The half steps 0..30 that a speed code of an MCC command means; code 0, the emergency stop, too.
-int MccHalfSteps(int code);
-
-/// What an output module was told for one of its outputs.
+/// The last command to one output of an output module.
 struct OutputSetting {
     int instruction = 0;
     int parameter = 0;
 };
 
-/// What stands beside the track, as it was last told.
+/// Points, signals and outputs, each as its last command set it.
 struct Accessories {
     std::map<int, bool> points;                        // thrown, by device 0..511
     std::map<std::pair<int, int>, bool> modulePoints;  // thrown, by module position and device
@@ -75,24 +73,24 @@ struct Accessories {
 /// What runs on the layout.
 class Drive {
   public:
-    /// Lets time pass up to `now`. Each block whose speed changed, also by a command since the last
-    /// call, is reported.
-    void Advance(std::chrono::nanoseconds now, ReportQueue& reports);
+    /// Lets time pass up to `now`. Returns the blocks whose speed changed, also by a command since
+    /// the last call.
+    std::vector<int> Advance(std::chrono::nanoseconds now);
     /// Whether no speed is on its way to another one.
     bool Settled() const;
-    /// The unit starts afresh: everything stands, nothing is linked, nothing is reported.
+    /// Everything stands, no blocks are linked, no locomotive is known.
     void Restart();
 
     /// Speed 0..63 of a block and of those linked to it. The acceleration is 0 (at once) to 127.
     void SetBlockSpeed(int block, int speed, bool forward, int acceleration);
-    void SetBlockLight(int block, bool light) { Of(block).light = light; }
-    /// Everything in the block stands, heads forward and is dark.
+    void SetBlockLight(int block, bool light) { blocks_[block].light = light; }
+    /// Everything in the block stops, turns forward and goes dark.
     void ClearBlock(int block);
-    /// The two blocks run together from now on, the second one turned round when `inverted`; it
-    /// takes over the first one's speed.
+    /// From now on the two blocks run together, the second one in the other direction if
+    /// `inverted`. It takes over the first one's speed.
     void Link(int first, int second, bool inverted);
-    /// Ends the links up (those with the block first) or down (second). The blocks at their other
-    /// ends are cleared when `clearOthers`.
+    /// Ends the links up (those with the block first) or down (second). Clears the blocks at their
+    /// other ends if `clearOthers`.
     void Unlink(int block, bool up, bool clearOthers);
 
     DccLocomotive& Dcc(const DccDecoder& decoder) { return dcc_[decoder]; }
@@ -108,10 +106,9 @@ class Drive {
     const std::map<int, MccLocomotive>& mcc() const { return mcc_; }
 
   private:
-    Block& Of(int block) { return blocks_[static_cast<std::size_t>(block)]; }
-    /// The blocks that run together with `block`, itself among them, and whether each is turned
-    /// round against it.
-    std::map<int, bool> Together(int block) const;
+    /// The blocks that run together with `block`, itself included, and whether each of them runs in
+    /// the other direction.
+    std::map<int, bool> LinkedBlocks(int block) const;
 
     std::array<Block, kBlocks> blocks_;
     Links links_;

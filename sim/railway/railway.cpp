@@ -16,19 +16,19 @@ constexpr double kTopBlockSpeed = 63;
 constexpr double kTopHalfSteps = 30;
 
 /// -1..1. The library's distributions differ between libraries; its generator does not.
-double Evenly(std::mt19937& generator) {
+double UniformSigned(std::mt19937& generator) {
     constexpr double kHalfRange = 2147483647.5;  // of 32 bits
     return static_cast<double>(generator()) / kHalfRange - 1;
 }
 
 double AnalogFraction(const Drive& drive, const TrackSection& section, bool along) {
-    const Block& block = drive.blocks()[static_cast<std::size_t>(section.block)];
+    const Block& block = drive.blocks()[section.block];
     const double fraction = block.speed.speed() / kTopBlockSpeed;
     return along ? fraction : -fraction;
 }
 
 double DccFraction(const DccLocomotive& locomotive) {
-    // The codes above the top step mean no more than the top.
+    // The codes above the top step are the top step, too.
     const double fraction =
         static_cast<double>(std::min(locomotive.speed, locomotive.steps)) / locomotive.steps;
     return locomotive.forward ? fraction : -fraction;
@@ -47,31 +47,30 @@ bool StopsAtOnce(const Train& train, const Drive& drive) {
     return decoder != nullptr && (decoder->emergencyStop || decoder->cleared);
 }
 
-/// Goes from `speed` to `wanted`, at most `change` at once; 0 follows at once.
-double Nearer(double speed, double wanted, double change) {
+/// `speed`, moved towards `wanted` by at most `change`; without a limit if that is 0.
+double StepTowards(double speed, double wanted, double change) {
     return change <= 0 ? wanted : speed + std::clamp(wanted - speed, -change, change);
 }
 
 template <std::size_t count>
-void CollectChanges(const std::bitset<count>& now, std::bitset<count>& told,
+void CollectChanges(const std::bitset<count>& now, std::bitset<count>& reported,
                     std::vector<std::pair<int, bool>>& changes) {
-    if (now == told) {
+    if (now == reported) {
         return;
     }
     for (std::size_t number = 0; number < count; ++number) {
-        if (now.test(number) != told.test(number)) {
+        if (now.test(number) != reported.test(number)) {
             changes.emplace_back(static_cast<int>(number), now.test(number));
         }
     }
-    told = now;
+    reported = now;
 }
 
 template <typename Named>
 std::optional<std::size_t> FindNamed(const std::vector<Named>& all, std::string_view name) {
     const auto found =
         std::find_if(all.begin(), all.end(), [&](const Named& each) { return each.name == name; });
-    return found == all.end() ? std::nullopt
-                              : std::optional(static_cast<std::size_t>(found - all.begin()));
+    return found == all.end() ? std::nullopt : std::optional<std::size_t>(found - all.begin());
 }
 
 }  // namespace
@@ -85,19 +84,19 @@ Railway::Railway(TrackPlan plan, std::uint32_t seed)
     for (const Train& train : plan_.trains) {
         Train own = train;
         if (seed != 0) {
-            own.topSpeed *= 1 + kEngineDifference * Evenly(generator);
+            own.topSpeed *= 1 + kEngineDifference * UniformSigned(generator);
         }
         trains_.push_back({own, TrainPath(plan_, train.section, train.position, train.length, {})});
     }
     Observe();
-    toldDetected_ = detected_;
+    reportedDetected_ = detected_;
 }
 
 double Railway::WantedSpeed(const RunningTrain& train, const Drive& drive) const {
     const Train& described = train.described;
     double fraction = 0;
     if (described.control == TrainControl::kAnalog) {
-        const Footing& engine = train.path.sections().front();
+        const SectionUnderTrain& engine = train.path.sections().front();
         fraction = AnalogFraction(drive, plan_.sections[engine.section], engine.along);
     } else if (described.control == TrainControl::kDcc) {
         const DccLocomotive* const decoder = DecoderOf(described, drive);
@@ -118,10 +117,10 @@ void Railway::Run(RunningTrain& train, const Drive& drive, const PointPositions&
     if (StopsAtOnce(train.described, drive)) {
         train.speed = 0;
     } else if (train.described.control == TrainControl::kDcc) {
-        train.speed = Nearer(train.speed, wanted, change);
+        train.speed = StepTowards(train.speed, wanted, change);
     } else if (train.resuming && std::abs(wanted) > std::abs(train.speed)) {
-        // Only what makes it faster takes its time: it is stopped as fast as ever.
-        train.speed = Nearer(train.speed * wanted < 0 ? 0 : train.speed, wanted, change);
+        // Only getting faster takes time: it stops as fast as ever.
+        train.speed = StepTowards(train.speed * wanted < 0 ? 0 : train.speed, wanted, change);
     } else {
         train.speed = wanted;
     }
@@ -135,8 +134,8 @@ void Railway::Run(RunningTrain& train, const Drive& drive, const PointPositions&
 void Railway::Step(const Drive& drive, const PointPositions& points) {
     bool elsewhere = false;
     for (RunningTrain& train : trains_) {
-        const Footing nose = train.path.sections().front();
-        const Footing tail = train.path.sections().back();
+        const SectionUnderTrain nose = train.path.sections().front();
+        const SectionUnderTrain tail = train.path.sections().back();
         Run(train, drive, points);
         elsewhere = elsewhere || train.path.sections().front() != nose ||
                     train.path.sections().back() != tail;
@@ -179,19 +178,19 @@ void Railway::Observe() {
     }
     for (std::size_t index = 0; index < trains_.size(); ++index) {
         std::bitset<kBlocks> blocks;
-        for (const Footing& footing : trains_[index].path.sections()) {
-            const TrackSection& section = plan_.sections[footing.section];
-            std::vector<std::size_t>& trains = occupants_[footing.section];
+        for (const SectionUnderTrain& under : trains_[index].path.sections()) {
+            const TrackSection& section = plan_.sections[under.section];
+            std::vector<std::size_t>& trains = occupants_[under.section];
             if (trains.empty() || trains.back() != index) {
                 trains.push_back(index);
             }
-            const auto block = static_cast<std::size_t>(section.block);
+            const int block = section.block;
             if (!blocks.test(block)) {
                 blocks.set(block);
                 shared_.set(block, ++trainsIn[block] > 1);
             }
             if (section.feedback) {
-                detected_.set(static_cast<std::size_t>(*section.feedback));
+                detected_.set(*section.feedback);
             }
         }
     }
@@ -199,8 +198,8 @@ void Railway::Observe() {
 
 TrackChanges Railway::TakeChanges() {
     TrackChanges changes;
-    CollectChanges(detected_, toldDetected_, changes.inputs);
-    CollectChanges(shared_, toldShared_, changes.shared);
+    CollectChanges(detected_, reportedDetected_, changes.inputs);
+    CollectChanges(shared_, reportedShared_, changes.shared);
     return changes;
 }
 

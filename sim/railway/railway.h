@@ -17,7 +17,7 @@
 
 namespace zelvar::sim {
 
-/// Simulated time goes in steps of this, whenever somebody looks: the same run each time.
+/// Simulated time advances in fixed steps, whatever the times of the calls: the same run each time.
 inline constexpr std::chrono::milliseconds kRailwayStep{10};
 
 /// Engines of a seeded railway are up to this much faster or slower than described.
@@ -26,7 +26,7 @@ inline constexpr double kEngineDifference = 0.03;
 /// Centimetres; a shorter section is as long as this.
 inline constexpr double kShortestSection = 1;
 
-/// What became of detectors and blocks: the number of each and whether it is set now.
+/// Detectors and blocks that changed: the number of each and whether it is set now.
 struct TrackChanges {
     std::vector<std::pair<int, bool>> inputs;  // feedback inputs
     std::vector<std::pair<int, bool>> shared;  // blocks with two trains or more
@@ -39,8 +39,8 @@ class Railway {
         Train described;  // its top speed with the engine's own difference
         TrainPath path;
         double speed = 0;        // centimetres a second, nose first is positive
-        bool resuming = false;   // it was held up: it gathers speed by its mass again
-        bool backwards = false;  // the way it last wanted to go
+        bool resuming = false;   // after a stop: it gathers speed by its mass
+        bool backwards = false;  // the direction of its last speed
     };
 
     /// Without a seed (0) all engines run as described.
@@ -48,9 +48,9 @@ class Railway {
 
     /// One step of `kRailwayStep` with power on the track.
     void Step(const Drive& drive, const PointPositions& points);
-    /// Everything stands at once; what was told to run gathers speed again with the next step.
+    /// Every train stops at once; those with a speed gather it again from the next step on.
     void Halt();
-    /// Nothing moves, and nothing will until the next command.
+    /// No train moves or will move until the next command.
     bool Resting(const Drive& drive) const;
 
     /// Puts a train elsewhere, standing, with its nose to the section's front. `position` is 0 to
@@ -58,10 +58,10 @@ class Railway {
     void Place(std::size_t train, std::size_t section, double position,
                const PointPositions& points);
 
-    /// Since the last call. At the start the detectors are as they are, which is no change.
+    /// The changes since the last call. How the detectors are at the start is no change.
     TrackChanges TakeChanges();
-    /// The pairs of trains there are count as changes anew.
-    void ForgetShared() { toldShared_.reset(); }
+    /// Trains that share a block now count as a change again.
+    void ForgetShared() { reportedShared_.reset(); }
 
     const TrackPlan& plan() const { return plan_; }
     const std::vector<RunningTrain>& trains() const { return trains_; }
@@ -73,7 +73,7 @@ class Railway {
     std::optional<std::size_t> FindSection(std::string_view name) const;
 
   private:
-    /// Centimetres a second as the train is told, nose first is positive.
+    /// The requested speed in centimetres a second; nose first is positive.
     double WantedSpeed(const RunningTrain& train, const Drive& drive) const;
     void Run(RunningTrain& train, const Drive& drive, const PointPositions& points);
     void Observe();
@@ -82,9 +82,9 @@ class Railway {
     std::vector<RunningTrain> trains_;
     std::vector<std::vector<std::size_t>> occupants_;
     std::bitset<kFeedbackInputs> detected_;
-    std::bitset<kFeedbackInputs> toldDetected_;
+    std::bitset<kFeedbackInputs> reportedDetected_;
     std::bitset<kBlocks> shared_;
-    std::bitset<kBlocks> toldShared_;
+    std::bitset<kBlocks> reportedShared_;
 };
 
 }  // namespace zelvar::sim

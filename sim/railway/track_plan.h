@@ -9,7 +9,7 @@
 
 namespace zelvar::sim {
 
-/// Which way is open behind an end of a section: the only one, or one of two by a point's position.
+/// Where an end of a section leads: to one section, or to one of two by the position of a point.
 struct TrackEnd {
     std::vector<std::size_t> sections;  // by index: straight on, and where the point thrown leads
     std::optional<int> point;           // device 0..511; only with two sections
@@ -22,7 +22,7 @@ struct TrackSection {
     double length = 0;            // centimetres
     std::optional<int> feedback;  // the input 0..2047 of its occupancy detector
     TrackEnd front;
-    TrackEnd back;  // a train that comes through a point set against it passes all the same
+    TrackEnd back;  // a point that is set against a train lets it pass
 };
 
 enum class TrainControl { kAnalog, kDcc, kMcc };
@@ -32,7 +32,7 @@ struct Train {
     TrainControl control = TrainControl::kAnalog;  // analog: by the block under its engine
     int address = 0;                               // of its DCC or MCC decoder
     bool longAddress = false;                      // DCC only
-    std::size_t section = 0;                       // where its engine stands at the start, by index
+    std::size_t section = 0;                       // of its nose at the start, by index
     double position = 0;      // centimetres of its front from the section's back
     double length = 0;        // centimetres
     double topSpeed = 0;      // centimetres a second at the highest speed step

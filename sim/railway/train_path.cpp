@@ -8,8 +8,8 @@ namespace zelvar::sim {
 
 namespace {
 
-double LengthOf(const TrackPlan& plan, const Footing& footing) {
-    return plan.sections[footing.section].length;
+double LengthOf(const TrackPlan& plan, const SectionUnderTrain& under) {
+    return plan.sections[under.section].length;
 }
 
 bool LeadsTo(const TrackEnd& end, std::size_t section) {
@@ -18,8 +18,8 @@ bool LeadsTo(const TrackEnd& end, std::size_t section) {
 
 }  // namespace
 
-std::optional<Footing> Beyond(const TrackPlan& plan, std::size_t section, bool byFront,
-                              const PointPositions& points) {
+std::optional<SectionUnderTrain> Beyond(const TrackPlan& plan, std::size_t section, bool byFront,
+                                        const PointPositions& points) {
     const TrackSection& left = plan.sections[section];
     const TrackEnd& end = byFront ? left.front : left.back;
     if (end.sections.empty()) {
@@ -35,7 +35,7 @@ std::optional<Footing> Beyond(const TrackPlan& plan, std::size_t section, bool b
     // Front to back is the rule, so it also holds where two sections meet at both their ends.
     const bool ruleHolds = LeadsTo(byFront ? entered.back : entered.front, section);
     const bool turned = !ruleHolds && LeadsTo(byFront ? entered.front : entered.back, section);
-    return Footing{next, byFront != turned};
+    return SectionUnderTrain{next, byFront != turned};
 }
 
 TrainPath::TrainPath(const TrackPlan& plan, std::size_t section, double position, double length,
@@ -54,8 +54,9 @@ double TrainPath::TailGap(const TrackPlan& plan) const {
 
 double TrainPath::ExtendTail(const TrackPlan& plan, double missing, const PointPositions& points) {
     while (missing > 0) {
-        const Footing last = sections_.back();
-        const std::optional<Footing> behind = Beyond(plan, last.section, !last.along, points);
+        const SectionUnderTrain last = sections_.back();
+        const std::optional<SectionUnderTrain> behind =
+            Beyond(plan, last.section, !last.along, points);
         if (!behind) {
             return missing;
         }
@@ -81,9 +82,10 @@ double TrainPath::Move(const TrackPlan& plan, double distance, const PointPositi
     }
     nose_ += distance;
     while (nose_ > LengthOf(plan, sections_.front())) {
-        const Footing first = sections_.front();
+        const SectionUnderTrain first = sections_.front();
         const double beyondEnd = nose_ - LengthOf(plan, first);
-        const std::optional<Footing> next = Beyond(plan, first.section, first.along, points);
+        const std::optional<SectionUnderTrain> next =
+            Beyond(plan, first.section, first.along, points);
         if (!next) {
             nose_ -= beyondEnd;
             moved -= beyondEnd;
@@ -99,7 +101,7 @@ double TrainPath::Move(const TrackPlan& plan, double distance, const PointPositi
 }
 
 double TrainPath::Position(const TrackPlan& plan) const {
-    const Footing& first = sections_.front();
+    const SectionUnderTrain& first = sections_.front();
     return first.along ? nose_ : LengthOf(plan, first) - nose_;
 }
 

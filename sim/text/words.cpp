@@ -35,6 +35,12 @@ std::size_t Distance(std::string_view from, std::string_view to) {
 
 }  // namespace
 
+std::string WordFor(std::span<const Word> words, int value) {
+    const auto word = std::find_if(words.begin(), words.end(),
+                                   [value](const Word& each) { return each.value == value; });
+    return word == words.end() ? std::to_string(value) : std::string(word->text);
+}
+
 std::vector<std::string> SplitWords(std::string_view line) {
     std::istringstream in{std::string(line)};
     std::vector<std::string> words;

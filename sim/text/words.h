@@ -17,6 +17,9 @@ struct Word {
     int value;
 };
 
+/// The word for a number; the number itself if there is none.
+std::string WordFor(std::span<const Word> words, int value);
+
 /// The words of a line, without the white space between them.
 std::vector<std::string> SplitWords(std::string_view line);
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "sim/protocol/names.h"
 #include "sim/unit/commands.h"
 #include "sim/unit/unit_state.h"
 
@@ -7,47 +8,51 @@ namespace zelvar::sim {
 
 namespace {
 
-using Answer = std::optional<Payload>;
+constexpr Field kThrown = Part(0, 4);
+constexpr Field kThrownAtModule = Part(2, 8);
 
-constexpr int kValues = 128;
-constexpr int kOutOf512 = 4;  // two high bits of a number 0..511 lie in the first value
-
-int DeviceNumber(const Payload& command) {
-    return command[0] % kOutOf512 * kValues + command[1];
+Payload Point(UnitState& state, const Payload& command) {
+    state.accessories.points[kDevice.In(command)] = kThrown.In(command) != 0;
+    return {};
 }
 
-Answer Point(UnitState& state, const Payload& command) {
-    constexpr int kThrownBit = 4;
-    state.accessories.points[DeviceNumber(command)] = (command[0] & kThrownBit) != 0;
-    return std::nullopt;
-}
-
-Answer PointOfModule(UnitState& state, const Payload& command) {
-    constexpr int kThrownBit = 8;
-    const int position = PointPosition(command[1]);
+Payload PointOfModule(UnitState& state, const Payload& command) {
+    const int position = PointPosition(kModuleAddress.In(command));
     if (position >= 0) {
-        state.accessories.modulePoints[{position, command[3]}] = (command[2] & kThrownBit) != 0;
+        state.accessories.modulePoints[{position, kPointDevice.In(command)}] =
+            kThrownAtModule.In(command) != 0;
     }
-    return std::nullopt;
+    return {};
 }
 
-Answer SignalAspect(UnitState& state, const Payload& command) {
+Payload SignalAspect(UnitState& state, const Payload& command) {
     state.accessories.aspects[{command[1] - kSignalFamily, command[5]}] = command[6];
-    return std::nullopt;
+    return {};
 }
 
-Answer Output(UnitState& state, const Payload& command) {
-    state.accessories.outputs[DeviceNumber(command)] = {command[2], command[3]};
-    return std::nullopt;
+Payload Output(UnitState& state, const Payload& command) {
+    state.accessories.outputs[kDevice.In(command)] = {command[2], command[3]};
+    return {};
 }
 
 constexpr CommandRow kAccessoryCommands[] = {
-    {"point", {Bits(0x78, 16), Any()}, &Point},
-    {"point-of-module", {Is(0), Bits(0x60, kPointFamily), Bits(0x77, 17), Any()}, &PointOfModule},
+    {"point",
+     {Bits(0x78, 16), Any()},
+     {"point {}: {}", {kDevice, {kThrown, &PositionName}}},
+     &Point},
+    {"point-of-module",
+     {Is(kToModule), kToPoints, IsBut(8, 17), Any()},
+     {"{}, device {}: {}",
+      {{kModuleAddress, &ModuleName}, kPointDevice, {kThrownAtModule, &PositionName}}},
+     &PointOfModule},
     {"signal-aspect",
-     {Is(0), Bits(0x60, kSignalFamily), Is(68), Is(0), Is(1), Any(), Any()},
+     {Is(kToModule), Bits(kFamilyMask, kSignalFamily), Is(68), Is(0), Is(1), Any(), Any()},
+     {"{}, pin {}: aspect {}", {{kModuleAddress, &ModuleName}, Whole(5), Whole(6)}},
      &SignalAspect},
-    {"output", {Bits(0x7C, 24), Any(), Any(), Any()}, &Output},
+    {"output",
+     {Bits(0x7C, 24), Any(), Any(), Any()},
+     {"output {}: instruction {}, parameter {}", {kDevice, Whole(2), Whole(3)}},
+     &Output},
 };
 
 }  // namespace

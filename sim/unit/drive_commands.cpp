@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "sim/protocol/names.h"
 #include "sim/unit/commands.h"
 #include "sim/unit/unit_state.h"
 
@@ -7,172 +8,237 @@ namespace zelvar::sim {
 
 namespace {
 
-using Answer = std::optional<Payload>;
+constexpr Field kAcceleration = Whole(3);
+constexpr Field kLight = Whole(2);
+constexpr Field kHfiLevel = Whole(2);
 
-constexpr int kForwardBit = 64;
-constexpr int kSpeedMask = 0x3F;
-constexpr int kDccForwardBit = 32;
-constexpr int kDccSpeedMask = 0x1F;
-constexpr int kDccStop28 = 31;
-constexpr int kDccStop126 = 127;
-constexpr int kDccSteps28 = 28;
-constexpr int kDccSteps126 = 126;
-constexpr int kValues = 128;  // what one data value can tell apart
-
-/// A number 0..255 whose highest bit is the lowest one of the value before it.
-int Split(const Payload& command, std::size_t index) {
-    return command[index] % 2 * kValues + command[index + 1];
+Payload AnalogSpeed(UnitState& state, const Payload& command) {
+    state.drive.SetBlockSpeed(kBlock.In(command), kBlockSpeed.In(command),
+                              kBlockForward.In(command) != 0, kAcceleration.In(command));
+    return {};
 }
 
-/// The decoder at the end of a command, whose values from `index` on are its low part and, for a
-/// long address, its high part.
-DccDecoder DecoderAt(const Payload& command, std::size_t index) {
-    const bool isLong = command.size() > index + 1;
-    return {command[index] + (isLong ? command[index + 1] * kValues : 0), isLong};
+std::string AccelerationIfAny(const Payload& command, const KnownTypes&) {
+    const bool any = command.size() > kAcceleration.index;
+    return any ? ", acceleration " + std::to_string(kAcceleration.In(command)) : "";
 }
 
-Answer AnalogSpeed(UnitState& state, const Payload& command) {
-    const bool forward = (command[2] & kForwardBit) != 0;
-    state.drive.SetBlockSpeed(Split(command, 0), command[2] & kSpeedMask, forward, command[3]);
-    return std::nullopt;
+Payload AnalogLight(UnitState& state, const Payload& command) {
+    state.drive.SetBlockLight(kBlock.In(command), kLight.In(command) != 0);
+    return {};
 }
 
-Answer AnalogLight(UnitState& state, const Payload& command) {
-    state.drive.SetBlockLight(Split(command, 0), command[2] != 0);
-    return std::nullopt;
+Payload SetHfi(UnitState& state, const Payload& command) {
+    state.hfiLevel = kHfiLevel.In(command);
+    return {};
 }
 
-Answer SetHfi(UnitState& state, const Payload& command) {
-    state.hfiLevel = command[2];
-    return std::nullopt;
+/// A DCC command ends with the decoder's address: one value, or two for a long address.
+DccDecoder DecoderAt(const Payload& command, int index) {
+    const Field last = Whole(index + 1);
+    return {WideLowFirst(index).In(command), command.size() > last.index};
 }
 
-Answer DccSpeed28(UnitState& state, const Payload& command) {
-    DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, 3));
-    const int speed = command[2] & kDccSpeedMask;
-    locomotive.block = Split(command, 0);
-    locomotive.steps = kDccSteps28;
+/// One of the two ways to command a DCC speed.
+struct SpeedSteps {
+    int steps;
+    int stopCode;  // the emergency stop
+    Field speed;
+    Field forward;
+    int decoderAt;
+};
+
+constexpr SpeedSteps k28Steps{28, 31, Part(2, 0x1F), Part(2, 0x20), 3};
+constexpr SpeedSteps k126Steps{126, 127, Whole(3), Whole(2), 4};
+
+template <const SpeedSteps& mode>
+Payload DccSpeed(UnitState& state, const Payload& command) {
+    DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, mode.decoderAt));
+    const int speed = mode.speed.In(command);
+    locomotive.block = kBlock.In(command);
+    locomotive.steps = mode.steps;
     locomotive.cleared = false;
-    locomotive.forward = (command[2] & kDccForwardBit) != 0;
-    locomotive.emergencyStop = speed == kDccStop28;
+    locomotive.forward = mode.forward.In(command) != 0;
+    locomotive.emergencyStop = speed == mode.stopCode;
     locomotive.speed = locomotive.emergencyStop ? 0 : speed;
-    return std::nullopt;
+    return {};
 }
 
-Answer DccSpeed126(UnitState& state, const Payload& command) {
-    DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, 4));
-    locomotive.block = Split(command, 0);
-    locomotive.steps = kDccSteps126;
-    locomotive.cleared = false;
-    locomotive.forward = command[2] != 0;
-    locomotive.emergencyStop = command[3] == kDccStop126;
-    locomotive.speed = locomotive.emergencyStop ? 0 : command[3];
-    return std::nullopt;
+template <const SpeedSteps& mode>
+std::string DccSpeedName(int speed) {
+    return speed == mode.stopCode
+               ? "emergency stop,"
+               : "speed " + std::to_string(speed) + " of " + std::to_string(mode.steps);
 }
 
-/// Functions from number `first` on take the bits of `pattern`, lowest first.
-void SetFunctions(DccLocomotive& locomotive, int first, int count, int pattern) {
-    for (int bit = 0; bit < count; ++bit) {
-        const auto function = static_cast<std::size_t>(first) + static_cast<std::size_t>(bit);
-        locomotive.functions.set(function, (pattern >> bit & 1) != 0);
-    }
-}
+/// A group of DCC functions that one command sets.
+struct FunctionGroup {
+    int first;
+    int count;
+    Field bits;  // the lowest one is that of the first function
+    int decoderAt;
+};
 
-DccLocomotive& WithFunctions(UnitState& state, const Payload& command, std::size_t decoderAt) {
-    DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, decoderAt));
-    // Functions carry the block whole, not split as the speed does.
-    locomotive.block = command[1];
-    return locomotive;
-}
+constexpr Field kFunctionBlock = Whole(1);  // not split, unlike the block of a speed
+constexpr Field kFourFunctions = Part(2, 0x0F);
+constexpr Field kEightFunctions = Wide(2, 1);
+// The light, function 0, has its bit after those of functions 1 to 4.
+constexpr FunctionGroup kF0ToF4{0, 5, Part(2, 0x1F), 3};
+constexpr FunctionGroup kF5ToF8{5, 4, kFourFunctions, 3};
+constexpr FunctionGroup kF9ToF12{9, 4, kFourFunctions, 3};
+constexpr FunctionGroup kF13ToF20{13, 8, kEightFunctions, 4};
+constexpr FunctionGroup kF21ToF28{21, 8, kEightFunctions, 4};
 
-Answer DccLightAndF1(UnitState& state, const Payload& command) {
+/// The functions that are on, in the order of their numbers.
+template <const FunctionGroup& group>
+int FunctionsOf(int bits) {
     constexpr int kLightBit = 4;
-    DccLocomotive& locomotive = WithFunctions(state, command, 3);
-    SetFunctions(locomotive, 1, 4, command[2]);
-    SetFunctions(locomotive, 0, 1, command[2] >> kLightBit);
-    return std::nullopt;
+    constexpr int kOtherBits = 0x0F;
+    return group.first > 0 ? bits : (bits & kOtherBits) << 1 | bits >> kLightBit;
 }
 
-template <int first>
-Answer DccFourFunctions(UnitState& state, const Payload& command) {
-    SetFunctions(WithFunctions(state, command, 3), first, 4, command[2]);
-    return std::nullopt;
+template <const FunctionGroup& group>
+Payload DccFunctions(UnitState& state, const Payload& command) {
+    DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, group.decoderAt));
+    locomotive.block = kFunctionBlock.In(command);
+    const int functions = FunctionsOf<group>(group.bits.In(command));
+    for (int number = 0; number < group.count; ++number) {
+        locomotive.functions.set(group.first + number, (functions >> number & 1) != 0);
+    }
+    return {};
 }
 
-template <int first>
-Answer DccEightFunctions(UnitState& state, const Payload& command) {
-    SetFunctions(WithFunctions(state, command, 4), first, 8, Split(command, 2));
-    return std::nullopt;
+template <const FunctionGroup& group>
+std::string FunctionsName(int bits) {
+    return DccFunctionsName(FunctionsOf<group>(bits), group.first, "F0 (light)");
 }
 
-Answer MccSpeed(UnitState& state, const Payload& command) {
-    state.drive.SetMccSpeed(command[1] * kValues + command[2], command[3], command[4]);
-    return std::nullopt;
+/// "1000 (long address)"
+template <int index>
+std::string DecoderName(const Payload& command, const KnownTypes&) {
+    const DccDecoder decoder = DecoderAt(command, index);
+    return std::to_string(decoder.address) + (decoder.longAddress ? " (long address)" : "");
 }
 
-Answer MccFunctions(UnitState& state, const Payload& command) {
-    constexpr int kHalf = 16;
-    state.drive.SetMccFunctions(command[1] * kValues + command[2],
-                                command[3] % kHalf + command[4] % kHalf * kHalf);
-    return std::nullopt;
+constexpr Field kMccDecoder = Wide(1, kValueMask);
+constexpr Field kMccSpeed = Whole(3);
+constexpr Field kMccAcceleration = Whole(4);
+constexpr Field kMccFunctions = Halves(3);
+
+Payload MccSpeed(UnitState& state, const Payload& command) {
+    state.drive.SetMccSpeed(kMccDecoder.In(command), kMccSpeed.In(command),
+                            kMccAcceleration.In(command));
+    return {};
 }
 
-Answer LinkBlocks(UnitState& state, const Payload& command) {
-    constexpr int kInvertedBit = 4;
-    state.drive.Link(Split(command, 0), Split(command, 2), (command[2] & kInvertedBit) != 0);
-    return std::nullopt;
+Payload MccFunctions(UnitState& state, const Payload& command) {
+    state.drive.SetMccFunctions(kMccDecoder.In(command), kMccFunctions.In(command));
+    return {};
 }
 
-Answer UnlinkBlock(UnitState& state, const Payload& command) {
-    constexpr int kUpBit = 4;
-    constexpr int kClearBit = 2;
-    state.drive.Unlink(Split(command, 0), (command[2] & kUpBit) != 0,
-                       (command[2] & kClearBit) != 0);
-    return std::nullopt;
+std::string MccSpeedName(int code) {
+    return code == 0 ? "emergency stop" : "speed " + HalfStepsName(MccHalfSteps(code));
 }
 
-Answer ClearBlock(UnitState& state, const Payload& command) {
-    state.drive.ClearBlock(Split(command, 0));
-    return std::nullopt;
+constexpr Field kSecondBlock = Wide(2, 1);
+constexpr Field kInverted = Part(2, 4);
+constexpr Field kUp = Part(2, 4);
+constexpr Field kClearOthers = Part(2, 2);
+
+Payload LinkBlocks(UnitState& state, const Payload& command) {
+    state.drive.Link(kBlock.In(command), kSecondBlock.In(command), kInverted.In(command) != 0);
+    return {};
 }
 
-constexpr ValuePattern kDccSpeed = Bits(0x7E, 40);  // the block's highest bit beside it
-constexpr ValuePattern kDccLongSpeed = Bits(0x7E, 44);
-constexpr ValuePattern kDccFunctionsCode = Is(40);
-constexpr ValuePattern kDccMoreFunctions = Is(44);
+Payload UnlinkBlock(UnitState& state, const Payload& command) {
+    state.drive.Unlink(kBlock.In(command), kUp.In(command) != 0, kClearOthers.In(command) != 0);
+    return {};
+}
+
+Payload ClearBlock(UnitState& state, const Payload& command) {
+    state.drive.ClearBlock(kBlock.In(command));
+    return {};
+}
+
+/// A code whose lowest bit is the highest one of a block.
+constexpr ValuePattern WithBlock(int code) {
+    return IsBut(1, code);
+}
 
 constexpr CommandRow kDriveCommands[] = {
-    {"analog-speed", {Bits(0x7E, 34), Any(), Any()}, &AnalogSpeed},
-    {"analog-speed", {Bits(0x7E, 34), Any(), Any(), Any()}, &AnalogSpeed},
-    {"analog-light", {Bits(0x7E, 32), Any(), Bits(0x6F, 0)}, &AnalogLight},
-    {"set-hfi", {Is(1), Is(1), Any()}, &SetHfi},
-    {"dcc-speed-28", {kDccSpeed, Any(), Bits(0x40, 64), Any()}, &DccSpeed28},
-    {"dcc-speed-28", {kDccSpeed, Any(), Bits(0x40, 64), Any(), Any()}, &DccSpeed28},
-    {"dcc-speed-126", {kDccLongSpeed, Any(), Bits(0x7E, 0), Any(), Any()}, &DccSpeed126},
-    {"dcc-speed-126", {kDccLongSpeed, Any(), Bits(0x7E, 0), Any(), Any(), Any()}, &DccSpeed126},
-    {"dcc-f0-f4", {kDccFunctionsCode, Any(), Bits(0x60, 0), Any()}, &DccLightAndF1},
-    {"dcc-f0-f4", {kDccFunctionsCode, Any(), Bits(0x60, 0), Any(), Any()}, &DccLightAndF1},
-    {"dcc-f5-f8", {kDccFunctionsCode, Any(), Bits(0x70, 48), Any()}, &DccFourFunctions<5>},
-    {"dcc-f5-f8", {kDccFunctionsCode, Any(), Bits(0x70, 48), Any(), Any()}, &DccFourFunctions<5>},
-    {"dcc-f9-f12", {kDccFunctionsCode, Any(), Bits(0x70, 32), Any()}, &DccFourFunctions<9>},
-    {"dcc-f9-f12", {kDccFunctionsCode, Any(), Bits(0x70, 32), Any(), Any()}, &DccFourFunctions<9>},
+    {"analog-speed",
+     {WithBlock(34), Any(), Any(), MayFollow()},
+     {"analog speed: block {}, speed {} {}{}",
+      {kBlock, kBlockSpeed, {kBlockForward, &DirectionName}, &AccelerationIfAny}},
+     &AnalogSpeed},
+    {"analog-light",
+     {WithBlock(32), Any(), IsBut(16, 0)},
+     {"analog light: block {}, {}", {kBlock, {kLight, &OnOffName}}},
+     &AnalogLight},
+    {"set-hfi",
+     {Is(kToUnit), Is(1), Any()},
+     {"set the system's HFI level to {}", {kHfiLevel}},
+     &SetHfi},
+    {"dcc-speed-28",
+     {WithBlock(40), Any(), Bits(64, 64), Any(), MayFollow()},
+     {"DCC speed: block {}, decoder {}, {} {}",
+      {kBlock,
+       &DecoderName<3>,
+       {k28Steps.speed, &DccSpeedName<k28Steps>},
+       {k28Steps.forward, &DirectionName}}},
+     &DccSpeed<k28Steps>},
+    {"dcc-speed-126",
+     {WithBlock(44), Any(), IsBut(1, 0), Any(), Any(), MayFollow()},
+     {"DCC speed: block {}, decoder {}, {} {}",
+      {kBlock,
+       &DecoderName<4>,
+       {k126Steps.speed, &DccSpeedName<k126Steps>},
+       {k126Steps.forward, &DirectionName}}},
+     &DccSpeed<k126Steps>},
+    {"dcc-f0-f4",
+     {Is(40), Any(), Bits(0x60, 0), Any(), MayFollow()},
+     {"DCC functions F0..F4: block {}, decoder {}, on: {}",
+      {kFunctionBlock, &DecoderName<3>, {kF0ToF4.bits, &FunctionsName<kF0ToF4>}}},
+     &DccFunctions<kF0ToF4>},
+    {"dcc-f5-f8",
+     {Is(40), Any(), Bits(0x70, 48), Any(), MayFollow()},
+     {"DCC functions F5..F8: block {}, decoder {}, on: {}",
+      {kFunctionBlock, &DecoderName<3>, {kF5ToF8.bits, &FunctionsName<kF5ToF8>}}},
+     &DccFunctions<kF5ToF8>},
+    {"dcc-f9-f12",
+     {Is(40), Any(), Bits(0x70, 32), Any(), MayFollow()},
+     {"DCC functions F9..F12: block {}, decoder {}, on: {}",
+      {kFunctionBlock, &DecoderName<3>, {kF9ToF12.bits, &FunctionsName<kF9ToF12>}}},
+     &DccFunctions<kF9ToF12>},
     {"dcc-f13-f20",
-     {kDccMoreFunctions, Any(), Bits(0x7E, 4), Any(), Any()},
-     &DccEightFunctions<13>},
-    {"dcc-f13-f20",
-     {kDccMoreFunctions, Any(), Bits(0x7E, 4), Any(), Any(), Any()},
-     &DccEightFunctions<13>},
+     {Is(44), Any(), IsBut(1, 4), Any(), Any(), MayFollow()},
+     {"DCC functions F13..F20: block {}, decoder {}, on: {}",
+      {kFunctionBlock, &DecoderName<4>, {kF13ToF20.bits, &FunctionsName<kF13ToF20>}}},
+     &DccFunctions<kF13ToF20>},
     {"dcc-f21-f28",
-     {kDccMoreFunctions, Any(), Bits(0x7E, 6), Any(), Any()},
-     &DccEightFunctions<21>},
-    {"dcc-f21-f28",
-     {kDccMoreFunctions, Any(), Bits(0x7E, 6), Any(), Any(), Any()},
-     &DccEightFunctions<21>},
-    {"mcc-speed", {Is(6), Bits(0x60, 0), Any(), Bits(0x60, 0), Bits(0x78, 0)}, &MccSpeed},
-    {"mcc-functions", {Is(7), Bits(0x60, 0), Any(), Bits(0x70, 0), Bits(0x70, 0)}, &MccFunctions},
-    {"link", {Bits(0x7E, 58), Any(), Bits(0x7A, 2), Any()}, &LinkBlocks},
-    {"unlink", {Bits(0x7E, 56), Any(), Bits(0x79, 0)}, &UnlinkBlock},
-    {"clear-block", {Bits(0x7E, 62), Any(), Is(18)}, &ClearBlock},
+     {Is(44), Any(), IsBut(1, 6), Any(), Any(), MayFollow()},
+     {"DCC functions F21..F28: block {}, decoder {}, on: {}",
+      {kFunctionBlock, &DecoderName<4>, {kF21ToF28.bits, &FunctionsName<kF21ToF28>}}},
+     &DccFunctions<kF21ToF28>},
+    {"mcc-speed",
+     {Is(6), IsBut(0x1F, 0), Any(), IsBut(0x1F, 0), IsBut(7, 0)},
+     {"MCC speed: decoder {}, {}, acceleration {}",
+      {kMccDecoder, {kMccSpeed, &MccSpeedName}, kMccAcceleration}},
+     &MccSpeed},
+    {"mcc-functions",
+     {Is(7), IsBut(0x1F, 0), Any(), IsBut(0x0F, 0), IsBut(0x0F, 0)},
+     {"MCC functions: decoder {}, on: {}", {kMccDecoder, {kMccFunctions, &MccFunctionsName}}},
+     &MccFunctions},
+    {"link",
+     {WithBlock(58), Any(), IsBut(5, 2), Any()},
+     {"link blocks {} and {}{}", {kBlock, kSecondBlock, {kInverted, ", inverted", ""}}},
+     &LinkBlocks},
+    {"unlink",
+     {WithBlock(56), Any(), IsBut(6, 0)},
+     {"unlink block {} {}{}",
+      {kBlock, {kUp, "up", "down"}, {kClearOthers, ", clear the blocks unlinked", ""}}},
+     &UnlinkBlock},
+    {"clear-block", {WithBlock(62), Any(), Is(18)}, {"clear block {}", {kBlock}}, &ClearBlock},
 };
 
 }  // namespace

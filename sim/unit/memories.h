@@ -3,14 +3,15 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 
+#include "sim/protocol/addresses.h"
+#include "sim/protocol/traction_settings.h"
 #include "sim/unit/layout.h"
 
 namespace zelvar::sim {
 
-/// A memory in two parts: what holds now, and what comes back after a restart.
+/// A memory in two parts: what is active now, and what a restart brings back.
 template <typename Settings>
 struct Memory {
     Settings active;
@@ -22,25 +23,14 @@ struct Memory {
     void Restart() { active = permanent; }
 };
 
-/// The settings of one traction unit, by parameter number 1..15 (0 is not used).
-inline constexpr int kTractionParameters = 16;
-using TractionSettings = std::array<std::uint8_t, kTractionParameters>;
-inline constexpr std::size_t kMasterSlaveParameter = 11;
-/// In QLRX-s modules the module's address; the others report the state of their clock here, from
-/// the active memory.
-inline constexpr std::size_t kAddressParameter = 15;
-
-inline constexpr int kPointModules = 16;
-inline constexpr int kPointDevices = 64;
-
 struct PointDevice {
     std::uint8_t time = 0;   // in sixtieths of a second; 0: the module's default
-    std::uint8_t power = 0;  // 0 normal, 1 low, 2 high, 3 unlimited
+    std::uint8_t power = 0;  // see kPowerWords
     bool operator==(const PointDevice&) const = default;
 };
 
 struct PointSettings {
-    std::uint8_t defaultTime = 0;  // in sixtieths of a second
+    std::uint8_t defaultTime = 15;  // in sixtieths of a second
     std::array<PointDevice, kPointDevices> devices{};
     bool operator==(const PointSettings&) const = default;
 };
@@ -57,19 +47,18 @@ struct Memories {
     /// The active memories become copies of the permanent ones.
     void Restart();
 
-    std::array<Memory<TractionSettings>, kTractionLines> traction;  // by line
-    std::array<Memory<PointSettings>, kPointModules> points;        // by position, see below
+    std::array<Memory<TractionSettings>, kTractionLines> traction;  // by LineAt of the address
+    std::array<Memory<PointSettings>, kPointModules> points;        // by PointPosition
     Memory<UnitSettings> unit{};
-    std::uint8_t options = 0;  // has one memory only, which outlives a restart
+    std::uint8_t options = 0;  // has one memory only, which survives a restart
 };
 
-/// What leaves the workshop: "line" is 0..63.
+/// The settings of traction unit 0..63 as it left the factory, and as it came to a layout.
 TractionSettings FactoryTractionSettings(int line);
-PointSettings FactoryPointSettings();
+TractionSettings DescribedTractionSettings(const Layout& layout, int line);
 
-/// Position 0..15 of a point module (0..7 channel 0, 8..15 channel 1) by its address, and back; -1
-/// for an address that no point module can have.
-int PointPosition(int address);
-int PointAddress(int position);
+inline PointSettings FactoryPointSettings() {
+    return {};
+}
 
 }  // namespace zelvar::sim

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "sim/protocol/names.h"
 #include "sim/unit/commands.h"
 #include "sim/unit/unit_state.h"
 
@@ -7,172 +8,199 @@ namespace zelvar::sim {
 
 namespace {
 
-using Answer = std::optional<Payload>;
+constexpr Field kTractionValue = Whole(4);
+constexpr Field kDefaultTime = Whole(3);
+constexpr Field kDeviceTime = Whole(4);
+constexpr Field kDevicePower = Whole(4);
 
-constexpr int kPermanentBit = 64;
-constexpr int kParameterMask = 0x3F;
-constexpr int kSecondaryBit = 16;  // in a traction command's code: the second unit of a VD60
-constexpr int kPrimaryLines = 32;
-constexpr int kConfigureCode = 8;
-constexpr int kConfigurationCode = 10;  // of the answer
-
-/// A module's answer: on its way through the channel until a later poll.
-Answer FromModule(UnitState& state, int address, const Payload& answer) {
-    if (state.muted.test(static_cast<std::size_t>(address))) {
-        return std::nullopt;
+/// A module's answer travels over its channel until a later poll.
+Payload FromModule(UnitState& state, int address, const Payload& answer) {
+    if (state.muted.test(address)) {
+        return {};
     }
     if (state.answerDelay == 0) {
         return answer;
     }
     state.reports.Push(answer, state.answerDelay);
-    return std::nullopt;
+    return {};
 }
 
-int TractionLine(const Payload& command) {
-    const int second = (command[2] & kSecondaryBit) != 0 ? kPrimaryLines : 0;
-    return command[1] % kPrimaryLines + second;
-}
-
-/// The value that a module reports for a parameter 1..15.
-int ReportedSetting(const UnitState& state, int line, std::size_t parameter, bool permanent) {
+Payload GetTractionSetting(UnitState& state, const Payload& command) {
+    const int line = kTractionLine.In(command);
     const ModuleSlot& slot = state.layout.At(LineAddress(line));
-    const bool hasClock = (slot.status & kTypeMask) != static_cast<int>(TractionType::kQlrxS);
-    if (parameter == kAddressParameter && !permanent && hasClock) {
-        return slot.clock;
+    const int parameter = kTractionParameter.In(command);
+    const TractionSetting* setting = FindTractionSetting(parameter);
+    if (!slot.Present() || setting == nullptr) {
+        return {};
     }
-    return state.memories.traction[static_cast<std::size_t>(line)].Part(permanent)[parameter];
+    const bool permanent = kTractionPermanent.In(command) != 0;
+    const bool isClock =
+        parameter == kAddressParameter && !permanent && !setting->IsOf(TypeIn(slot.status));
+    const int value =
+        isClock ? slot.clock : state.memories.traction[line].Part(permanent)[parameter];
+    const int code = command[2] - kTractionConfigureCode + kTractionAnswerCode;
+    return FromModule(state, LineAddress(line), {kToModule, command[1], code, command[3], value});
 }
 
-Answer GetTractionSetting(UnitState& state, const Payload& command) {
-    const int line = TractionLine(command);
-    const int address = LineAddress(line);
-    const int parameter = command[3] & kParameterMask;
-    if (!state.layout.At(address).Present() || parameter == 0 || parameter >= kTractionParameters) {
-        return std::nullopt;
+Payload SetTractionSetting(UnitState& state, const Payload& command) {
+    const int line = kTractionLine.In(command);
+    const int parameter = kTractionParameter.In(command);
+    if (state.layout.At(LineAddress(line)).Present() && FindTractionSetting(parameter) != nullptr) {
+        const bool permanent = kTractionPermanent.In(command) != 0;
+        state.memories.traction[line].Part(permanent)[parameter] =
+            static_cast<std::uint8_t>(kTractionValue.In(command));
     }
-    const bool permanent = (command[3] & kPermanentBit) != 0;
-    const int code = (command[2] & kSecondaryBit) + kConfigurationCode;
-    return FromModule(
-        state, address,
-        {0, command[1], code, command[3],
-         ReportedSetting(state, line, static_cast<std::size_t>(parameter), permanent)});
+    return {};
 }
 
-Answer SetTractionSetting(UnitState& state, const Payload& command) {
-    const int line = TractionLine(command);
-    const int parameter = command[3] & kParameterMask;
-    if (state.layout.At(LineAddress(line)).Present() && parameter > 0 &&
-        parameter < kTractionParameters) {
-        const bool permanent = (command[3] & kPermanentBit) != 0;
-        state.memories.traction[static_cast<std::size_t>(line)].Part(
-            permanent)[static_cast<std::size_t>(parameter)] = static_cast<std::uint8_t>(command[4]);
-    }
-    return std::nullopt;
-}
-
-Answer EraseTractionSettings(UnitState& state, const Payload& command) {
-    const int line = TractionLine(command);
+Payload EraseTractionSettings(UnitState& state, const Payload& command) {
+    const int line = kTractionLine.In(command);
     if (state.layout.At(LineAddress(line)).Present()) {
-        state.memories.traction[static_cast<std::size_t>(line)].SetBoth(
-            FactoryTractionSettings(line));
+        state.memories.traction[line].SetBoth(FactoryTractionSettings(line));
     }
-    return std::nullopt;
+    return {};
 }
 
-/// The memory of the point module a command addresses; null when there is no such module.
+/// The memory of the point module that a command addresses; null if there is no such module.
 Memory<PointSettings>* PointMemory(UnitState& state, const Payload& command) {
-    const int position = PointPosition(command[1]);
-    if (position < 0 || !state.layout.At(command[1]).Present()) {
-        return nullptr;
-    }
-    return &state.memories.points[static_cast<std::size_t>(position)];
+    const int address = kModuleAddress.In(command);
+    const int position = PointPosition(address);
+    const bool present = position >= 0 && state.layout.At(address).Present();
+    return present ? &state.memories.points[position] : nullptr;
 }
 
 /// The part of that memory that the command's code names.
 PointSettings* PointPart(UnitState& state, const Payload& command) {
     Memory<PointSettings>* memory = PointMemory(state, command);
-    return memory == nullptr ? nullptr : &memory->Part((command[2] & kPermanentBit) != 0);
+    return memory == nullptr ? nullptr : &memory->Part(kPointPermanent.In(command) != 0);
 }
 
-PointDevice& Device(PointSettings& settings, int number) {
-    return settings.devices[static_cast<std::size_t>(number % kPointDevices)];
+PointDevice& Device(PointSettings& settings, const Payload& command) {
+    return settings.devices[kPointDevice.In(command) % kPointDevices];
 }
 
-Answer SetDefaultTime(UnitState& state, const Payload& command) {
+Payload SetDefaultTime(UnitState& state, const Payload& command) {
     if (PointSettings* settings = PointPart(state, command); settings != nullptr) {
-        settings->defaultTime = static_cast<std::uint8_t>(command[3]);
+        settings->defaultTime = static_cast<std::uint8_t>(kDefaultTime.In(command));
     }
-    return std::nullopt;
+    return {};
 }
 
-Answer SetDeviceTime(UnitState& state, const Payload& command) {
+Payload SetDeviceTime(UnitState& state, const Payload& command) {
     if (PointSettings* settings = PointPart(state, command); settings != nullptr) {
-        Device(*settings, command[3]).time = static_cast<std::uint8_t>(command[4]);
+        Device(*settings, command).time = static_cast<std::uint8_t>(kDeviceTime.In(command));
     }
-    return std::nullopt;
+    return {};
 }
 
-Answer SetDevicePower(UnitState& state, const Payload& command) {
+Payload SetDevicePower(UnitState& state, const Payload& command) {
     if (PointSettings* settings = PointPart(state, command); settings != nullptr) {
-        Device(*settings, command[3]).power = static_cast<std::uint8_t>(command[4]);
+        Device(*settings, command).power = static_cast<std::uint8_t>(kDevicePower.In(command));
     }
-    return std::nullopt;
+    return {};
 }
 
-Answer ErasePointSettings(UnitState& state, const Payload& command) {
+Payload ErasePointSettings(UnitState& state, const Payload& command) {
     if (Memory<PointSettings>* memory = PointMemory(state, command); memory != nullptr) {
         memory->SetBoth(FactoryPointSettings());
     }
-    return std::nullopt;
+    return {};
 }
 
-Answer GetDefaultTime(UnitState& state, const Payload& command) {
+Payload GetDefaultTime(UnitState& state, const Payload& command) {
     const PointSettings* settings = PointPart(state, command);
     if (settings == nullptr) {
-        return std::nullopt;
+        return {};
     }
     Payload answer = command;
     answer.Append(settings->defaultTime);
-    return FromModule(state, command[1], answer);
+    return FromModule(state, kModuleAddress.In(command), answer);
 }
 
-Answer GetDevice(UnitState& state, const Payload& command) {
+Payload GetDevice(UnitState& state, const Payload& command) {
     PointSettings* settings = PointPart(state, command);
     if (settings == nullptr) {
-        return std::nullopt;
+        return {};
     }
-    const PointDevice& device = Device(*settings, command[3]);
+    const PointDevice& device = Device(*settings, command);
     Payload answer = command;
     answer.Append(device.time);
     answer.Append(device.power);
-    return FromModule(state, command[1], answer);
+    return FromModule(state, kModuleAddress.In(command), answer);
 }
 
-constexpr ValuePattern kToModule = Is(0);
-constexpr ValuePattern kTraction = Bits(0x60, kTractionFamily);
-constexpr ValuePattern kPoints = Bits(0x60, kPointFamily);
-constexpr ValuePattern kConfigure = Bits(0x7F - kSecondaryBit, kConfigureCode);
-
-constexpr ValuePattern WithPermanent(int code) {
-    return Bits(0x7F - kPermanentBit, code);
+/// Setting 15 of the active memory depends on the module's type.
+std::string AskedSettingName(const Payload& command, const KnownTypes& types) {
+    const int parameter = kTractionParameter.In(command);
+    if (parameter != kAddressParameter || kTractionPermanent.In(command) != 0) {
+        return SettingName(parameter);
+    }
+    const std::optional<int> type = types.Of(LineAddress(kTractionLine.In(command)));
+    if (!type) {
+        return "clock state (in a QLRX-s: module address)";
+    }
+    return FindTractionSetting(parameter)->IsOf(*type) ? SettingName(parameter) : "clock state";
 }
+
+std::string NewSettingValue(const Payload& command, const KnownTypes&) {
+    return SettingValueName(kTractionParameter.In(command), kTractionValue.In(command));
+}
+
+constexpr ValuePattern kConfigure = IsBut(kSecondaryBit, kTractionConfigureCode);
+constexpr ValuePattern kSetTime = IsBut(kPermanentBit, 32);
+constexpr ValuePattern kSetPower = IsBut(kPermanentBit, 40);
+constexpr ValuePattern kGetPoints = IsBut(kPermanentBit, kPointSettingsCode);
+
+constexpr Parameter kTractionMemory = MemoryName(kTractionPermanent);
+constexpr Parameter kOfTractionUnit{kTractionLine, &OfTractionUnit};
+constexpr Parameter kPointMemory = MemoryName(kPointPermanent);
+constexpr Parameter kOfPointModule{kModuleAddress, &OfModule};
 
 constexpr CommandRow kModuleCommands[] = {
     {"traction-erase",
-     {kToModule, kTraction, kConfigure, Is(kPermanentBit)},
+     {Is(kToModule), kToTraction, kConfigure, Is(kPermanentBit)},
+     {"erase all settings {}", {kOfTractionUnit}},
      &EraseTractionSettings},
-    {"traction-get", {kToModule, kTraction, kConfigure, Any()}, &GetTractionSetting},
-    {"traction-set", {kToModule, kTraction, kConfigure, Any(), Any()}, &SetTractionSetting},
-    {"points-set-default-time", {kToModule, kPoints, WithPermanent(32), Any()}, &SetDefaultTime},
+    {"traction-get",
+     {Is(kToModule), kToTraction, kConfigure, Any()},
+     {"ask for the {} {} {}", {kTractionMemory, &AskedSettingName, kOfTractionUnit}},
+     &GetTractionSetting,
+     Asks::kYes},
+    {"traction-set",
+     {Is(kToModule), kToTraction, kConfigure, Any(), Any()},
+     {"set the {} {} {} to {}",
+      {kTractionMemory, {kTractionParameter, &SettingName}, kOfTractionUnit, &NewSettingValue}},
+     &SetTractionSetting},
+    {"points-set-default-time",
+     {Is(kToModule), kToPoints, kSetTime, Any()},
+     {"set the {} default time {} to {}",
+      {kPointMemory, kOfPointModule, {kDefaultTime, &TimeName}}},
+     &SetDefaultTime},
     {"points-set-device-time",
-     {kToModule, kPoints, WithPermanent(32), Any(), Any()},
+     {Is(kToModule), kToPoints, kSetTime, Any(), Any()},
+     {"set the {} time of device {} {} to {}",
+      {kPointMemory, kPointDevice, kOfPointModule, {kDeviceTime, &DeviceTimeName}}},
      &SetDeviceTime},
     {"points-set-device-power",
-     {kToModule, kPoints, WithPermanent(40), Any(), Any()},
+     {Is(kToModule), kToPoints, kSetPower, Any(), Any()},
+     {"set the {} power of device {} {} to {}",
+      {kPointMemory, kPointDevice, kOfPointModule, {kDevicePower, &PowerName}}},
      &SetDevicePower},
-    {"points-erase", {kToModule, kPoints, Is(64)}, &ErasePointSettings},
-    {"points-get-default-time", {kToModule, kPoints, WithPermanent(34)}, &GetDefaultTime},
-    {"points-get-device", {kToModule, kPoints, WithPermanent(34), Any()}, &GetDevice},
+    {"points-erase",
+     {Is(kToModule), kToPoints, Is(64)},
+     {"erase all settings {}", {kOfPointModule}},
+     &ErasePointSettings},
+    {"points-get-default-time",
+     {Is(kToModule), kToPoints, kGetPoints},
+     {"ask for the {} default time {}", {kPointMemory, kOfPointModule}},
+     &GetDefaultTime,
+     Asks::kYes},
+    {"points-get-device",
+     {Is(kToModule), kToPoints, kGetPoints, Any()},
+     {"ask for the {} time and power of device {} {}",
+      {kPointMemory, kPointDevice, kOfPointModule}},
+     &GetDevice,
+     Asks::kYes},
 };
 
 }  // namespace

@@ -3,29 +3,34 @@
 #include "sim/unit/railway_unit.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zelvar::sim {
 
 namespace {
 
-/// A report of an input replaces one that still waits, whichever state that tells.
-constexpr int kAnyFeedbackState = 0x6F;
-
 void ReportInput(UnitState& state, int input, bool active) {
-    const auto index = static_cast<std::size_t>(input);
-    if (state.feedback.test(index) != active) {
-        state.feedback.set(index, active);
-        state.reports.PushLatest(FeedbackReport(input, active), kAnyFeedbackState);
+    if (state.feedback.test(input) != active) {
+        state.feedback.set(input, active);
+        // Replaces a waiting report of the input, whatever its state there.
+        state.reports.PushLatest(FeedbackReport(input, active), kValueMask & ~kActiveBit);
     }
 }
 
 void ReportShared(UnitState& state, int block, bool shared) {
-    const auto index = static_cast<std::size_t>(block);
-    if (state.overcurrent.test(index) != shared) {
-        state.overcurrent.set(index, shared);
+    if (state.overcurrent.test(block) != shared) {
+        state.overcurrent.set(block, shared);
         state.reports.Push(OvercurrentReport(block, shared));
     }
     state.fault = state.fault || shared;
+}
+
+void AdvanceDrive(UnitState& state, Time until) {
+    for (const int number : state.drive.Advance(until)) {
+        const Block& block = state.drive.blocks()[number];
+        state.reports.PushLatest(
+            BlockSpeedReport(number, std::abs(block.speed.speed()), block.RunsForward()));
+    }
 }
 
 }  // namespace
@@ -51,7 +56,7 @@ Time RunRailway(UnitState& state, Time until) {
         const Time past = state.now % kRailwayStep;
         for (Time step = state.now - past + kRailwayStep; step <= until && Powered(state);
              step += kRailwayStep) {
-            state.drive.Advance(step, state.reports);
+            AdvanceDrive(state, step);
             state.railway.Step(state.drive, state.accessories.points);
             ReportTrack(state);
         }
@@ -59,7 +64,7 @@ Time RunRailway(UnitState& state, Time until) {
     if (!Powered(state)) {
         state.railway.Halt();
     }
-    state.drive.Advance(until, state.reports);
+    AdvanceDrive(state, until);
     state.now = until;
     return until;
 }

@@ -6,17 +6,6 @@
 
 namespace zelvar::sim {
 
-namespace {
-
-constexpr int kOvercurrentCode = 0x30;
-constexpr int kOvercurrentDetected = 2;
-constexpr int kBlockSpeedCode = 0x22;
-constexpr int kForwardBit = 64;
-constexpr int kFeedbackCode = 0x40;
-constexpr int kFeedbackActive = 16;
-
-}  // namespace
-
 void ReportQueue::Push(const Payload& data, int polls) {
     if (entries_.size() == kMaxPending) {
         entries_.pop_front();
@@ -48,18 +37,6 @@ std::optional<Payload> ReportQueue::NextForPoll() {
     const Payload data = due->data;
     entries_.erase(due);
     return data;
-}
-
-Payload OvercurrentReport(int block, bool detected) {
-    return {kOvercurrentCode + (detected ? kOvercurrentDetected : 0) + block / 128, block % 128};
-}
-
-Payload BlockSpeedReport(int block, int speed, bool forward) {
-    return {kBlockSpeedCode + block / 128, block % 128, speed + (forward ? kForwardBit : 0)};
-}
-
-Payload FeedbackReport(int input, bool active) {
-    return {kFeedbackCode + (active ? kFeedbackActive : 0) + input / 128, input % 128};
 }
 
 }  // namespace zelvar::sim

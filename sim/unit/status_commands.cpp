@@ -7,13 +7,10 @@ namespace zelvar::sim {
 
 namespace {
 
-using Answer = std::optional<Payload>;
-
-constexpr int kUnit = 1;  // first value of what concerns the unit itself
-constexpr int kTableRequest = 3;
-constexpr int kBitsPerValue = 4;  // a status table uses the low half of each value
 constexpr int kTableModules = 16;
 constexpr int kTablePointModules = 8;
+constexpr Field kAskedModule = Whole(2);
+constexpr Field kAskedInput = Wide(0, 0x1F);
 
 void AppendVersion(Payload& answer, int version) {
     // A version that two bytes cannot carry is reported as none.
@@ -22,103 +19,132 @@ void AppendVersion(Payload& answer, int version) {
     answer.Append(bytes.low);
 }
 
-Answer Poll(UnitState& state, const Payload&) {
-    return state.reports.NextForPoll();
+Payload Poll(UnitState& state, const Payload&) {
+    return state.reports.NextForPoll().value_or(Payload{});
 }
 
-Answer ResetFault(UnitState& state, const Payload&) {
+Payload ResetFault(UnitState& state, const Payload&) {
     state.fault = false;
-    return std::nullopt;
+    return {};
 }
 
-Answer ProtocolVersion(UnitState& state, const Payload& command) {
+Payload ProtocolVersion(UnitState& state, const Payload& command) {
     Payload answer = command;
     AppendVersion(answer, state.layout.protocolVersion);
     return answer;
 }
 
-Answer UnitTypeAndVersion(UnitState& state, const Payload& command) {
+Payload UnitTypeAndVersion(UnitState& state, const Payload& command) {
     Payload answer = command;
     answer.Append(state.layout.unitType);
     AppendVersion(answer, state.layout.systemVersion);
     return answer;
 }
 
-Answer ModuleStatus(UnitState& state, const Payload& command) {
+Payload ModuleStatus(UnitState& state, const Payload& command) {
     Payload answer = command;
-    const ModuleSlot& slot = state.layout.At(command[2]);
+    const ModuleSlot& slot = state.layout.At(kAskedModule.In(command));
     answer.Append(slot.status);
     AppendVersion(answer, slot.Present() ? slot.version : 0);
     return answer;
 }
 
-Answer DipSwitches(UnitState& state, const Payload& command) {
-    return Payload{kUnit, kTableRequest, command[2] * 16 + state.layout.dipSwitches % 16};
+Payload DipSwitches(UnitState& state, const Payload&) {
+    return {kToUnit, kTableCode,
+            kDipSwitchTable * kHalfRange + state.layout.dipSwitches % kHalfRange};
 }
 
-/// A status table: number `table` in the upper half of the first value, one bit per module in the
-/// lower halves.
+/// A status table: its number in the high half of the first value, one bit for each module in the
+/// low halves. `isSet` gets the status byte of a module.
 template <typename Predicate>
-Answer StatusTable(const UnitState& state, int table, int firstAddress, int modules,
-                   Predicate isSet) {
-    Payload answer{kUnit, kTableRequest};
-    for (int first = 0; first < modules; first += kBitsPerValue) {
-        int bits = first == 0 ? table * 16 : 0;
-        for (int bit = 0; bit < kBitsPerValue; ++bit) {
-            bits |= isSet(state.layout.At(firstAddress + first + bit)) ? 1 << bit : 0;
+Payload TableAnswer(const UnitState& state, StatusTable table, int firstAddress, int modules,
+                    Predicate isSet) {
+    Payload answer{kToUnit, kTableCode};
+    for (int first = 0; first < modules; first += kModulesPerTableValue) {
+        int bits = first == 0 ? table * kHalfRange : 0;
+        for (int bit = 0; bit < kModulesPerTableValue; ++bit) {
+            bits |= isSet(state.layout.At(firstAddress + first + bit).status) ? 1 << bit : 0;
         }
         answer.Append(bits);
     }
     return answer;
 }
 
-Answer PresentModules(UnitState& state, const Payload& command) {
-    return StatusTable(state, command[2], kTractionFamily, kTableModules,
-                       [](const ModuleSlot& slot) { return slot.Present(); });
+Payload PresentModules(UnitState& state, const Payload&) {
+    return TableAnswer(state, kPresentTable, kTractionFamily, kTableModules, &IsPresent);
 }
 
-Answer FaultyModules(UnitState& state, const Payload& command) {
-    return StatusTable(state, command[2], kTractionFamily, kTableModules,
-                       [](const ModuleSlot& slot) {
-                           return slot.Present() && (slot.status & kIdleBit) == 0 &&
-                                  (slot.status & kFaultBit) != 0;
-                       });
+Payload FaultyModules(UnitState& state, const Payload&) {
+    return TableAnswer(state, kFaultTable, kTractionFamily, kTableModules, &IsFaulty);
 }
 
-Answer ModuleTypes(UnitState& state, const Payload& command) {
-    // This table knows two types only: whatever is no QLRX-s shows as a VD-F, a VD60 too.
-    return StatusTable(
-        state, command[2], kTractionFamily, kTableModules, [](const ModuleSlot& slot) {
-            return slot.Present() &&
-                   (slot.status & kTypeMask) == static_cast<int>(TractionType::kQlrxS);
-        });
+Payload ModuleTypes(UnitState& state, const Payload&) {
+    // This table knows two types only: every module but a QLRX-s shows as a VD-F, a VD60 too.
+    return TableAnswer(state, kTypeTable, kTractionFamily, kTableModules, [](int status) {
+        return IsPresent(status) && TypeIn(status) == static_cast<int>(TractionType::kQlrxS);
+    });
 }
 
-Answer PresentPointModules(UnitState& state, const Payload& command) {
-    return StatusTable(state, command[2], kPointFamily, kTablePointModules,
-                       [](const ModuleSlot& slot) { return slot.Present(); });
+Payload PresentPointModules(UnitState& state, const Payload&) {
+    return TableAnswer(state, kPointTable, kPointFamily, kTablePointModules, &IsPresent);
 }
 
-Answer FeedbackState(UnitState& state, const Payload& command) {
-    const int input = command[0] % 32 * 128 + command[1];
+Payload FeedbackState(UnitState& state, const Payload& command) {
+    const int input = kAskedInput.In(command);
     if (input >= kFeedbackInputs) {
-        return std::nullopt;  // a report has no room for such a number
+        return {};  // a report has no room for such a number
     }
-    return FeedbackReport(input, state.feedback.test(static_cast<std::size_t>(input)));
+    return FeedbackReport(input, state.feedback.test(input));
 }
 
 constexpr CommandRow kStatusCommands[] = {
-    {"poll", {}, &Poll},
-    {"fault-reset", {Is(kUnit), Is(0)}, &ResetFault},
-    {"protocol-version", {Is(kUnit), Is(2)}, &ProtocolVersion},
-    {"unit-type", {Is(kUnit), Is(10)}, &UnitTypeAndVersion},
-    {"module-status", {Is(kUnit), Is(11), Any()}, &ModuleStatus},
-    {"table-dip-switches", {Is(kUnit), Is(kTableRequest), Is(0)}, &DipSwitches},
-    {"table-present", {Is(kUnit), Is(kTableRequest), Is(2)}, &PresentModules},
-    {"table-faults", {Is(kUnit), Is(kTableRequest), Is(3)}, &FaultyModules},
-    {"table-types", {Is(kUnit), Is(kTableRequest), Is(4)}, &ModuleTypes},
-    {"table-point-modules", {Is(kUnit), Is(kTableRequest), Is(6)}, &PresentPointModules},
-    {"feedback-request", {Bits(0x60, 0x60), Any()}, &FeedbackState},
+    {"poll", {}, {"poll"}, &Poll},
+    {"fault-reset", {Is(kToUnit), Is(0)}, {"reset the fault"}, &ResetFault},
+    {"protocol-version",
+     {Is(kToUnit), Is(kProtocolVersionCode)},
+     {"ask for the protocol version"},
+     &ProtocolVersion,
+     Asks::kYes},
+    {"unit-type",
+     {Is(kToUnit), Is(kUnitTypeCode)},
+     {"ask for the central unit's type and version"},
+     &UnitTypeAndVersion,
+     Asks::kYes},
+    {"module-status",
+     {Is(kToUnit), Is(kModuleStatusCode), Any()},
+     {"ask for the status {}", {{kAskedModule, &OfModule}}},
+     &ModuleStatus,
+     Asks::kYes},
+    {"table-dip-switches",
+     {Is(kToUnit), Is(kTableCode), Is(kDipSwitchTable)},
+     {"ask for the table of DIP switches"},
+     &DipSwitches,
+     Asks::kYes},
+    {"table-present",
+     {Is(kToUnit), Is(kTableCode), Is(kPresentTable)},
+     {"ask for the table of traction modules that are there"},
+     &PresentModules,
+     Asks::kYes},
+    {"table-faults",
+     {Is(kToUnit), Is(kTableCode), Is(kFaultTable)},
+     {"ask for the table of traction modules in fault"},
+     &FaultyModules,
+     Asks::kYes},
+    {"table-types",
+     {Is(kToUnit), Is(kTableCode), Is(kTypeTable)},
+     {"ask for the table of traction module types"},
+     &ModuleTypes,
+     Asks::kYes},
+    {"table-point-modules",
+     {Is(kToUnit), Is(kTableCode), Is(kPointTable)},
+     {"ask for the table of point modules that are there"},
+     &PresentPointModules,
+     Asks::kYes},
+    {"feedback-request",
+     {Bits(0x60, 0x60), Any()},
+     {"ask for feedback input {}", {kAskedInput}},
+     &FeedbackState,
+     Asks::kYes},
 };
 
 }  // namespace

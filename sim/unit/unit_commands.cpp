@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "sim/protocol/names.h"
 #include "sim/unit/commands.h"
 #include "sim/unit/unit_state.h"
 
@@ -7,59 +8,86 @@ namespace zelvar::sim {
 
 namespace {
 
-using Answer = std::optional<Payload>;
-
-constexpr int kUnit = 1;
-constexpr int kOptions = 5;
-constexpr int kSetConfiguration = 6;
-constexpr int kGetConfiguration = 14;
-constexpr int kPermanentBit = 1;  // in the code of a configuration command
-constexpr int kHalf = 16;         // the configuration byte travels in two halves of four bits
+constexpr int kOptionsCode = 5;
+constexpr int kSetConfigurationCode = 6;
+constexpr Field kConfiguration = Halves(2);
+constexpr Field kOptions = Whole(2);
+// A Set whose first value is above 15 carries 16 plus the sum of the mode boxes.
 constexpr int kDeviceModeOffset = 16;
+constexpr Field kDeviceMode = Whole(2);
 
-UnitSettings& Part(UnitState& state, const Payload& command) {
-    return state.memories.unit.Part((command[1] & kPermanentBit) != 0);
+UnitSettings& MemoryPart(UnitState& state, const Payload& command) {
+    return state.memories.unit.Part(kUnitPermanent.In(command) != 0);
 }
 
-Answer SetConfiguration(UnitState& state, const Payload& command) {
-    Part(state, command).configuration =
-        static_cast<std::uint8_t>(command[2] % kHalf + command[3] % kHalf * kHalf);
-    return std::nullopt;
+Payload SetConfiguration(UnitState& state, const Payload& command) {
+    MemoryPart(state, command).configuration =
+        static_cast<std::uint8_t>(kConfiguration.In(command));
+    return {};
 }
 
-Answer SetDeviceMode(UnitState& state, const Payload& command) {
-    Part(state, command).deviceMode = static_cast<std::uint8_t>(command[2] - kDeviceModeOffset);
-    return std::nullopt;
+Payload SetDeviceMode(UnitState& state, const Payload& command) {
+    MemoryPart(state, command).deviceMode =
+        static_cast<std::uint8_t>(kDeviceMode.In(command) - kDeviceModeOffset);
+    return {};
 }
 
-Answer GetConfiguration(UnitState& state, const Payload& command) {
-    const int configuration = Part(state, command).configuration;
-    return Payload{kUnit, command[1], configuration % kHalf, configuration / kHalf};
+Payload GetConfiguration(UnitState& state, const Payload& command) {
+    const int configuration = MemoryPart(state, command).configuration;
+    return {kToUnit, command[1], configuration % kHalfRange, configuration / kHalfRange};
 }
 
-Answer GoTransparent(UnitState& state, const Payload&) {
+Payload GoTransparent(UnitState& state, const Payload&) {
     state.transparent = true;
-    return std::nullopt;
+    return {};
 }
 
-Answer SetOptions(UnitState& state, const Payload& command) {
-    state.memories.options = static_cast<std::uint8_t>(command[2]);
-    return std::nullopt;
+Payload SetOptions(UnitState& state, const Payload& command) {
+    state.memories.options = static_cast<std::uint8_t>(kOptions.In(command));
+    return {};
 }
 
-constexpr ValuePattern kSet = Bits(0x7F - kPermanentBit, kSetConfiguration);
-constexpr ValuePattern kGet = Bits(0x7F - kPermanentBit, kGetConfiguration);
+std::string DeviceModeName(int value) {
+    return std::to_string(value - kDeviceModeOffset);
+}
+
+constexpr ValuePattern kSet = IsBut(kUnitPermanentBit, kSetConfigurationCode);
+constexpr ValuePattern kGet = IsBut(kUnitPermanentBit, kGetConfigurationCode);
+constexpr Parameter kMemory = MemoryName(kUnitPermanent);
 
 constexpr CommandRow kUnitCommands[] = {
-    {"unit-set-configuration", {Is(kUnit), kSet, Bits(0x70, 0), Any()}, &SetConfiguration},
-    // The same command with a first value above 15: 16 plus the sum of the mode boxes.
-    {"unit-set-device-mode", {Is(kUnit), kSet, Any(), Any()}, &SetDeviceMode},
-    {"unit-get-configuration", {Is(kUnit), kGet, Any(), Any()}, &GetConfiguration},
+    {"unit-set-configuration",
+     {Is(kToUnit), kSet, Bits(0x70, 0), Any()},
+     {"set the {} configuration of the central unit: {}",
+      {kMemory, {kConfiguration, &ConfigurationName}}},
+     &SetConfiguration},
+    {"unit-set-device-mode",
+     {Is(kToUnit), kSet, Any(), Any()},
+     {"set the {} 64-device mode of the point modules: {}",
+      {kMemory, {kDeviceMode, &DeviceModeName}}},
+     &SetDeviceMode},
+    {"unit-get-configuration",
+     {Is(kToUnit), kGet, Any(), Any()},
+     {"ask for the {} configuration of the central unit", {kMemory}},
+     &GetConfiguration,
+     Asks::kYes},
     // Option bytes of these values are the switches into transparent mode.
-    {"transparent-channel-0", {Is(kUnit), Is(kOptions), Is(16)}, &GoTransparent},
-    {"transparent-channel-1", {Is(kUnit), Is(kOptions), Is(32)}, &GoTransparent},
-    {"transparent-boot-loader", {Is(kUnit), Is(kOptions), Is(48)}, &GoTransparent},
-    {"unit-set-options", {Is(kUnit), Is(kOptions), Any()}, &SetOptions},
+    {"transparent-channel-0",
+     {Is(kToUnit), Is(kOptionsCode), Is(16)},
+     {"switch to transparent mode: channel 0"},
+     &GoTransparent},
+    {"transparent-channel-1",
+     {Is(kToUnit), Is(kOptionsCode), Is(32)},
+     {"switch to transparent mode: channel 1"},
+     &GoTransparent},
+    {"transparent-boot-loader",
+     {Is(kToUnit), Is(kOptionsCode), Is(48)},
+     {"switch to transparent mode: boot loader"},
+     &GoTransparent},
+    {"unit-set-options",
+     {Is(kToUnit), Is(kOptionsCode), Any()},
+     {"set the options of the central unit: {}", {{kOptions, &OptionsName}}},
+     &SetOptions},
 };
 
 }  // namespace

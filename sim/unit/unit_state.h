@@ -4,9 +4,13 @@
 
 #include <bitset>
 #include <chrono>
+#include <cstdint>
+#include <map>
+#include <string_view>
 
 #include "sim/railway/drive.h"
 #include "sim/railway/railway.h"
+#include "sim/railway/simulated_clock.h"
 #include "sim/unit/layout.h"
 #include "sim/unit/memories.h"
 #include "sim/unit/reports.h"
@@ -16,7 +20,17 @@ namespace zelvar::sim {
 /// Time since any fixed moment; the caller's clock never runs backwards.
 using Time = std::chrono::nanoseconds;
 
-/// Everything the commands and the console work on.
+/// What came over the line since the start.
+struct FrameCounts {
+    std::uint64_t received = 0;
+    std::uint64_t broken = 0;  // with a wrong checksum or header
+    std::uint64_t passedThrough = 0;
+    std::uint64_t unknown = 0;
+    std::uint64_t repeatedToggles = 0;
+    std::map<std::string_view, std::uint64_t> commands;  // by their names
+};
+
+/// All that commands, console and views work on.
 struct UnitState {
     /// Engines differ a little by `seed`; not at all when it is 0.
     explicit UnitState(const Layout& described, std::uint32_t seed = 0)
@@ -28,15 +42,17 @@ struct UnitState {
     Layout layout;
     Memories memories;
     Railway railway;
+    SimulatedClock clock;
     Time now{0};  // simulated
+    FrameCounts frames;
     bool fault = false;
     bool hold = false;
     bool stopRequested = false;
-    /// Passes the line through to a channel or its boot loader and answers nothing itself.
+    /// The unit connects the line to a channel or its boot loader and does not answer.
     bool transparent = false;
-    /// Polls until a module's answer can go out; 0: it is the reply itself.
+    /// Polls until a module's answer can go out; 0: the answer is the reply itself.
     int answerDelay = 1;
-    std::bitset<kModuleAddresses> muted;  // modules that answer no request, by address
+    std::bitset<kModuleAddresses> muted;  // modules that do not answer, by address
     ReportQueue reports;
     std::bitset<kBlocks> overcurrent;
     std::bitset<kFeedbackInputs> feedback;

@@ -11,17 +11,13 @@
 #include "controls/naming.h"
 #include "controls/number_text.h"
 #include "logs/message_log.h"
+#include "platform/nested_loop.h"
 #include "protocol/reports.h"
 #include "protocol/status.h"
 
 namespace zelvar {
 
 namespace {
-
-// In pixels at 96 dpi: every tab fits without scrolling, on small screens too. The width is what
-// the tabs need with DejaVu Sans, since they are built when the window is already in view.
-constexpr int kStartWidth = 969;
-constexpr int kStartHeight = 640;
 
 /// In milliseconds: the window is painted by then.
 constexpr int kDescribeDelay = 100;
@@ -33,15 +29,13 @@ MainWindow::MainWindow(const Platform& platform)
       link_(platform.port, platform.pollTimer, platform.clock, platform.messageBox, *this),
       poller_(link_, platform.port, platform.pollTimer),
       statusBar_(new StatusBar(this)),
-      services_{link_, platform.messageBox, *statusBar_, platform.clock, platform.gate},
+      services_{link_, platform.messageBox, *statusBar_, platform.clock},
       portBar_(new PortBar(this)),
       tabs_(Named(new QTabWidget(this), "SSTab1", "Settings and tests")),
-      vdTab_(tabs_, QStringLiteral("VDxx / QLRX-s"),
-             [this](QWidget* page) { return MakeVDTab(page); }),
-      jsTab_(tabs_, QStringLiteral("JS70"), [this](QWidget* page) { return MakeJSTab(page); }),
-      kbTab_(tabs_, QStringLiteral("KB-x"),
-             [this](QWidget* page) { return new KBTab(services_, page); }),
-      testTab_(tabs_, QStringLiteral("TEST"), [this](QWidget* page) { return MakeTestTab(page); }),
+      vdTab_(new VDTab(services_, registry_, tabs_)),
+      jsTab_(new JSTab(services_, tabs_)),
+      kbTab_(new KBTab(services_, tabs_)),
+      testTab_(new TestTab(services_, tabs_)),
       dlgMsgLog_(LazyWindow<LogWindow>::OnClose::Unload,
                  [] { return new LogWindow(MessageLogKind()); }),
       dlgAlarmLog_(LazyWindow<LogWindow>::OnClose::Unload,
@@ -51,11 +45,10 @@ MainWindow::MainWindow(const Platform& platform)
       dlgZelvarStatus44_(LazyWindow<DlgZelvarStatus44>::OnClose::Keep,
                          [] { return new DlgZelvarStatus44; }),
       dlgZelvarFeedback_(LazyWindow<DlgZelvarFeedback>::OnClose::Unload,
-                         [this] { return new DlgZelvarFeedback(platform_.gate); }) {
+                         [] { return new DlgZelvarFeedback; }) {
     setObjectName(QStringLiteral("frmZelvarConfig"));
     setWindowTitle(QStringLiteral("ZelvarConfig 1.40B"));
     BuildFrame();
-    platform_.gate.SetBeginHandler([this] { link_.BeginHandler(); });
     platform_.port.SetLostHandler([this] { PortLost(); });
     ConnectControls();
     ConnectReplies();
@@ -65,42 +58,7 @@ MainWindow::MainWindow(const Platform& platform)
 MainWindow::~MainWindow() {
     platform_.pollTimer.SetEnabled(false);
     platform_.port.SetLostHandler({});
-    platform_.gate.SetBeginHandler({});
     Form_Unload();
-}
-
-VDTab* MainWindow::MakeVDTab(QWidget* page) {
-    auto* tab = new VDTab(services_, registry_, page);
-    tab->Fill({});
-    return tab;
-}
-
-JSTab* MainWindow::MakeJSTab(QWidget* page) {
-    auto* tab = new JSTab(services_, page);
-    tab->Fill({});
-    return tab;
-}
-
-TestTab* MainWindow::MakeTestTab(QWidget* page) {
-    auto* tab = new TestTab(services_, page);
-    connect(tab, &TestTab::FeedbackMonitorWanted, this,
-            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
-    return tab;
-}
-
-void MainWindow::BuildTabs() {
-    vdTab_.Get();
-    jsTab_.Get();
-    kbTab_.Get();
-    testTab_.Get();
-}
-
-void MainWindow::paintEvent(QPaintEvent* event) {
-    QMainWindow::paintEvent(event);
-    if (!isPainted_) {
-        isPainted_ = true;
-        QTimer::singleShot(0, this, &MainWindow::BuildTabs);
-    }
 }
 
 void MainWindow::BuildFrame() {
@@ -110,34 +68,33 @@ void MainWindow::BuildFrame() {
     layout->addWidget(tabs_, 1);
     setCentralWidget(centre);
     setStatusBar(statusBar_);
-    resize(kStartWidth, kStartHeight);
+    tabs_->addTab(vdTab_, QStringLiteral("VDxx / QLRX-s"));
+    tabs_->addTab(jsTab_, QStringLiteral("JS70"));
+    tabs_->addTab(kbTab_, QStringLiteral("KB-x"));
+    tabs_->addTab(testTab_, QStringLiteral("TEST"));
+    resize(sizeHint());
 }
 
 void MainWindow::ConnectControls() {
-    HandlerGate& gate = platform_.gate;
-    connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::BuildTabs);
-    connect(portBar_->cboPort, &DropDownList::Chosen, this,
-            gate.Handler([this] { cboPort_Click(); }));
-    connect(portBar_->cmdRefresh, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdRefresh_Click(); }));
-    connect(portBar_->cmdReset, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdReset_Click(); }));
-    connect(portBar_->cmdStatus, &PressButton::MouseDown, this,
-            gate.Handler([this](int button, int shift) { cmdStatus_MouseDown(button, shift); }));
-    connect(portBar_->lblCom, &ServiceLabel::DblClick, this,
-            gate.Handler([this] { lblCom_DblClick(); }));
+    connect(testTab_, &TestTab::FeedbackMonitorWanted, this,
+            [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
+    connect(portBar_->cboPort, &DropDownList::Chosen, this, &MainWindow::cboPort_Click);
+    connect(portBar_->cmdRefresh, &QPushButton::clicked, this, &MainWindow::cmdRefresh_Click);
+    connect(portBar_->cmdReset, &QPushButton::clicked, this, &MainWindow::cmdReset_Click);
+    connect(portBar_->cmdStatus, &PressButton::MouseDown, this, &MainWindow::cmdStatus_MouseDown);
+    connect(portBar_->lblCom, &ServiceLabel::DblClick, this, &MainWindow::lblCom_DblClick);
     for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
         // Choosing the chosen rate again counts, too, so it is the click that matters.
         connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::clicked, this,
-                gate.Handler([this, index](bool) { optBaud_Click(index); }));
+                [this, index] { optBaud_Click(index); });
     }
 }
 
 void MainWindow::ConnectReplies() {
-    link_.Handlers().SetHandler(
-        ReplyKind::VDConfig, [this](const Reply& reply) { vdTab_.Get().ShowVDConfigReply(reply); });
-    link_.Handlers().SetHandler(
-        ReplyKind::KBConfig, [this](const Reply& reply) { kbTab_.Get().ShowKBConfigReply(reply); });
+    link_.Handlers().SetHandler(ReplyKind::VDConfig,
+                                [this](const Reply& reply) { vdTab_->ShowVDConfigReply(reply); });
+    link_.Handlers().SetHandler(ReplyKind::KBConfig,
+                                [this](const Reply& reply) { kbTab_->ShowKBConfigReply(reply); });
     link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
         log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));
@@ -145,7 +102,7 @@ void MainWindow::ConnectReplies() {
         log.BringIntoView(false);
     });
     link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
-        testTab_.Get().ShowBlockSpeed(ReadBlockSpeedReport(reply));
+        testTab_->ShowBlockSpeed(ReadBlockSpeedReport(reply));
     });
     // A report loads the monitor without showing it; a tick asks it only when it is loaded.
     link_.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& reply) {
@@ -159,7 +116,7 @@ void MainWindow::ConnectReplies() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
-    if (platform_.gate.IsBusy()) {
+    if (NestedLoop::IsTurning()) {
         // The program ends inside a handler, which is to send and show nothing more.
         platform_.port.Close();
     }
@@ -168,6 +125,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::Form_Load() {
     ScanPorts();
+    vdTab_->Fill({});
+    jsTab_->Fill({});
 }
 
 void MainWindow::Form_Unload() {
@@ -278,15 +237,15 @@ void MainWindow::ShowStatus(const SystemStatus& status) {
 }
 
 void MainWindow::ShowCentralUnit(const CentralUnit& unit) {
-    kbTab_.Get().ShowUnit(unit);
+    kbTab_->ShowUnit(unit);
 }
 
 void MainWindow::ListTractionModules(bool classic) {
-    vdTab_.Get().Fill(TractionModuleList(registry_, classic));
+    vdTab_->Fill(TractionModuleList(registry_, classic));
 }
 
 void MainWindow::ListPointMotorModules(bool classic) {
-    jsTab_.Get().Fill(PointMotorModuleList(registry_, classic));
+    jsTab_->Fill(PointMotorModuleList(registry_, classic));
 }
 
 void MainWindow::PortLost() {
@@ -305,7 +264,7 @@ void MainWindow::ShowSystemState(SystemState state) {
         return;
     }
     shownState_ = state;
-    testTab_.Get().ShowSystemState(state);
+    testTab_->ShowSystemState(state);
     statusBar_->ShowSystemState(state);
 }
 

@@ -10,14 +10,12 @@
 #include "config/js_tab.h"
 #include "config/kb_tab.h"
 #include "config/vd_tab.h"
-#include "controls/late_page.h"
 #include "controls/secondary_window.h"
 #include "link/link.h"
 #include "link/poller.h"
 #include "link/services.h"
 #include "logs/log_window.h"
 #include "platform/clock.h"
-#include "platform/handler_gate.h"
 #include "platform/message_box.h"
 #include "platform/serial_port.h"
 #include "platform/timer.h"
@@ -36,7 +34,6 @@ struct Platform {
     Timer& pollTimer;
     const Clock& clock;
     MessageBox& messageBox;
-    HandlerGate& gate;
     /// The device path behind a port number.
     PortBar::DescribePort devicePath;
     /// The path and, when the computer knows one, the adapter's description. May take a while.
@@ -59,18 +56,10 @@ class MainWindow : public QMainWindow, private LinkView, private StatusRequestVi
 
     StatusBar& Bar() { return *statusBar_; }
 
-    /// Builds the tabs' contents, which happens by itself once the window is painted with the port
-    /// list, the buttons and the status bar, or when somebody needs one of them before.
-    void BuildTabs();
-
   protected:
-    void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    VDTab* MakeVDTab(QWidget* page);
-    JSTab* MakeJSTab(QWidget* page);
-    TestTab* MakeTestTab(QWidget* page);
     void BuildFrame();
     void ConnectControls();
     void ConnectReplies();
@@ -112,11 +101,10 @@ class MainWindow : public QMainWindow, private LinkView, private StatusRequestVi
     Services services_;
     PortBar* portBar_;
     QTabWidget* tabs_;
-    LatePage<VDTab> vdTab_;
-    LatePage<JSTab> jsTab_;
-    LatePage<KBTab> kbTab_;
-    LatePage<TestTab> testTab_;
-    bool isPainted_ = false;
+    VDTab* vdTab_;
+    JSTab* jsTab_;
+    KBTab* kbTab_;
+    TestTab* testTab_;
 
     LazyWindow<LogWindow> dlgMsgLog_;
     LazyWindow<LogWindow> dlgAlarmLog_;

@@ -25,7 +25,7 @@ QString DescribePort(const PortTable& table, int number) {
 }  // namespace
 
 Program::Program()
-    : window_({port_, pollTimer_, clock_, messageBox_, gate_,
+    : window_({port_, pollTimer_, clock_, messageBox_,
                [this](int number) { return Text(table_.DeviceOf(number)); },
                [this](int number) { return DescribePort(table_, number); }}) {
     pollTimer_.SetHandler([this] { window_.Timer1_Timer(); });

@@ -4,7 +4,6 @@
 
 #include "app/main_window.h"
 #include "platform/clock.h"
-#include "platform/handler_gate.h"
 #include "platform/port_table.h"
 #include "platform/qt_message_box.h"
 #include "platform/qt_serial_port.h"
@@ -22,9 +21,8 @@ class Program {
 
   private:
     PortTable table_ = PortTable::FromEnvironment();
-    HandlerGate gate_;
     QtSerialPort port_{table_};
-    QtTimer pollTimer_{gate_, kPollInterval};
+    QtTimer pollTimer_{kPollInterval};
     SteadyClock clock_;
     QtMessageBox messageBox_;
     MainWindow window_;

@@ -7,6 +7,7 @@
 
 #include "controls/naming.h"
 #include "controls/palette.h"
+#include "platform/nested_loop.h"
 
 namespace zelvar {
 
@@ -147,6 +148,7 @@ void StatusBar::PumpCancel() {
     if (!offered_ || cancelled_) {
         return;
     }
+    const NestedLoop nested;
     qApp->installEventFilter(this);
     QApplication::processEvents();
     qApp->removeEventFilter(this);

@@ -5,7 +5,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstddef>
@@ -14,6 +13,7 @@
 #include "config/js_report.h"
 #include "config/selection.h"
 #include "controls/command_button.h"
+#include "controls/fixed_pitch_font.h"
 #include "controls/naming.h"
 #include "protocol/point_settings.h"
 
@@ -22,9 +22,6 @@ namespace zelvar {
 namespace {
 
 constexpr std::array<const char*, 4> kPowerCaptions{"Normal", "Low", "High", "Unlimited"};
-constexpr int kReportFontPoints = 9;
-/// In milliseconds.
-constexpr int kReportFontDelay = 50;
 
 QPushButton* Button(const char* caption, const char* name, const char* inWords, QWidget* parent) {
     return MakeCommandButton(Text(caption), Text(name), Text(inWords), parent);
@@ -36,17 +33,8 @@ QLabel* LabelFor(QWidget* control, const char* caption, const char* name) {
     return label;
 }
 
-void SetReportFont(QPlainTextEdit* field) {
-    QFont font(QStringLiteral("Lucida Console"), kReportFontPoints);
-    font.setStyleHint(QFont::Monospace);
-    font.setFixedPitch(true);
-    field->setFont(font);
-}
-
 QPlainTextEdit* MakeReportField(QWidget* parent) {
     auto* field = Named(new QPlainTextEdit(parent), "textJSReport", "Configuration report");
-    // Finding the font takes longer than the rest of the tab, so the window is painted first.
-    QTimer::singleShot(kReportFontDelay, field, [field] { SetReportFont(field); });
     field->setReadOnly(true);
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -156,11 +144,10 @@ void JSTab::ConnectControls() {
         {cmdHideJSConfig_, &JSTab::cmdHideJSConfig_Click},
     };
     for (const Click& click : clicks) {
-        connect(
-            click.button, &QPushButton::clicked, this,
-            services_.gate.Handler([this, handler = click.handler](bool) { (this->*handler)(); }));
+        connect(click.button, &QPushButton::clicked, this,
+                [this, handler = click.handler] { (this->*handler)(); });
     }
-    connect(cboJS_, &DropDownList::Chosen, this, services_.gate.Handler([this] { cboJS_Click(); }));
+    connect(cboJS_, &DropDownList::Chosen, this, &JSTab::cboJS_Click);
 }
 
 void JSTab::Fill(const SelectionList& list) {
@@ -182,6 +169,10 @@ void JSTab::ShowJSReportControls(bool canGet) {
 }
 
 void JSTab::ShowReport(bool shown) {
+    if (shown) {
+        // Set no earlier: finding the font takes longer than building the whole tab.
+        textJSReport_->setFont(FixedPitchFont());
+    }
     cmdHideJSConfig_->setVisible(shown);
     textJSReport_->setVisible(shown);
 }

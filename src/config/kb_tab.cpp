@@ -178,21 +178,17 @@ QFrame* KBTab::BuildTransparentFrame() {
 }
 
 void KBTab::ConnectControls() {
-    HandlerGate& gate = services_.gate;
     for (int i = 0; i < static_cast<int>(cmdConfig_.size()); ++i) {
         QPushButton* button = cmdConfig_[static_cast<std::size_t>(i)];
-        connect(button, &QPushButton::clicked, this,
-                gate.Handler([this, i](bool) { cmdConfig_Click(i); }));
-        OnLostFocus(button, gate.Handler([this] { cmdConfig_LostFocus(); }));
+        connect(button, &QPushButton::clicked, this, [this, i] { cmdConfig_Click(i); });
+        OnLostFocus(button, [this] { cmdConfig_LostFocus(); });
     }
     for (int i = 0; i < static_cast<int>(cmdTM_.size()); ++i) {
         connect(cmdTM_[static_cast<std::size_t>(i)], &QPushButton::clicked, this,
-                gate.Handler([this, i](bool) { cmdTM_Click(i); }));
+                [this, i] { cmdTM_Click(i); });
     }
-    connect(cmdOptions_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdOptions_Click(); }));
-    connect(cmdJS70dm_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdJS70dm_Click(); }));
+    connect(cmdOptions_, &QPushButton::clicked, this, &KBTab::cmdOptions_Click);
+    connect(cmdJS70dm_, &QPushButton::clicked, this, &KBTab::cmdJS70dm_Click);
 }
 
 void KBTab::ShowUnit(const CentralUnit& unit) {

@@ -214,12 +214,12 @@ void VDSettingPanel::PlaceBankRows(bool twoRows) {
     }
 }
 
-void VDSettingPanel::ShowVDSettingFrames(unsigned kinds, bool showAlways) {
-    const bool shown = (setting_.shownFor & kinds) != 0;
-    frame_->setVisible(shown || showAlways);
+void VDSettingPanel::ShowFor(VDTypes types, bool always) {
+    const bool shown = setting_.shownFor.Intersects(types);
+    frame_->setVisible(shown || always);
     bool twoRows = false;
     for (std::size_t i = 0; i < fields_.size(); ++i) {
-        const bool fieldShown = (setting_.numbers.fields[i].shownFor & kinds) != 0;
+        const bool fieldShown = setting_.numbers.fields[i].shownFor.Intersects(types);
         fields_[i]->setVisible(fieldShown);
         if (labels_[i] != nullptr) {
             labels_[i]->setVisible(fieldShown);

@@ -30,8 +30,9 @@ class VDSettingPanel : public QFrame {
     int ButtonWidth() const;
     void SetButtonWidth(int width);
 
-    /// Shows the frame and its controls if they are for one of these kinds of modules.
-    void ShowVDSettingFrames(unsigned kinds, bool showAlways);
+    /// Shows the frame and its controls if they are for one of these types of modules.
+    /// @param always shows the frame in any case, but not what is in it
+    void ShowFor(VDTypes types, bool always);
     void ShowVDGetButtons(VDGetButtons buttons);
 
     VDInput Input() const;

@@ -58,6 +58,9 @@ QLayout* VDTab::LayOutSettings() {
     for (const VDSetting& setting : VDSettings()) {
         auto* panel = new VDSettingPanel(setting, this);
         panels_.push_back(panel);
+        if (setting.options.parameter == kMasterSlaveParameter) {
+            masterSlavePanel_ = panel;
+        }
         grid->addWidget(panel, setting.place.row, setting.place.column);
         grid->setColumnStretch(setting.place.column, 1);
         buttonWidth = std::max(buttonWidth, panel->ButtonWidth());
@@ -74,30 +77,27 @@ QLayout* VDTab::LayOutSettings() {
 }
 
 void VDTab::ConnectControls() {
-    connect(cboVD_, &DropDownList::Chosen, this, services_.gate.Handler([this] { cboVD_Click(); }));
-    connect(cmdErase_, &QPushButton::clicked, this,
-            services_.gate.Handler([this](bool) { cmdErase_Click(); }));
+    connect(cboVD_, &DropDownList::Chosen, this, &VDTab::cboVD_Click);
+    connect(cmdErase_, &QPushButton::clicked, this, &VDTab::cmdErase_Click);
     for (VDSettingPanel* panel : panels_) {
         ConnectPanel(*panel);
     }
 }
 
 void VDTab::ConnectPanel(VDSettingPanel& panel) {
-    HandlerGate& gate = services_.gate;
-    connect(&panel, &VDSettingPanel::ButtonClicked, this, gate.Handler([this, &panel](int index) {
-        if (panel.Setting().options.parameter == kMasterSlaveParameter) {
+    connect(&panel, &VDSettingPanel::ButtonClicked, this, [this, &panel](int index) {
+        if (&panel == masterSlavePanel_) {
             cmdMS_Click(panel, index);
         } else {
             cmdSetting_Click(panel, index);
         }
-    }));
-    connect(&panel, &VDSettingPanel::ButtonLostFocus, this,
-            gate.Handler([&panel] { panel.RestoreColours(); }));
+    });
+    connect(&panel, &VDSettingPanel::ButtonLostFocus, this, [&panel] { panel.RestoreColours(); });
     connect(&panel, &VDSettingPanel::FieldStepped, this,
-            gate.Handler([&panel](int field) { panel.RestoreFieldColour(field); }));
+            [&panel](int field) { panel.RestoreFieldColour(field); });
     if (panel.Setting().numbers.clamped == Clamped::OnChange) {
         connect(&panel, &VDSettingPanel::FieldChanged, this,
-                gate.Handler([this, &panel](int field) { txtSetting_Change(panel, field); }));
+                [this, &panel](int field) { txtSetting_Change(panel, field); });
     }
 }
 
@@ -120,8 +120,7 @@ void VDTab::UpdateVDTypeView() {
         chosen < 0 ? VDType::Unknown : registry_.vdTypes.at(static_cast<unsigned>(chosen));
     const VDTypeView view = VDTypeViewOf(chosen, type);
     for (VDSettingPanel* panel : panels_) {
-        const bool isMS = panel->Setting().options.parameter == kMasterSlaveParameter;
-        panel->ShowVDSettingFrames(view.frames, isMS && view.withMSFrame);
+        panel->ShowFor(view.frames, panel == masterSlavePanel_ && view.withMSFrame);
         panel->ShowVDGetButtons(view.getButtons);
     }
     lblVDtype_->setText(Text(view.caption));
@@ -134,8 +133,8 @@ void VDTab::cmdSetting_Click(VDSettingPanel& panel, int index) {
     if (!services_.link.CheckPort()) {
         return;
     }
-    for (std::size_t i = 0; i < VDCommandCount(panel.Setting()); ++i) {
-        // Read anew each time: a reply to one command may change what the next one sends.
+    for (std::size_t i = 0; i < VDCommandCount(panel.Setting()) && services_.link.IsOpen(); ++i) {
+        // Read again each time: a reply to one command may change what the next one sends.
         if (const std::optional<ModuleCommand> command =
                 VDCommandOf(panel.Setting(), i, index, chkVDperm_->isChecked(), panel.Input())) {
             commands_.SendModuleCommand(*command);

@@ -55,6 +55,7 @@ class VDTab : public QWidget {
     QCheckBox* chkVDperm_;
     QPushButton* cmdErase_;
     std::vector<VDSettingPanel*> panels_;
+    VDSettingPanel* masterSlavePanel_ = nullptr;
 };
 
 }  // namespace zelvar

@@ -6,6 +6,8 @@
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 
+#include "platform/nested_loop.h"
+
 namespace zelvar {
 
 namespace {
@@ -13,7 +15,7 @@ namespace {
 constexpr int kSmallStep = 1;
 constexpr int kLargeStep = 5;
 
-/// Milliseconds until it is tried again to report a value that another handler holds up.
+/// Milliseconds until the next attempt to report a value that another handler holds up.
 constexpr int kRetryInterval = 20;
 
 bool IsUserInput(QEvent::Type type) {
@@ -34,8 +36,7 @@ bool IsUserInput(QEvent::Type type) {
 
 }  // namespace
 
-SpeedSlider::SpeedSlider(HandlerGate& gate, int maximum, QWidget* parent)
-    : QSlider(Qt::Horizontal, parent), gate_(gate) {
+SpeedSlider::SpeedSlider(int maximum, QWidget* parent) : QSlider(Qt::Horizontal, parent) {
     setRange(0, maximum);
     setSingleStep(kSmallStep);
     setPageStep(kLargeStep);
@@ -86,7 +87,7 @@ void SpeedSlider::ValueChanged() {
 }
 
 void SpeedSlider::ReportNewest() {
-    if (gate_.IsBusy()) {
+    if (NestedLoop::IsTurning()) {
         report_.start(kRetryInterval);
         return;
     }

@@ -5,8 +5,6 @@
 #include <QSlider>
 #include <QTimer>
 
-#include "platform/handler_gate.h"
-
 namespace zelvar {
 
 /// A slider whose every new value is a command. What code sets is reported at once; of what the
@@ -16,7 +14,7 @@ class SpeedSlider : public QSlider {
     Q_OBJECT
 
   public:
-    SpeedSlider(HandlerGate& gate, int maximum, QWidget* parent = nullptr);
+    explicit SpeedSlider(int maximum, QWidget* parent = nullptr);
 
     /// Sets the value from code, leaving none of the user's unreported.
     void Put(int value);
@@ -36,7 +34,6 @@ class SpeedSlider : public QSlider {
     void Report();
     void LetGo();
 
-    HandlerGate& gate_;
     /// Runs while the user has chosen a value that is not reported yet.
     QTimer report_;
     int lastReported_ = 0;

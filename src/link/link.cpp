@@ -23,10 +23,7 @@ bool Link::CheckPort() {
     if (port_.IsOpen()) {
         return true;
     }
-    // An exchange ran in this handler, so the port was open: its device has vanished since.
-    if (!exchangedInThisHandler_) {
-        messageBox_.Tell(std::string(kSelectPortText), BoxIcon::Exclamation);
-    }
+    messageBox_.Tell(std::string(kSelectPortText), BoxIcon::Exclamation);
     return false;
 }
 
@@ -35,7 +32,6 @@ std::optional<Reply> Link::Transact(const Command& command, std::string_view err
     if (!port_.IsOpen()) {
         return std::nullopt;
     }
-    exchangedInThisHandler_ = true;
     Flush();
     const EncodedFrame frame = EncodeFrame(command, view_.IsStopTicked(), frameToggle_);
     if (!frame.isWhole) {

@@ -60,13 +60,11 @@ class Link {
 
     bool IsOpen() const { return port_.IsOpen(); }
 
-    /// Every command handler begins with this. @return whether the port is open; when it is not,
-    /// the user is shown `kSelectPortText`, unless the device vanished during this very handler,
-    /// which the user knows from the exchange that failed.
+    /// Every command handler begins with this. A handler that sends several commands asks `IsOpen`
+    /// before each further one: when the device has vanished meanwhile, the user knows it from the
+    /// exchange that failed.
+    /// @return whether the port is open; when it is not, the user is shown `kSelectPortText`
     bool CheckPort();
-
-    /// To be called when an outermost event handler begins.
-    void BeginHandler() { exchangedInThisHandler_ = false; }
 
   private:
     void Flush();
@@ -82,7 +80,6 @@ class Link {
     ReplyDispatch handlers_;
     /// Flips after every frame sent, for the whole run of the program.
     bool frameToggle_ = false;
-    bool exchangedInThisHandler_ = false;
 };
 
 }  // namespace zelvar

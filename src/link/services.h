@@ -4,7 +4,6 @@
 
 #include "link/link.h"
 #include "platform/clock.h"
-#include "platform/handler_gate.h"
 #include "platform/message_box.h"
 #include "platform/progress.h"
 
@@ -17,7 +16,6 @@ struct Services {
     MessageBox& messageBox;
     Progress& progress;
     const Clock& clock;
-    HandlerGate& gate;
 };
 
 }  // namespace zelvar

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "controls/fixed_pitch_font.h"
 #include "controls/naming.h"
 
 namespace zelvar {
@@ -16,7 +17,6 @@ namespace zelvar {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
-constexpr int kLogFontPoints = 9;
 
 }  // namespace
 
@@ -42,10 +42,7 @@ LogWindow::LogWindow(const LogWindowKind& kind)
     : SecondaryWindow(kind.name, kind.caption), text_(new QPlainTextEdit(this)) {
     Named(text_, kind.textName, kind.caption);
     if (kind.fixedPitch) {
-        QFont font(QStringLiteral("Lucida Console"), kLogFontPoints);
-        font.setStyleHint(QFont::Monospace);
-        font.setFixedPitch(true);
-        text_->setFont(font);
+        text_->setFont(FixedPitchFont());
     }
     text_->setReadOnly(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

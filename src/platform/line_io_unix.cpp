@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include "platform/line_io.h"
@@ -18,6 +20,12 @@ constexpr short kHungUp = POLLERR | POLLHUP | POLLNVAL;
 bool IsHungUp(int line) {
     pollfd look{line, 0, 0};
     return poll(&look, 1, 0) > 0 && (look.revents & kHungUp) != 0;
+}
+
+/// With bytes still to read the device counts as gone only when they are read.
+bool IsGone(int line, short events) {
+    int bytes = 0;
+    return (events & kHungUp) != 0 && (ioctl(line, FIONREAD, &bytes) != 0 || bytes == 0);
 }
 
 bool IsTemporary(int error) {
@@ -39,8 +47,7 @@ bool SendAndWaitOn(QSerialPort& port, std::span<const std::uint8_t> bytes, int m
     pollfd wait{line, POLLIN, 0};
     if (taken == static_cast<ssize_t>(bytes.size())) {
         const int ready = poll(&wait, 1, milliseconds);
-        // With bytes still to read the device counts as gone only when they are read.
-        return ready <= 0 || (wait.revents & kHungUp) == 0 || (wait.revents & POLLIN) != 0;
+        return ready <= 0 || !IsGone(line, wait.revents);
     }
     const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
     while (true) {
@@ -49,12 +56,12 @@ bool SendAndWaitOn(QSerialPort& port, std::span<const std::uint8_t> bytes, int m
         }
         bytes = bytes.subspan(static_cast<std::size_t>(std::max<ssize_t>(taken, 0)));
         const int left = MillisecondsUntil(end);
-        wait.events = bytes.empty() ? POLLIN : POLLIN | POLLOUT;
+        wait.events = bytes.empty() ? POLLIN : POLLOUT;
         const int ready = poll(&wait, 1, left);
-        if (ready > 0 && (wait.revents & kHungUp) != 0 && (wait.revents & POLLIN) == 0) {
+        if (ready > 0 && IsGone(line, wait.revents)) {
             return false;
         }
-        if ((wait.revents & POLLIN) != 0 || left == 0 || bytes.empty()) {
+        if (left == 0 || bytes.empty()) {
             return true;
         }
         taken = write(line, bytes.data(), bytes.size());

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "platform/nested_loop.h"
+
 namespace zelvar {
 
 namespace {
@@ -68,6 +70,7 @@ BoxAnswer QtMessageBox::Ask(const std::string& text, BoxIcon icon, BoxButtons bu
     box->setIcon(IconOf(icon));
     box->setStandardButtons(ButtonsOf(buttons));
     box->setWindowModality(Qt::ApplicationModal);
+    const NestedLoop nested;
     const int button = box->exec();
     delete box.data();
     return AnswerOf(button, buttons);

@@ -23,6 +23,13 @@ QtSerialPort::QtSerialPort(PortTable table) : table_(std::move(table)) {
     port_.setParity(QSerialPort::OddParity);
     port_.setDataBits(QSerialPort::Data8);
     port_.setStopBits(QSerialPort::OneStop);
+#ifndef Q_OS_UNIX
+    QObject::connect(&port_, &QSerialPort::errorOccurred, &port_, [this] {
+        if (IsLineLost(port_)) {
+            MarkLost();
+        }
+    });
+#endif
 }
 
 QtSerialPort::~QtSerialPort() {
@@ -63,12 +70,6 @@ void QtSerialPort::WatchWhileIdle() {
     idleWatch_ = std::make_unique<QSocketNotifier>(port_.handle(), QSocketNotifier::Read);
     QObject::connect(idleWatch_.get(), &QSocketNotifier::activated, &port_,
                      [this] { LookWhileIdle(); });
-#else
-    QObject::connect(&port_, &QSerialPort::errorOccurred, &port_, [this] {
-        if (IsLineLost(port_)) {
-            MarkLost();
-        }
-    });
 #endif
 }
 

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt_timer.h"
 
+#include "platform/nested_loop.h"
+
 namespace zelvar {
 
-QtTimer::QtTimer(HandlerGate& gate, int interval) : gate_(gate) {
+QtTimer::QtTimer(int interval) {
     timer_.setInterval(interval);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
-        if (!gate_.IsBusy() && onTick_) {
-            const HandlerGate::Scope scope(gate_);
+        if (!NestedLoop::IsTurning() && onTick_) {
             onTick_();
         }
     });

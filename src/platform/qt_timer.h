@@ -6,24 +6,22 @@
 
 #include <functional>
 
-#include "platform/handler_gate.h"
 #include "platform/timer.h"
 
 namespace zelvar {
 
-/// A timer of the event loop. A tick that falls due while a handler runs is dropped: the handler
-/// may be showing a message box, and the event loop of that box must not run it either.
+/// A timer of the event loop. A tick that falls due while a nested loop turns is dropped, since a
+/// handler is still running then.
 class QtTimer : public Timer {
   public:
     /// @param interval in milliseconds
-    QtTimer(HandlerGate& gate, int interval);
+    explicit QtTimer(int interval);
 
     void SetHandler(std::function<void()> onTick) { onTick_ = std::move(onTick); }
     void SetEnabled(bool enabled) override;
     bool IsEnabled() const override { return timer_.isActive(); }
 
   private:
-    HandlerGate& gate_;
     QTimer timer_;
     std::function<void()> onTick_;
 };

@@ -87,15 +87,11 @@ QLayout* TestTab::AccessoryColumn() {
 }
 
 void TestTab::ConnectControls() {
-    HandlerGate& gate = desk_.services.gate;
-    connect(SSTab2_, &QTabWidget::currentChanged, this,
-            gate.Handler([this](int page) { SSTab2_Change(page); }));
-    connect(UpDown_Block_, &SpinField::Change, this,
-            gate.Handler([this] { txtTestBlock_Change(); }));
+    connect(SSTab2_, &QTabWidget::currentChanged, this, &TestTab::SSTab2_Change);
+    connect(UpDown_Block_, &SpinField::Change, this, &TestTab::txtTestBlock_Change);
     connect(CommandTestClearBlock_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { CommandTestClearBlock_Click(); }));
-    connect(CommandTestFBM_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { CommandTestFBM_Click(); }));
+            &TestTab::CommandTestClearBlock_Click);
+    connect(CommandTestFBM_, &QPushButton::clicked, this, &TestTab::CommandTestFBM_Click);
 }
 
 void TestTab::ShowSystemState(SystemState state) {

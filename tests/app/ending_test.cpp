@@ -22,7 +22,7 @@ class Ending : public WindowHands {
         port.responder = std::ref(unit);
         ShowWindowOn(port, boxes);
         boxes.SetParent(window.get());
-        Choose("cboPort", QStringLiteral("1"));
+        Choose("cboPort", "1");
     }
     ~Ending() override { window.reset(); }
 

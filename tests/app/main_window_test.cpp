@@ -70,6 +70,17 @@ TEST_F(MainWindowTest, HasFourTabsInTheirOrder) {
     EXPECT_EQ(titles, (std::vector<std::string>{"VDxx / QLRX-s", "JS70", "KB-x", "TEST"}));
 }
 
+TEST_F(MainWindowTest, StartsLargeEnoughForEveryTab) {
+    auto& tabs = Find<QTabWidget>("SSTab1");
+    for (int i = 0; i < tabs.count(); ++i) {
+        tabs.setCurrentIndex(i);
+        const QWidget& page = *tabs.widget(i);
+        const QSize needed = page.sizeHint();
+        EXPECT_GE(page.width(), needed.width()) << tabs.tabText(i).toStdString();
+        EXPECT_GE(page.height(), needed.height()) << tabs.tabText(i).toStdString();
+    }
+}
+
 TEST_F(MainWindowTest, TheControlsOutsideTheTabsLieOutsideAndTheStatusLineOnTheLast) {
     auto& tabs = Find<QTabWidget>("SSTab1");
     for (const char* name :

@@ -147,5 +147,76 @@ TEST_F(StatusButton, ProgressIsShownWhileItWorksAndGoneAfterwards) {
     EXPECT_EQ(values.back(), 80);
 }
 
+TEST_F(StatusButton, AnOpenViewShowsEachStepWhileTheRequestGoesOn) {
+    Click("cmdStatus");
+    ASSERT_EQ(Field("dlgZelvarStatus44", "txtVDstatus(0)"), "OK");
+    ASSERT_EQ(Field("dlgZelvarStatus44", "txtVDtype(19)"), "VD60");
+    // Module 5 falls silent, and the box about it stands open.
+    layout.silent = {{1, 11, 32 + 5}};
+    int boxes = 0;
+    messageBox.whileShown = [&] {
+        ++boxes;
+        EXPECT_EQ(Field("dlgZelvarStatus44", "txtSysVer"), "KB-G 1.02");
+        EXPECT_EQ(Field("dlgZelvarStatus44", "txtVDstatus(0)"), "OK") << "it has answered again";
+        EXPECT_EQ(Field("dlgZelvarStatus44", "txtVDstatus(5)"), "--") << "nothing is known of it";
+        EXPECT_EQ(Field("dlgZelvarStatus44", "txtVDtype(19)"), "--") << "it is not asked yet";
+        EXPECT_EQ(Field("dlgZelvarStatus44", "txtJSstatus(0)"), "--");
+    };
+    Click("cmdStatus");
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(Field("dlgZelvarStatus44", "txtVDtype(19)"), "VD60");
+}
+
+TEST_F(StatusButton, AnOpenClassicViewShowsEachStepToo) {
+    const auto press = [this] {
+        QTest::mousePress(&Find("cmdStatus"), Qt::LeftButton, Qt::ShiftModifier);
+    };
+    layout.tables = {
+        {0, {15}}, {2, {1, 0, 0, 0}}, {3, {0, 0, 0, 0}}, {4, {0, 0, 0, 0}}, {6, {1, 0}}};
+    press();
+    ASSERT_EQ(Field("dlgZelvarStatus", "txtVDtype(0)"), "VD-F");
+    layout.silent = {{1, 3, 4}};
+    int boxes = 0;
+    messageBox.whileShown = [&] {
+        ++boxes;
+        EXPECT_EQ(Field("dlgZelvarStatus", "txtDIP(0)"), "Off");
+        EXPECT_EQ(Field("dlgZelvarStatus", "txtVDstatus(0)"), "OK");
+        EXPECT_EQ(Field("dlgZelvarStatus", "txtVDtype(0)"), "?");
+        EXPECT_EQ(Field("dlgZelvarStatus", "txtJSstatus(0)"), "?");
+    };
+    press();
+    EXPECT_EQ(boxes, 1);
+}
+
+TEST_F(StatusButton, ALostDeviceLeavesTheListsThatWereNotReached) {
+    Click("cmdStatus");
+    const auto traction = Entries("cboVD");
+    const auto pointMotors = Entries("cboJS");
+    port.ForgetSent();
+    port.responder = [this](const SentFrame& frame) {
+        if (port.sent.size() == 5) {
+            port.Vanish();
+        }
+        return layout(frame);
+    };
+    Click("cmdStatus");
+    EXPECT_EQ(Entries("cboVD"), traction);
+    EXPECT_EQ(Entries("cboJS"), pointMotors);
+    EXPECT_EQ(Field("dlgZelvarStatus44", "txtVDstatus(0)"), "OK") << "found before the loss";
+    EXPECT_EQ(Field("dlgZelvarStatus44", "txtVDstatus(5)"), "--");
+    EXPECT_EQ(messageBox.shown.size(), 1U);
+}
+
+TEST_F(StatusButton, ADeviceLostInTheFirstRequestBringsNoView) {
+    port.responder = [this](const SentFrame& frame) {
+        if (port.sent.size() == 5) {
+            port.Vanish();
+        }
+        return layout(frame);
+    };
+    Click("cmdStatus");
+    EXPECT_FALSE(IsInView("dlgZelvarStatus44"));
+}
+
 }  // namespace
 }  // namespace zelvar::testing

@@ -46,14 +46,14 @@ TEST_F(AskModuleTest, SendsNothingMoreWhenExactlyTwoSecondsHavePassed) {
 }
 
 TEST_F(AskModuleTest, GivesUpWhenTheClockFallsBackAtMidnight) {
-    port.responder = [this](const SentFrame& frame) {
-        clock.now = frame.values.empty() ? 0.0 : clock.now;
-        return EmptyReply();
-    };
     port.replyDelay = 0;
     clock.now = kSecondsPerDay - 0.5;
-    EXPECT_EQ(AskModule(link, clock, {1, {3}}, [](const Reply&) { return false; }),
-              Awaited::Silence);
+    int replies = 0;
+    const auto midnightPassesBeforeTheSecond = [&](const Reply&) {
+        clock.now = ++replies == 2 ? 0.0 : clock.now;
+        return false;
+    };
+    EXPECT_EQ(AskModule(link, clock, {1, {3}}, midnightPassesBeforeTheSecond), Awaited::Silence);
     EXPECT_EQ(port.SentValues(), (std::vector<std::vector<int>>{{3}, {}}));
 }
 

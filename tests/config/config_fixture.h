@@ -35,8 +35,7 @@ inline ModuleRegistry MixedRegistry() {
 /// The link with everything that the rooms need around it.
 class ConfigFixture : public LinkFixture {
   protected:
-    HandlerGate gate;
-    Services services{link, messageBox, progress, clock, gate};
+    Services services{link, messageBox, progress, clock};
 };
 
 /// The modules' side of an exchange in which answers may come with a later poll.

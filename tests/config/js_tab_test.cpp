@@ -147,9 +147,9 @@ TEST_F(JSTabTest, AReportCanBeSelectedButNotChanged) {
     auto& report = Find<QPlainTextEdit>("textJSReport");
     EXPECT_TRUE(report.isReadOnly());
     EXPECT_TRUE(report.textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard));
-    // The font comes once the window is painted.
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return report.font().family() == QStringLiteral("Lucida Console"); }));
+    AnswerReport();
+    Click("cmdGetJSConfig");
+    EXPECT_EQ(report.font().family(), QStringLiteral("Lucida Console"));
 }
 
 TEST_F(JSTabTest, AReportThatFailsIsNotShownNorAnOlderOne) {

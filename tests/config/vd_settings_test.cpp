@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 #include "config_fixture.h"
@@ -14,7 +15,7 @@
 namespace zelvar::testing {
 namespace {
 
-const VDSetting& SettingOf(const std::string& frame) {
+const VDSetting& SettingOf(std::string_view frame) {
     const auto& settings = VDSettings();
     const auto found = std::find_if(settings.begin(), settings.end(),
                                     [&](const VDSetting& row) { return row.frame == frame; });

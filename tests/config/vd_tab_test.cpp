@@ -158,6 +158,18 @@ TEST_F(VDTabTest, ASwitchDelayOfAVDFIsBothBanks) {
                                          {}}));
 }
 
+TEST_F(VDTabTest, WhenTheDeviceVanishesAmongSeveralCommandsTheRestIsSilent) {
+    port.responder = [this](const SentFrame& frame) {
+        if (frame.values == Values{0, 37, 8, 5}) {
+            port.Vanish();
+        }
+        return EmptyReply();
+    };
+    Click("cmdSW(1)");
+    EXPECT_EQ(port.SentValues(), (Frames{{}, {0, 37, 8, 4}, {}, {}, {0, 37, 8, 5}}));
+    EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
+}
+
 TEST_F(VDTabTest, AGroupReachesEachOfItsModules) {
     Choose("cboVD", "All_VD60");
     Click("cmdHFI(0)");

@@ -13,6 +13,7 @@
 #include <functional>
 #include <vector>
 
+#include "platform/nested_loop.h"
 #include "platform/qt_message_box.h"
 #include "test/locomotives/drive_fixture.h"
 
@@ -35,17 +36,17 @@ class SpeedSliderTest : public ::testing::Test {
   protected:
     SpeedSliderTest() {
         auto* layout = new QVBoxLayout(&window);
-        slider = new OpenSlider(gate, 63, &window);
+        slider = new OpenSlider(63, &window);
         slider->setMinimumWidth(400);
         button = new QPushButton(QStringLiteral("Other"), &window);
         layout->addWidget(slider);
         layout->addWidget(button);
-        QObject::connect(slider, &SpeedSlider::Change, slider, gate.Handler([this] {
+        QObject::connect(slider, &SpeedSlider::Change, slider, [this] {
             reported.push_back(slider->value());
             if (whileSending) {
                 whileSending();
             }
-        }));
+        });
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
@@ -73,7 +74,6 @@ class SpeedSliderTest : public ::testing::Test {
         return QTest::qWaitFor([&] { return reported.size() >= count; }, kLimit);
     }
 
-    HandlerGate gate;
     QWidget window;
     OpenSlider* slider = nullptr;
     QPushButton* button = nullptr;
@@ -171,9 +171,9 @@ TEST_F(SpeedSliderTest, SendsTheLastValueAlsoAfterTheMouseIsReleased) {
     EXPECT_EQ(reported, (Values{9}));
 }
 
-TEST_F(SpeedSliderTest, WaitsWhileAnotherHandlerRuns) {
+TEST_F(SpeedSliderTest, WaitsWhileAHandlerLetsTheEventLoopTurn) {
     {
-        const HandlerGate::Scope busy(gate);
+        const NestedLoop nested;
         Press();
         MoveTo(9);
         Settle();

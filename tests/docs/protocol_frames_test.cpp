@@ -50,8 +50,8 @@ sim::Layout DocumentedLayout() {
     constexpr int VDType::QlrxS = static_cast<int>(sim::TractionType::kQlrxS);
     sim::Layout layout;
     const auto put = [&layout](int address, int type, ModuleState state, int version, int mode) {
-        layout.At(address) = {sim::StatusByte(type, state), version,
-                              static_cast<std::uint8_t>(mode), 0};
+        layout.At(address) = {sim::StatusByte(type, state), version};
+        layout.At(address).settings[sim::kMasterSlaveParameter] = static_cast<std::uint8_t>(mode);
     };
     put(32 + 5, VDType::VdF, ModuleState::kOk, 1023, 1);
     put(32 + 8, VDType::QlrxS, ModuleState::kFault, 1102, 0);

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "sim/console/state_listing.h"
 #include "sim/test_layouts.h"
 #include "sim/unit/central_unit.h"
 
@@ -55,7 +56,8 @@ class UnitFixture : public testing::Test {
 
     /// What the listing says of `name`; "none" when it does not mention it.
     std::string Listed(const std::string& name) {
-        std::istringstream lines(unit_.Describe(now_));
+        unit_.Advance(now_);
+        std::istringstream lines(StateListing(unit_.state()));
         for (std::string line; std::getline(lines, line);) {
             if (line.starts_with(name + "=")) {
                 return line.substr(name.size() + 1);

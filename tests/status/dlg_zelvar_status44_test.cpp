@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "status/status_request.h"
+#include "support/recording_view.h"
 #include "support/status_responder.h"
 #include "support/window_fixture.h"
 
@@ -242,7 +243,9 @@ class FilledNewView : public LinkFixture {
         return FindBelow<QLineEdit>(view, name.c_str()).text().toStdString();
     }
 
+    RecordingView requestView;
     ModuleRegistry registry;
+    RecordingView requestView;
     DlgZelvarStatus44 view;
 };
 

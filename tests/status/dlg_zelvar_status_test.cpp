@@ -7,6 +7,7 @@
 #include <string>
 
 #include "status/status_request.h"
+#include "support/recording_view.h"
 #include "support/status_responder.h"
 #include "support/window_fixture.h"
 
@@ -42,7 +43,9 @@ class ClassicView : public LinkFixture {
         view.Show(*status);
     }
 
+    RecordingView requestView;
     ModuleRegistry registry;
+    RecordingView requestView;
     DlgZelvarStatus view;
 };
 

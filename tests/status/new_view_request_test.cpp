@@ -81,19 +81,17 @@ TEST_F(NewViewRequest, AMixedLayoutIsReadIntoTheReport) {
 TEST_F(NewViewRequest, AMixedLayoutFillsTheRegistry) {
     layout = MixedLayout();
     ASSERT_TRUE(Run());
-    std::array<std::int16_t, 65> types{};
-    types.fill(-1);
-    types[0] = 1;
-    types[5] = 3;
-    types[19] = 3;
-    types[51] = 3;
-    types[20] = 2;
-    types[31] = 0;
+    std::array<VDType, 64> types{};
+    types[0] = VDType::VdF;
+    types[5] = VDType::Vd60;
+    types[19] = VDType::Vd60;
+    types[51] = VDType::Vd60;
+    types[20] = VDType::QlrxS;
+    types[31] = VDType::Unknown;
     EXPECT_EQ(registry.vdTypes, types);
-    std::array<std::int16_t, 17> present{};
-    present.fill(-1);
-    present[0] = 1;
-    present[9] = 1;
+    std::array<bool, 16> present{};
+    present[0] = true;
+    present[9] = true;
     EXPECT_EQ(registry.jsPresent, present);
 }
 

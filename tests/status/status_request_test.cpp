@@ -13,6 +13,7 @@ namespace zelvar::testing {
 namespace {
 
 using Requests = std::vector<std::vector<int>>;
+using Notes = std::vector<std::pair<std::string, std::size_t>>;
 
 const std::vector<int> kEmpty{};
 
@@ -203,24 +204,83 @@ TEST_F(StatusRequestTest, ADeviceThatVanishesDuringTheWaitEndsIt) {
         }
         return layout(frame);
     };
-    link.BeginHandler();
     EXPECT_FALSE(Run());
     EXPECT_EQ(port.sent.size(), 4U);
     EXPECT_EQ(messageBox.shown.size(), 1U);
 }
 
-TEST_F(StatusRequestTest, ADeviceThatVanishesAmongTheModulesIsToldOnceAndNothingMoreIsSent) {
+TEST_F(StatusRequestTest, ADeviceThatVanishesAmongTheModulesEndsItWithOneBox) {
+    layout = MixedLayout();
     port.responder = [&](const SentFrame& frame) {
         if (port.sent.size() == 10) {
             port.Vanish();
         }
         return layout(frame);
     };
-    link.BeginHandler();
-    Run();
+    EXPECT_FALSE(Run());
     EXPECT_EQ(port.sent.size(), 10U);
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
     EXPECT_FALSE(timer.enabled);
+    // What was found stays in view; the lists were not reached.
+    EXPECT_EQ(requestView.shown.back().vdTypes[5], VDType::Vd60);
+    EXPECT_EQ(requestView.notes, (Notes{{"unit", 2}}));
+}
+
+TEST_F(StatusRequestTest, ADeviceThatVanishesWithTheLastPollEndsItToo) {
+    const auto all = [this] {
+        port.ForgetSent();
+        Run();
+        return port.sent.size();
+    }();
+    port.ForgetSent();
+    port.responder = [&](const SentFrame& frame) {
+        if (port.sent.size() == all) {
+            port.Vanish();
+        }
+        return layout(frame);
+    };
+    EXPECT_FALSE(Run());
+}
+
+TEST_F(StatusRequestTest, TheUnitAndTheListsAreShownBeforeTheNextFamilyIsAsked) {
+    layout = MixedLayout();
+    ASSERT_TRUE(Run());
+    // Two questions about the unit, 32 traction modules with two second units, 16 point motors.
+    EXPECT_EQ(requestView.notes, (Notes{{"unit", 2}, {"traction", 36}, {"points", 52}}));
+}
+
+TEST_F(StatusRequestTest, TheClassicListsAreShownBeforeTheNextTableIsAsked) {
+    ASSERT_TRUE(Run(true));
+    EXPECT_EQ(requestView.notes,
+              (Notes{{"unit", 2}, {"classic traction", 6}, {"classic points", 7}}));
+}
+
+TEST_F(StatusRequestTest, EveryModuleIsShownWhenItHasAnsweredAndNotBefore) {
+    layout = MixedLayout();
+    ASSERT_TRUE(Run());
+    const std::vector<SystemStatus>& shown = requestView.shown;
+    ASSERT_EQ(shown.size(), 1U + 32 + 16 + 32);
+    // The first one has everything cleared but what is known of the system.
+    EXPECT_EQ(shown[0].protocolVersion, 3112);
+    EXPECT_EQ(shown[0].unit.type, 3);
+    for (const std::size_t line : {0U, 5U, 19U, 20U, 31U}) {
+        EXPECT_EQ(shown[line].vdTypes[line], VDType::Absent) << line;
+        EXPECT_EQ(shown[line + 1].vdTypes[line], shown.back().vdTypes[line]) << line;
+        EXPECT_NE(shown[line + 1].vd[line].state, ModuleState::Absent) << line;
+    }
+    EXPECT_EQ(shown[32 + 9].js[9].state, ModuleState::Absent);
+    EXPECT_EQ(shown[32 + 10].js[9].state, ModuleState::Hold);
+    EXPECT_EQ(shown[48 + 17].yr[17].state, ModuleState::Absent);
+    EXPECT_EQ(shown[48 + 18].yr[17].state, ModuleState::Idle);
+}
+
+TEST_F(StatusRequestTest, ACancelledWaitShowsNothing) {
+    layout.instead[{1, 2}] = {};
+    progress.cancelAfterAsked = 0;
+    port.replyDelay = 0.4;
+    EXPECT_FALSE(Run());
+    EXPECT_TRUE(requestView.shown.empty());
+    EXPECT_TRUE(requestView.notes.empty());
 }
 
 TEST_F(StatusRequestTest, ACentralUnitThatDoesNotAnswerStaysUnknown) {

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "platform/nested_loop.h"
+
 namespace zelvar::testing {
 
 Bytes WireFrame(const std::vector<int>& values, int header) {
@@ -151,6 +153,7 @@ void PrintTo(const ShownBox& box, std::ostream* out) {
 BoxAnswer FakeMessageBox::Ask(const std::string& text, BoxIcon icon, BoxButtons buttons) {
     shown.push_back({text, icon, buttons});
     if (whileShown) {
+        const NestedLoop nested;
         whileShown();
     }
     if (buttons == BoxButtons::Ok) {

@@ -56,11 +56,9 @@ void WindowHands::ShowWindowOn(SerialPort& line, MessageBox& boxes) {
     const auto description = [path](int number) {
         return path(number) + QStringLiteral(" (Adapter)");
     };
-    window =
-        std::make_unique<MainWindow>(Platform{line, timer, clock, boxes, gate, path, description});
+    window = std::make_unique<MainWindow>(Platform{line, timer, clock, boxes, path, description});
     window->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    window->BuildTabs();
 }
 
 void WindowHands::ShowTabOf(QWidget& control) {
@@ -142,8 +140,7 @@ bool WindowHands::IsGreen(const std::string& control) {
 }
 
 void WindowHands::Poll(int ticks) {
-    for (int i = 0; i < ticks && timer.enabled && !gate.IsBusy(); ++i) {
-        const HandlerGate::Scope scope(gate);
+    for (int i = 0; i < ticks && timer.enabled && !NestedLoop::IsTurning(); ++i) {
         window->Timer1_Timer();
     }
 }

@@ -16,9 +16,10 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "app/main_window.h"
-#include "platform/handler_gate.h"
+#include "platform/nested_loop.h"
 #include "support/doubles.h"
 
 namespace zelvar::testing {
@@ -28,11 +29,11 @@ std::string NamesBelow(const QWidget& root);
 
 /// A control below a widget. Fails the test, naming what there is, when it is not found.
 template <typename Control = QWidget>
-Control& FindBelow(QWidget& root, const std::string& name) {
-    auto* control = root.findChild<Control*>(QString::fromStdString(name));
+Control& FindBelow(QWidget& root, std::string_view name) {
+    auto* control = root.findChild<Control*>(QString::fromUtf8(name.data(), name.size()));
     if (control == nullptr) {
         ADD_FAILURE() << "no control " << name << " of that kind; there are: " << NamesBelow(root);
-        throw std::runtime_error(name);
+        throw std::runtime_error(std::string(name));
     }
     return *control;
 }
@@ -61,7 +62,7 @@ class WindowHands : public ::testing::Test {
     void ShowWindowOn(SerialPort& line, MessageBox& boxes);
 
     template <typename Control = QWidget>
-    Control& Find(const std::string& name) {
+    Control& Find(std::string_view name) {
         return FindBelow<Control>(*window, name);
     }
 
@@ -95,7 +96,6 @@ class WindowHands : public ::testing::Test {
     FakeClock clock;
     FakeTimer timer;
     FakeMessageBox messageBox;
-    HandlerGate gate;
     std::unique_ptr<MainWindow> window;
 };
 

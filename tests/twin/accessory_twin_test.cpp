@@ -22,7 +22,7 @@ TEST_F(AccessoryTwin, EveryPointOfEveryModuleIsThrownAndSetStraight) {
         port.Connect(EveryKind());
         for (int device = 0; device <= 63; ++device) {
             const std::string point =
-                "module-point." + std::to_string(module) + '.' + std::to_string(device);
+                "point-of-module." + std::to_string(module) + '.' + std::to_string(device);
             ASSERT_EQ(EffectOf(SetModulePoint(module, device, true)), (Changes{{point, 1}}));
             ASSERT_EQ(EffectOf(SetModulePoint(module, device, false)), (Changes{{point, 0}}));
         }

@@ -59,7 +59,7 @@ sim::Layout DescribedLayout::ForTheUnit() const {
     sim::Layout layout = sim::EmptyLayout();
     const auto put = [&](int address, const DescribedModule& module) {
         layout.At(address) = {sim::StatusByte(TypeNumber(module.kind), module.state),
-                              VersionNumber(module.version), 0, 0};
+                              VersionNumber(module.version)};
     };
     for (const auto& [line, module] : traction) {
         put(line < kPrimaryLines ? 32 + line : line - kPrimaryLines, module);

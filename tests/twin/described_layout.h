@@ -11,7 +11,7 @@
 
 namespace zelvar::twin {
 
-enum class Kind { VDType::VdF, kVd60, kQlrxS, kStranger };
+enum class Kind { kVdF, kVd60, kQlrxS, kStranger };
 
 /// A module as somebody beside the layout would describe it.
 struct DescribedModule {

@@ -48,7 +48,7 @@ TEST_P(AnalogForm, TheBlockRunsAsTheFormSaysAndTheReadOutFollows) {
     port.Pass(step / 2);
     EXPECT_EQ(SpeedOf(block), sign * speed);
     Poll(2);
-    EXPECT_EQ(ReadOut(), forward ? ">>%1" : "<<%1".arg(speed));
+    EXPECT_EQ(ReadOut(), (forward ? ">>" : "<<") + std::to_string(speed));
     EXPECT_EQ(EffectOfClick("CheckAnalogDirection"),
               (Changes{{prefix + ".target", -sign * speed}, {prefix + ".forward", !forward}}));
     EXPECT_EQ(EffectOfClick("CheckAnalogLight"), (Changes{{prefix + ".light", 1}}));

@@ -21,7 +21,7 @@ TEST_F(LayoutForms, PointsMoveByTheirModule) {
     for (const int module : {0, 7, 8, 11, 15}) {
         for (const int device : {0, 3, 63}) {
             const std::string point =
-                "module-point." + std::to_string(module) + '.' + std::to_string(device);
+                "point-of-module." + std::to_string(module) + '.' + std::to_string(device);
             Type("txtTestJS70module", module);
             Type("txtTestJS70device", device);
             EXPECT_EQ(EffectOfClick("cmdTestJS70(1)"), (Changes{{point, 1}}));

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include <numeric>
+#include <string>
+#include <string_view>
 
 #include "config/module_commands.h"
 #include "config/selection_list.h"
@@ -47,13 +49,13 @@ std::vector<ParameterRow> ParameterRows() {
     return rows;
 }
 
-const VDSetting& SettingIn(const std::string& frame) {
+const VDSetting& SettingIn(std::string_view frame) {
     for (const VDSetting& setting : VDSettings()) {
         if (frame == setting.frame) {
             return setting;
         }
     }
-    throw std::runtime_error("no setting in " + frame);
+    throw std::runtime_error("no setting in " + std::string(frame));
 }
 
 /// Lines with a module: VD-F, VD60 first and second unit, QLRX-s, on both channels.

@@ -48,8 +48,7 @@ class TwinLink : public ::testing::Test {
     testing::FakeLinkView view;
     testing::FakeProgress progress;
     Link link{port, timer, clock, messageBox, view};
-    HandlerGate gate;
-    Services services{link, messageBox, progress, clock, gate};
+    Services services{link, messageBox, progress, clock};
     testing::RecordingView requestView;
     /// To the last `Do`.
     std::optional<Reply> reply;

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <sstream>
 
+#include "sim/console/state_listing.h"
+
 namespace zelvar::twin {
 
 namespace {
@@ -80,7 +82,8 @@ void TwinPort::Pass(std::chrono::milliseconds time) {
 }
 
 std::string TwinPort::Listed(const std::string& name) {
-    std::istringstream lines(unit_->Describe(Now()));
+    unit_->Advance(Now());
+    std::istringstream lines(sim::StateListing(unit_->state()));
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with(name + "=")) {
             return line.substr(name.size() + 1);

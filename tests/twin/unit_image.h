@@ -4,32 +4,45 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "sim/unit/unit_state.h"
+#include "sim/console/state_walk.h"
 
 namespace zelvar::twin {
 
-/// What has become of the unit's state, by name: "traction.37.permanent.4",
-/// "points.9.active.5.time", "configuration.active", "block.200.target" (below 0 in reverse),
-/// "dcc.long.1000.functions" (bit n is Fn), "mcc.7.half-steps", "link.3.4" (1 inverted),
-/// "point.300", "aspect.2.10", "hfi" and so on.
+/// What changed in the unit's state, by name: "traction.37.permanent.4", "points.9.active.5.time",
+/// "configuration.active", "block.200.target" (below 0 in reverse), "dcc.long.1000.functions" (bit
+/// n is Fn), "mcc.7.half-steps", "link.3.4" (1 inverted), "point.300", "aspect.2.10", "hfi" and so
+/// on.
 using Changes = std::map<std::string, int>;
 
-/// The value of something that is there no more.
+/// The value of something that is not there any more.
 inline constexpr int kGone = -1000;
 
 /// The unit's state at one moment.
-class UnitImage {
+class UnitImage : private sim::StateView {
   public:
     explicit UnitImage(const sim::UnitState& state);
 
-    /// Everything that is not as it was.
+    /// Everything that is different now.
     Changes ChangesTo(const sim::UnitState& state) const;
 
   private:
-    std::vector<int> fixed_;
-    Changes variable_;
+    struct Entry {
+        sim::StateName item;
+        sim::StateName value;
+        int number;
+
+        bool SameName(const Entry& other) const;
+        std::string Name() const;
+    };
+
+    void Open(std::string_view, const sim::StateName& name) override { item_ = name; }
+    void Take(const sim::StateValue& value) override;
+
+    sim::StateName item_;
+    std::vector<Entry> entries_;
 };
 
 }  // namespace zelvar::twin

@@ -47,9 +47,8 @@ constexpr FieldRow kOutputParameter{"UpDownTestGW70parameter", "txtTestGW70param
 constexpr GroupNames kOutputNames{"lblTestGW70", "cmdTestGW70", "Set GW70",
                                   "Give the instruction to the GW70"};
 
-SpinField* Field(const FieldRow& row, HandlerGate& gate, QWidget* parent) {
-    return ClampedField(gate, Text(row.spin), Text(row.field), Text(row.inWords), 0, row.maximum,
-                        parent);
+SpinField* Field(const FieldRow& row, QWidget* parent) {
+    return ClampedField(Text(row.spin), Text(row.field), Text(row.inWords), 0, row.maximum, parent);
 }
 
 /// Fields with their captions side by side. @return the button below them
@@ -75,15 +74,14 @@ QPushButton* LayOutGroup(QWidget* group, const GroupNames& names,
 SignalGroup::SignalGroup(const Services& services, QWidget* parent)
     : QGroupBox(QStringLiteral("Signals (YR70)"), parent),
       services_(services),
-      UpDownTestYR70module_(Field(kSignalModule, services.gate, this)),
-      UpDownTestYR70pin_(Field(kSignalPin, services.gate, this)),
-      UpDownTestYR70aspect_(Field(kSignalAspect, services.gate, this)) {
+      UpDownTestYR70module_(Field(kSignalModule, this)),
+      UpDownTestYR70pin_(Field(kSignalPin, this)),
+      UpDownTestYR70aspect_(Field(kSignalAspect, this)) {
     const QPushButton* button = LayOutGroup(this, kSignalNames,
                                             {{{&kSignalModule, UpDownTestYR70module_},
                                               {&kSignalPin, UpDownTestYR70pin_},
                                               {&kSignalAspect, UpDownTestYR70aspect_}}});
-    connect(button, &QPushButton::clicked, this,
-            services.gate.Handler([this](bool) { cmdTestYR70_Click(); }));
+    connect(button, &QPushButton::clicked, this, [this] { cmdTestYR70_Click(); });
 }
 
 void SignalGroup::cmdTestYR70_Click() {
@@ -97,15 +95,14 @@ void SignalGroup::cmdTestYR70_Click() {
 OutputGroup::OutputGroup(const Services& services, QWidget* parent)
     : QGroupBox(QStringLiteral("Outputs (GW70)"), parent),
       services_(services),
-      UpDownTestGW70instruction_(Field(kOutputInstruction, services.gate, this)),
-      UpDownTestGW70output_(Field(kOutputNumber, services.gate, this)),
-      UpDownTestGW70parameter_(Field(kOutputParameter, services.gate, this)) {
+      UpDownTestGW70instruction_(Field(kOutputInstruction, this)),
+      UpDownTestGW70output_(Field(kOutputNumber, this)),
+      UpDownTestGW70parameter_(Field(kOutputParameter, this)) {
     const QPushButton* button = LayOutGroup(this, kOutputNames,
                                             {{{&kOutputInstruction, UpDownTestGW70instruction_},
                                               {&kOutputNumber, UpDownTestGW70output_},
                                               {&kOutputParameter, UpDownTestGW70parameter_}}});
-    connect(button, &QPushButton::clicked, this,
-            services.gate.Handler([this](bool) { cmdTestGW70_Click(); }));
+    connect(button, &QPushButton::clicked, this, [this] { cmdTestGW70_Click(); });
 }
 
 void OutputGroup::cmdTestGW70_Click() {

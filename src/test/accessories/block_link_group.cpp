@@ -15,9 +15,8 @@ constexpr int kLastBlock = 255;
 
 enum LinkButton { kLinkBlocks, kLinkInverted, kUnlinkDown, kUnlinkUp };
 
-SpinField* BlockField(HandlerGate& gate, int index, QWidget* parent) {
-    return ClampedField(gate, IndexedName("UpDownTestLink", index),
-                        IndexedName("txtTestLink", index),
+SpinField* BlockField(int index, QWidget* parent) {
+    return ClampedField(IndexedName("UpDownTestLink", index), IndexedName("txtTestLink", index),
                         index == 0 ? QStringLiteral("First block") : QStringLiteral("Second block"),
                         0, kLastBlock, parent);
 }
@@ -32,7 +31,7 @@ QPushButton* LinkButtonOf(int index, const char* caption, QWidget* parent) {
 BlockLinkGroup::BlockLinkGroup(const Services& services, QWidget* parent)
     : QGroupBox(QStringLiteral("Block links"), parent),
       services_(services),
-      UpDownTestLink_{BlockField(services.gate, 0, this), BlockField(services.gate, 1, this)},
+      UpDownTestLink_{BlockField(0, this), BlockField(1, this)},
       chkTestUnlinkZero_(Named(new QCheckBox(QStringLiteral("Clear unlinked blocks"), this),
                                "chkTestUnlinkZero", "Clear unlinked blocks")),
       CommandTestLink_{LinkButtonOf(kLinkBlocks, "Link Blocks", this),
@@ -42,7 +41,7 @@ BlockLinkGroup::BlockLinkGroup(const Services& services, QWidget* parent)
     LayOut();
     for (int index = 0; index < kButtons; ++index) {
         connect(CommandTestLink_[index], &QPushButton::clicked, this,
-                services.gate.Handler([this, index](bool) { CommandTestLink_Click(index); }));
+                [this, index] { CommandTestLink_Click(index); });
     }
 }
 

@@ -24,10 +24,10 @@ PointGroup::PointGroup(const Services& services, QWidget* parent)
                                      "chkTestJS70selectmodule", "Name the point motor by module")),
       lblTestJS70_{CaptionLabel(IndexedName("lblTestJS70", 0), QStringLiteral("JS70 Device"), this),
                    CaptionLabel(IndexedName("lblTestJS70", 1), QStringLiteral("Device"), this)},
-      UpDowntestJS70module_(ClampedField(services.gate, QStringLiteral("UpDowntestJS70module"),
+      UpDowntestJS70module_(ClampedField(QStringLiteral("UpDowntestJS70module"),
                                          QStringLiteral("txtTestJS70module"),
                                          QStringLiteral("JS70 module"), 0, kLastModule, this)),
-      UpDownTestJS70device_(ClampedField(services.gate, QStringLiteral("UpDownTestJS70device"),
+      UpDownTestJS70device_(ClampedField(QStringLiteral("UpDownTestJS70device"),
                                          QStringLiteral("txtTestJS70device"),
                                          QStringLiteral("JS70 device"), 0, kLastDevice, this)),
       cmdTestJS70_{Named(new QPushButton(QStringLiteral("Straight"), this),
@@ -36,10 +36,10 @@ PointGroup::PointGroup(const Services& services, QWidget* parent)
                          IndexedName("cmdTestJS70", 1), QStringLiteral("Set the point thrown"))} {
     LayOut();
     connect(chkTestJS70selectmodule_, &QCheckBox::toggled, this,
-            services.gate.Handler([this](bool) { chkTestJS70selectmodule_Click(); }));
+            &PointGroup::chkTestJS70selectmodule_Click);
     for (int index : {0, 1}) {
         connect(cmdTestJS70_[index], &QPushButton::clicked, this,
-                services.gate.Handler([this, index](bool) { cmdTestJS70_Click(index); }));
+                [this, index] { cmdTestJS70_Click(index); });
     }
     chkTestJS70selectmodule_Click();
 }

@@ -49,9 +49,8 @@ QPalette GroundPalette(const QColor& ground) {
 
 }  // namespace
 
-DlgZelvarFeedback::DlgZelvarFeedback(HandlerGate& gate)
+DlgZelvarFeedback::DlgZelvarFeedback()
     : SecondaryWindow(QStringLiteral("dlgZelvarFeedback"), QStringLiteral("Feedback Monitor")),
-      gate_(gate),
       lblFBbase_(Named(new QLabel(this), "lblFBbase", "Number of the first input")),
       UpDownFBbase_(Named(new UpDown(lblFBbase_, 0, FeedbackMaximumBase(0), this), "UpDownFBbase",
                           "Number of the first input")),
@@ -65,9 +64,8 @@ DlgZelvarFeedback::DlgZelvarFeedback(HandlerGate& gate)
     layout->addLayout(grid);
     layout->addLayout(BuildLegend());
     layout->addStretch();
-    connect(UpDownFBbase_, &UpDown::Change, this, gate.Handler([this] { LayOutLabels(); }));
-    connect(cmdFBMrefresh_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdFBMrefresh_Click(); }));
+    connect(UpDownFBbase_, &UpDown::Change, this, &DlgZelvarFeedback::LayOutLabels);
+    connect(cmdFBMrefresh_, &QPushButton::clicked, this, &DlgZelvarFeedback::cmdFBMrefresh_Click);
     LayOutLabels();
 }
 
@@ -105,12 +103,11 @@ QLayout* DlgZelvarFeedback::BuildChoices() {
     opFBmod_[0]->setChecked(true);
     for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
         const int index = static_cast<int>(i);
-        connect(opFBmod_[i], &QRadioButton::toggled, this,
-                gate_.Handler([this, index](bool chosen) {
-                    if (chosen) {
-                        opFBmod_Click(index);
-                    }
-                }));
+        connect(opFBmod_[i], &QRadioButton::toggled, this, [this, index](bool chosen) {
+            if (chosen) {
+                opFBmod_Click(index);
+            }
+        });
     }
     row->addStretch();
     lblFBbase_->setFrameStyle(QFrame::Panel | QFrame::Sunken);

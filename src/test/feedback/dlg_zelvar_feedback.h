@@ -12,7 +12,6 @@
 
 #include "controls/label_stepper.h"
 #include "controls/secondary_window.h"
-#include "platform/handler_gate.h"
 #include "protocol/reports.h"
 #include "test/feedback/feedback_table.h"
 
@@ -24,7 +23,7 @@ class DlgZelvarFeedback : public SecondaryWindow {
     Q_OBJECT
 
   public:
-    explicit DlgZelvarFeedback(HandlerGate& gate);
+    DlgZelvarFeedback();
 
     /// Stores the state of an input and recolours the label that shows it.
     /// @return false, with nothing changed, for an index outside 0..2048
@@ -63,7 +62,6 @@ class DlgZelvarFeedback : public SecondaryWindow {
     int Layout() const;
     int Base() const { return UpDownFBbase_->Value(); }
 
-    HandlerGate& gate_;
     FeedbackTable table_;
     std::array<QPalette, kLooks> palettes_;
     std::array<Cell, static_cast<std::size_t>(kFeedbackLabels)> lblFBM_;

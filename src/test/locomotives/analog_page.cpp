@@ -32,22 +32,20 @@ QLabel* Caption(int index, const char* caption, QWidget* parent) {
 AnalogPage::AnalogPage(DriveDesk& desk, QWidget* parent)
     : QWidget(parent),
       desk_(desk),
-      AnalogSpeed_(Named(new SpeedSlider(desk.services.gate, kTopSpeed, this), "AnalogSpeed",
-                         "Analog speed")),
+      AnalogSpeed_(Named(new SpeedSlider(kTopSpeed, this), "AnalogSpeed", "Analog speed")),
       CheckAnalogDirection_(Named(new QCheckBox(QStringLiteral("Forward"), this),
                                   "CheckAnalogDirection", "Analog locomotive runs forward")),
       CheckAnalogLight_(Named(new QCheckBox(QStringLiteral("     Light"), this), "CheckAnalogLight",
                               "Light of the analog locomotive")),
       lblTestAnalog_{Caption(0, "Analog Speed", this), Caption(1, "Acceleration", this),
                      Caption(2, "HFI = System global setting", this)},
-      UpDownTestAcceleration_(ClampedField(desk.services.gate,
-                                           QStringLiteral("UpDownTestAcceleration"),
+      UpDownTestAcceleration_(ClampedField(QStringLiteral("UpDownTestAcceleration"),
                                            QStringLiteral("txtTestAcceleration"),
                                            QStringLiteral("Acceleration of the analog locomotive"),
                                            0, kTopAcceleration, this, lblTestAnalog_[1])),
-      UpDownTestHFI_(ClampedField(desk.services.gate, QStringLiteral("UpDownTestHFI"),
-                                  QStringLiteral("txtTestHFI"), QStringLiteral("HFI of the system"),
-                                  0, kTopHfi, this, lblTestAnalog_[2])),
+      UpDownTestHFI_(ClampedField(QStringLiteral("UpDownTestHFI"), QStringLiteral("txtTestHFI"),
+                                  QStringLiteral("HFI of the system"), 0, kTopHfi, this,
+                                  lblTestAnalog_[2])),
       CommandSetHFI_(Named(new QPushButton(QStringLiteral("Set HFI"), this), "CommandSetHFI",
                            "Set the HFI of the system")),
       cmdEstopAnalog_(
@@ -89,17 +87,12 @@ void AnalogPage::LayOut() {
 }
 
 void AnalogPage::ConnectControls() {
-    HandlerGate& gate = desk_.services.gate;
-    connect(AnalogSpeed_, &SpeedSlider::Change, this,
-            gate.Handler([this] { AnalogSpeed_Change(); }));
+    connect(AnalogSpeed_, &SpeedSlider::Change, this, &AnalogPage::AnalogSpeed_Change);
     connect(CheckAnalogDirection_, &QCheckBox::toggled, this,
-            gate.Handler([this](bool) { CheckAnalogDirection_Click(); }));
-    connect(CheckAnalogLight_, &QCheckBox::toggled, this,
-            gate.Handler([this](bool) { CheckAnalogLight_Click(); }));
-    connect(CommandSetHFI_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { CommandSetHFI_Click(); }));
-    connect(cmdEstopAnalog_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdEstopAnalog_Click(); }));
+            &AnalogPage::CheckAnalogDirection_Click);
+    connect(CheckAnalogLight_, &QCheckBox::toggled, this, &AnalogPage::CheckAnalogLight_Click);
+    connect(CommandSetHFI_, &QPushButton::clicked, this, &AnalogPage::CommandSetHFI_Click);
+    connect(cmdEstopAnalog_, &QPushButton::clicked, this, &AnalogPage::cmdEstopAnalog_Click);
 }
 
 void AnalogPage::ShowSpeed(const QString& text) {

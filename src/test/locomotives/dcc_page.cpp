@@ -40,8 +40,7 @@ QLabel* Caption(int index, const char* caption, QWidget* parent) {
 DccPage::DccPage(DriveDesk& desk, QWidget* parent)
     : QWidget(parent),
       desk_(desk),
-      DCCSpeed_(Named(new SpeedSlider(desk.services.gate, kDccTopSpeed28, this), "DCCSpeed",
-                      "DCC speed")),
+      DCCSpeed_(Named(new SpeedSlider(kDccTopSpeed28, this), "DCCSpeed", "DCC speed")),
       CheckDCCDirection_(Named(new QCheckBox(QStringLiteral("Forward"), this), "CheckDCCDirection",
                                "DCC locomotive runs forward")),
       CheckDCC126_(Named(new QCheckBox(QStringLiteral("126 Steps"), this), "CheckDCC126",
@@ -49,9 +48,9 @@ DccPage::DccPage(DriveDesk& desk, QWidget* parent)
       CheckDCCForceLong_(Named(new QCheckBox(QStringLiteral("DCC Long Address"), this),
                                "CheckDCCForceLong", "Always use the long DCC address")),
       lblTestDCC_{Caption(0, "Decoder", this), Caption(1, "DCC Speed", this)},
-      UpDownDecoder_(ClampedField(desk.services.gate, QStringLiteral("UpDownDecoder"),
-                                  QStringLiteral("Text_Decoder"), QStringLiteral("DCC decoder"),
-                                  kFirstDecoder, kLastDecoder, this, lblTestDCC_[0])),
+      UpDownDecoder_(ClampedField(QStringLiteral("UpDownDecoder"), QStringLiteral("Text_Decoder"),
+                                  QStringLiteral("DCC decoder"), kFirstDecoder, kLastDecoder, this,
+                                  lblTestDCC_[0])),
       cmdEstopDCC_(EstopButton("cmdEstopDCC", "Emergency stop of the DCC locomotive", this)) {
     desk_.dccSpeed = DCCSpeed_;
     RestDirection();
@@ -124,17 +123,13 @@ void DccPage::LayOut() {
 }
 
 void DccPage::ConnectControls() {
-    HandlerGate& gate = desk_.services.gate;
-    connect(DCCSpeed_, &SpeedSlider::Change, this, gate.Handler([this] { DCCSpeed_Change(); }));
-    connect(CheckDCCDirection_, &QCheckBox::toggled, this,
-            gate.Handler([this](bool) { CheckDCCDirection_Click(); }));
-    connect(CheckDCC126_, &QCheckBox::toggled, this,
-            gate.Handler([this](bool) { CheckDCC126_Click(); }));
-    connect(cmdEstopDCC_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdEstopDCC_Click(); }));
+    connect(DCCSpeed_, &SpeedSlider::Change, this, &DccPage::DCCSpeed_Change);
+    connect(CheckDCCDirection_, &QCheckBox::toggled, this, &DccPage::CheckDCCDirection_Click);
+    connect(CheckDCC126_, &QCheckBox::toggled, this, &DccPage::CheckDCC126_Click);
+    connect(cmdEstopDCC_, &QPushButton::clicked, this, &DccPage::cmdEstopDCC_Click);
     for (std::size_t i = 0; i < Command1_.size(); ++i) {
         connect(Command1_[i], &QPushButton::clicked, this,
-                gate.Handler([this, i](bool) { Command1_Click(static_cast<int>(i)); }));
+                [this, i] { Command1_Click(static_cast<int>(i)); });
     }
 }
 

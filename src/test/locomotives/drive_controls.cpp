@@ -30,11 +30,10 @@ QLabel* CaptionLabel(const QString& name, const QString& caption, QWidget* paren
     return Named(new QLabel(caption, parent), name, caption);
 }
 
-SpinField* ClampedField(HandlerGate& gate, const QString& spinName, const QString& fieldName,
-                        const QString& inWords, int minimum, int maximum, QWidget* parent,
-                        QLabel* buddy) {
+SpinField* ClampedField(const QString& spinName, const QString& fieldName, const QString& inWords,
+                        int minimum, int maximum, QWidget* parent, QLabel* buddy) {
     auto* field = new SpinField(spinName, fieldName, inWords, minimum, maximum, parent);
-    QObject::connect(field, &SpinField::Change, field, gate.Handler([field] { field->Clamp(); }));
+    QObject::connect(field, &SpinField::Change, field, [field] { field->Clamp(); });
     if (buddy != nullptr) {
         buddy->setBuddy(field);
     }

@@ -36,9 +36,8 @@ QLabel* CaptionLabel(const QString& name, const QString& caption, QWidget* paren
 
 /// A number field whose text is brought into its range whenever it changes.
 /// @param buddy gets the keyboard to the field; may be null
-SpinField* ClampedField(HandlerGate& gate, const QString& spinName, const QString& fieldName,
-                        const QString& inWords, int minimum, int maximum, QWidget* parent,
-                        QLabel* buddy = nullptr);
+SpinField* ClampedField(const QString& spinName, const QString& fieldName, const QString& inWords,
+                        int minimum, int maximum, QWidget* parent, QLabel* buddy = nullptr);
 
 /// The button that stops a locomotive at once: large and red in every theme.
 QPushButton* EstopButton(const char* name, const char* inWords, QWidget* parent);

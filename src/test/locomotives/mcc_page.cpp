@@ -26,18 +26,15 @@ QLabel* Caption(int index, const char* caption, QWidget* parent) {
 MccPage::MccPage(DriveDesk& desk, QWidget* parent)
     : QWidget(parent),
       desk_(desk),
-      MCCspeed_(Named(new SpeedSlider(desk.services.gate, kMccTopSpeed15, this), "MCCspeed",
-                      "MCC speed")),
+      MCCspeed_(Named(new SpeedSlider(kMccTopSpeed15, this), "MCCspeed", "MCC speed")),
       CheckMCC30_(Named(new QCheckBox(QStringLiteral("30 Steps"), this), "CheckMCC30",
                         "Drive with 30 speed steps")),
       lblTestMCC_{Caption(0, "Decoder", this), Caption(1, "MCC Speed", this),
                   Caption(2, "Acceleration", this)},
-      UpDownMCCdecoder_(ClampedField(desk.services.gate, QStringLiteral("UpDownMCCdecoder"),
-                                     QStringLiteral("txtTestMCCdecoder"),
-                                     QStringLiteral("MCC decoder"), 0, kLastDecoder, this,
-                                     lblTestMCC_[0])),
-      UpDownTestMCCacceleration_(ClampedField(desk.services.gate,
-                                              QStringLiteral("UpDownTestMCCacceleration"),
+      UpDownMCCdecoder_(
+          ClampedField(QStringLiteral("UpDownMCCdecoder"), QStringLiteral("txtTestMCCdecoder"),
+                       QStringLiteral("MCC decoder"), 0, kLastDecoder, this, lblTestMCC_[0])),
+      UpDownTestMCCacceleration_(ClampedField(QStringLiteral("UpDownTestMCCacceleration"),
                                               QStringLiteral("txtTestMCCacceleration"),
                                               QStringLiteral("Acceleration of the MCC locomotive"),
                                               0, kTopAcceleration, this, lblTestMCC_[2])),
@@ -90,14 +87,10 @@ void MccPage::LayOut() {
 }
 
 void MccPage::ConnectControls() {
-    HandlerGate& gate = desk_.services.gate;
-    connect(MCCspeed_, &SpeedSlider::Change, this, gate.Handler([this] { MCCspeed_Change(); }));
-    connect(CheckMCC30_, &QCheckBox::toggled, this,
-            gate.Handler([this](bool) { CheckMCC30_Click(); }));
-    connect(cmdTestMCCfunction_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdTestMCCfunction_Click(); }));
-    connect(cmdEstopMCC_, &QPushButton::clicked, this,
-            gate.Handler([this](bool) { cmdEstopMCC_Click(); }));
+    connect(MCCspeed_, &SpeedSlider::Change, this, &MccPage::MCCspeed_Change);
+    connect(CheckMCC30_, &QCheckBox::toggled, this, &MccPage::CheckMCC30_Click);
+    connect(cmdTestMCCfunction_, &QPushButton::clicked, this, &MccPage::cmdTestMCCfunction_Click);
+    connect(cmdEstopMCC_, &QPushButton::clicked, this, &MccPage::cmdEstopMCC_Click);
 }
 
 void MccPage::MCCspeed_Change() {

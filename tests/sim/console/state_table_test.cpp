@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "sim/console/state_table.h"
 
-#include "sim/protocol/names.h"
+#include <algorithm>
+
 #include "sim/unit_fixture.h"
 
 namespace zelvar::sim {
@@ -13,7 +14,7 @@ using Rows = std::vector<std::vector<std::string>>;
 class StateTable : public UnitFixture {
   protected:
     Rows RowsOf(std::string_view heading) {
-        for (const TableSection& section : unit_.Sections(now_)) {
+        for (const TableSection& section : StateSections(unit_.state())) {
             if (section.heading == heading) {
                 return section.rows;
             }
@@ -131,14 +132,6 @@ TEST(RenderSectionsTest, AlignsColumnsAndLeavesOutWhatIsNotThere) {
               "  5      12\n"
               "  200           on\n"
               "\n");
-}
-
-TEST(NamesTest, VersionsHaveALetterForTheirLastDigit) {
-    EXPECT_EQ(VersionName(3112), "3.11 B");
-    EXPECT_EQ(VersionName(3100), "3.10");
-    EXPECT_EQ(VersionName(1007), "1.00 G");
-    EXPECT_EQ(VersionName(0), "none");
-    EXPECT_EQ(DecodeVersion(0x19, 0x0A), 3112);
 }
 
 }  // namespace

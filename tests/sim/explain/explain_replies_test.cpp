@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include "sim/explain/explain.h"
+#include "sim/explain/replies.h"
 #include "sim/unit/commands.h"
 #include "sim/unit_fixture.h"
 
@@ -18,7 +19,7 @@ struct ReplyCase {
 
 class ReplyMeaning : public testing::TestWithParam<ReplyCase> {};
 
-TEST_P(ReplyMeaning, IsToldInTheLightOfItsCommand) {
+TEST_P(ReplyMeaning, DependsOnItsCommand) {
     Conversation conversation;
     conversation.command = GetParam().command;
     EXPECT_EQ(ExplainReplyData(conversation, GetParam().reply), GetParam().words);
@@ -124,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(
         ReplyCase{"Inactive", {}, FeedbackReport(2047, false), "feedback input 2047 is inactive"}),
     [](const auto& row) { return row.param.name; });
 
-/// What the unit itself answers to each command that asks for something is understood.
+/// The unit's own answer to each command that asks for something has its words.
 class OwnAnswer : public UnitFixture {};
 
 TEST_F(OwnAnswer, ToEveryRequestIsWhatWasAskedFor) {
@@ -134,16 +135,26 @@ TEST_F(OwnAnswer, ToEveryRequestIsWhatWasAskedFor) {
                                 {1, 3, 4},     {1, 3, 6},       {96, 5},     {1, 14, 0, 0},
                                 {0, 36, 8, 1}, {0, 36, 24, 75}, {0, 64, 34}, {0, 64, 98, 63}};
     for (const Payload& request : requests) {
-        const CommandWords* words = FindWords(FindCommand(request)->name);
-        ASSERT_NE(words, nullptr);
-        EXPECT_TRUE(words->asks) << words->name;
+        const CommandRow* row = FindCommand(request);
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->asks, Asks::kYes) << row->name;
         Conversation conversation;
         conversation.command = request;
         const std::string meaning = ExplainReplyData(conversation, Ask(request));
         for (const char* bad : {"unknown", "not what", "acknowledged"}) {
-            EXPECT_EQ(meaning.find(bad), std::string::npos) << words->name << ": " << meaning;
+            EXPECT_EQ(meaning.find(bad), std::string::npos) << row->name << ": " << meaning;
         }
     }
+}
+
+TEST(ReplyTableTest, EveryRowHasCompleteWords) {
+    for (const ReplyRow& row : ReplyTable()) {
+        EXPECT_TRUE(row.words.IsComplete()) << row.name;
+    }
+}
+
+TEST(ExplainerTest, ShowsAnUnknownCommandAsItsValues) {
+    EXPECT_EQ(ExplainCommandData({1, 99, 3}), "unknown command, values 1, 99, 3");
 }
 
 TEST(ExplainerTest, LearnsFromAStatusWhatAnAnswerMeans) {
@@ -166,7 +177,7 @@ TEST(ExplainerTest, LearnsFromAStatusWhatAnAnswerMeans) {
     }
 }
 
-TEST(ExplainerTest, TellsTheBitsOfTheHeader) {
+TEST(ExplainerTest, ShowsTheBitsOfTheHeader) {
     Explainer explainer;
     EXPECT_EQ(explainer.Command(EncodeFrame({1, 0}, kHeaderStopBit | kHeaderToggleBit)),
               "reset the fault [stop]");

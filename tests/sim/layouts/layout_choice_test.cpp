@@ -104,7 +104,7 @@ TEST(ShippedLayouts, TheClubHasEveryFamilyOnBothChannelsAndEveryState) {
         }
         families.insert(address / kModulesPerChannel);  // family and channel
         states.insert(slot.status & (kIdleBit | kFaultBit));
-        masters += slot.masterSlave == 1 ? 1 : 0;
+        masters += slot.settings[kMasterSlaveParameter] == 1 ? 1 : 0;
         if (address / kTractionFamily == 1) {
             types.insert(slot.status & kTypeMask);
         }

@@ -9,8 +9,8 @@ namespace {
 
 std::vector<std::size_t> Under(const TrainPath& path) {
     std::vector<std::size_t> sections;
-    for (const Footing& footing : path.sections()) {
-        sections.push_back(footing.section);
+    for (const SectionUnderTrain& under : path.sections()) {
+        sections.push_back(under.section);
     }
     return sections;
 }
@@ -32,15 +32,15 @@ TrackPlan Ring() {
 }
 
 TEST(TrackEnds, APointChoosesTheWay) {
-    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {}), (Footing{kNorth, true}));
-    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {{4, false}}), (Footing{kNorth, true}));
-    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {{4, true}}), (Footing{kSiding, true}));
-    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {{5, true}}), (Footing{kNorth, true}));
+    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {}), (SectionUnderTrain{kNorth, true}));
+    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {{4, false}}), (SectionUnderTrain{kNorth, true}));
+    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {{4, true}}), (SectionUnderTrain{kSiding, true}));
+    EXPECT_EQ(Beyond(LoopPlan(), kWest, true, {{5, true}}), (SectionUnderTrain{kNorth, true}));
 }
 
 TEST(TrackEnds, APointSetAgainstATrainLetsItPass) {
-    EXPECT_EQ(Beyond(LoopPlan(), kNorth, false, {{4, true}}), (Footing{kWest, false}));
-    EXPECT_EQ(Beyond(LoopPlan(), kSiding, true, {{6, false}}), (Footing{kEast, true}));
+    EXPECT_EQ(Beyond(LoopPlan(), kNorth, false, {{4, true}}), (SectionUnderTrain{kWest, false}));
+    EXPECT_EQ(Beyond(LoopPlan(), kSiding, true, {{6, false}}), (SectionUnderTrain{kEast, true}));
 }
 
 TEST(TrackEnds, NothingIsBehindADeadEnd) {
@@ -49,13 +49,13 @@ TEST(TrackEnds, NothingIsBehindADeadEnd) {
 }
 
 TEST(TrackEnds, FrontToFrontTurnsRound) {
-    EXPECT_EQ(Beyond(FrontToFront(), 0, true, {}), (Footing{1, false}));
-    EXPECT_EQ(Beyond(FrontToFront(), 1, true, {}), (Footing{0, false}));
+    EXPECT_EQ(Beyond(FrontToFront(), 0, true, {}), (SectionUnderTrain{1, false}));
+    EXPECT_EQ(Beyond(FrontToFront(), 1, true, {}), (SectionUnderTrain{0, false}));
 }
 
 TEST(TrackEnds, ARingLeadsFromItsFrontToItsBack) {
-    EXPECT_EQ(Beyond(Ring(), 0, true, {}), (Footing{0, true}));
-    EXPECT_EQ(Beyond(Ring(), 0, false, {}), (Footing{0, false}));
+    EXPECT_EQ(Beyond(Ring(), 0, true, {}), (SectionUnderTrain{0, true}));
+    EXPECT_EQ(Beyond(Ring(), 0, false, {}), (SectionUnderTrain{0, false}));
 }
 
 TEST(TrainPath, TheTailLiesInTheSectionsBehind) {
@@ -144,15 +144,15 @@ TEST(TrainPath, TurnedRoundTheNosePointsToTheBack) {
     const TrackPlan plan = FrontToFront();
     TrainPath path(plan, 0, 45, 20, {});
     path.Move(plan, 10, {});
-    EXPECT_EQ(path.sections().front(), (Footing{1, false}));
-    EXPECT_EQ(path.sections().back(), (Footing{0, true}));
+    EXPECT_EQ(path.sections().front(), (SectionUnderTrain{1, false}));
+    EXPECT_EQ(path.sections().back(), (SectionUnderTrain{0, true}));
     EXPECT_EQ(path.Position(plan), 45);
     path.Move(plan, 30, {});
     EXPECT_EQ(Under(path), (Sections{1}));
     EXPECT_EQ(path.Position(plan), 15);
     // Backwards over the same joint the tail goes nose to the front again.
     path.Move(plan, -20, {});
-    EXPECT_EQ(path.sections().back(), (Footing{0, true}));
+    EXPECT_EQ(path.sections().back(), (SectionUnderTrain{0, true}));
 }
 
 TEST(TrainPath, RunsRoundARingOfOneSection) {

@@ -60,7 +60,7 @@ TEST_P(TractionMemory, EraseRestoresTheFactorySettingsOfBothParts) {
     Ask({0, unit.address, 8 + unit.second, 1, 3});
     Ask({0, unit.address, 8 + unit.second, kPermanent + 2, 4});
     EXPECT_EQ(Ask({0, unit.address, 8 + unit.second, kPermanent}), Payload{});
-    const auto& memory = unit_.state().memories.traction[static_cast<std::size_t>(unit.line)];
+    const auto& memory = unit_.state().memories.traction[unit.line];
     EXPECT_EQ(memory.active, FactoryTractionSettings(unit.line));
     EXPECT_EQ(memory.permanent, FactoryTractionSettings(unit.line));
 }
@@ -166,17 +166,6 @@ TEST_F(ModuleMemory, ErasingAPointModuleRestoresBothParts) {
     EXPECT_EQ(Ask({0, 64, 64}), Payload{});
     EXPECT_EQ(unit_.state().memories.points[0].active, FactoryPointSettings());
     EXPECT_EQ(unit_.state().memories.points[0].permanent, FactoryPointSettings());
-}
-
-TEST(PointPositionTest, IsTheInverseOfTheAddress) {
-    for (int position = 0; position < kPointModules; ++position) {
-        EXPECT_EQ(PointPosition(PointAddress(position)), position);
-    }
-    EXPECT_EQ(PointAddress(9), 81);
-    EXPECT_EQ(PointPosition(72), -1);
-    EXPECT_EQ(PointPosition(95), -1);
-    EXPECT_EQ(PointPosition(63), -1);
-    EXPECT_EQ(PointPosition(96), -1);
 }
 
 }  // namespace

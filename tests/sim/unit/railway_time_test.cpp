@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 //
 // Simulated time, and that the same commands give the same run.
+#include <algorithm>
+
 #include "sim/console/console.h"
+#include "sim/console/state_listing.h"
 #include "sim/railway_fixture.h"
 #include "sim/unit/railway_unit.h"
 
@@ -48,7 +51,8 @@ std::string RunWith(milliseconds rhythm, std::uint32_t seed, int factor = 1,
         unit.Handle(frame, wall(entry.at));
     }
     askUntil(seconds(30));
-    return unit.Describe(wall(seconds(30)));
+    unit.Advance(wall(seconds(30)));
+    return StateListing(unit.state());
 }
 
 TEST(SameRun, WhateverTheTimesOfTheCallsBetween) {

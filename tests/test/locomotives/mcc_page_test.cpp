@@ -126,8 +126,7 @@ TEST_F(MccPageTest, FunctionsSendOnlyThroughTheirButton) {
 /// The page by itself, its flag in the hands of the test.
 class MccPageAlone : public LinkFixture {
   protected:
-    HandlerGate gate;
-    DriveDesk desk{{link, messageBox, progress, clock, gate}};
+    DriveDesk desk{{link, messageBox, progress, clock}};
     MccPage page{desk};
     QSlider& slider = FindBelow<QSlider>(page, "MCCspeed");
     QCheckBox& steps = FindBelow<QCheckBox>(page, "CheckMCC30");

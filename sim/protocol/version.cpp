@@ -1,29 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "sim/unit/layout.h"
+#include "sim/protocol/version.h"
 
 #include <algorithm>
+#include <iomanip>
+#include <sstream>
 
 namespace zelvar::sim {
-
-std::uint8_t StatusByte(int type, ModuleState state) {
-    unsigned status = kPresentBit | (static_cast<unsigned>(type) & kTypeMask);
-    if (state == ModuleState::kIdle) {
-        status |= kIdleBit;
-    } else if (state != ModuleState::kOk) {
-        status |= kFaultBit;
-    }
-    return static_cast<std::uint8_t>(status);
-}
-
-Layout EmptyLayout() {
-    return {};
-}
-
-int LineAddress(int line) {
-    const int primaryLines = kTractionLines / 2;
-    return line < primaryLines ? kTractionFamily + line : kSecondaryFamily + line - primaryLines;
-}
 
 std::optional<VersionBytes> EncodeVersion(int version) {
     // The places hold 0..15, 0..7, 0..15 and 0..7, so a place can carry more than its digit.
@@ -38,6 +21,22 @@ std::optional<VersionBytes> EncodeVersion(int version) {
     }
     return VersionBytes{static_cast<std::uint8_t>((thousands << 3) | hundreds),
                         static_cast<std::uint8_t>((tens << 3) | ones)};
+}
+
+int DecodeVersion(int high, int low) {
+    return (high >> 3) * 1000 + (high & 7) * 100 + (low >> 3) * 10 + (low & 7);
+}
+
+std::string VersionName(int version) {
+    if (version == 0) {
+        return "none";
+    }
+    std::ostringstream text;
+    text << version / 1000 << '.' << std::setfill('0') << std::setw(2) << version / 10 % 100;
+    if (version % 10 > 0) {
+        text << ' ' << static_cast<char>('A' + version % 10 - 1);
+    }
+    return text.str();
 }
 
 }  // namespace zelvar::sim
