@@ -45,18 +45,18 @@ const std::map<std::string, ReplyKind> kKinds{
 /// The modules that the document says its examples talk to.
 sim::Layout DocumentedLayout() {
     using sim::ModuleState;
-    constexpr int VDType::VdF = static_cast<int>(sim::TractionType::kVdF);
-    constexpr int VDType::Vd60 = static_cast<int>(sim::TractionType::VDType::Vd60);
-    constexpr int VDType::QlrxS = static_cast<int>(sim::TractionType::kQlrxS);
+    constexpr int kVdF = static_cast<int>(sim::TractionType::kVdF);
+    constexpr int kVd60 = static_cast<int>(sim::TractionType::kVd60);
+    constexpr int kQlrxS = static_cast<int>(sim::TractionType::kQlrxS);
     sim::Layout layout;
     const auto put = [&layout](int address, int type, ModuleState state, int version, int mode) {
         layout.At(address) = {sim::StatusByte(type, state), version};
         layout.At(address).settings[sim::kMasterSlaveParameter] = static_cast<std::uint8_t>(mode);
     };
-    put(32 + 5, VDType::VdF, ModuleState::kOk, 1023, 1);
-    put(32 + 8, VDType::QlrxS, ModuleState::kFault, 1102, 0);
-    put(32 + 19, VDType::Vd60, ModuleState::kOk, 2014, 2);
-    put(0 + 19, VDType::Vd60, ModuleState::kIdle, 2014, 2);
+    put(32 + 5, kVdF, ModuleState::kOk, 1023, 1);
+    put(32 + 8, kQlrxS, ModuleState::kFault, 1102, 0);
+    put(32 + 19, kVd60, ModuleState::kOk, 2014, 2);
+    put(0 + 19, kVd60, ModuleState::kIdle, 2014, 2);
     put(64 + 17, 0, ModuleState::kHold, 1201, 0);
     put(96 + 2, 0, ModuleState::kOk, 1005, 0);
     return layout;
