@@ -69,7 +69,7 @@ QWidget* DlgZelvarStatus::BuildSystem() {
         fields->addWidget(field);
         txtDIP_[i] = field;
     }
-    // The two trailing blanks belong to the caption.
+    // The two trailing spaces belong to the caption.
     grid->addWidget(
         CaptionLabel(QStringLiteral("lblDIPstat"), QStringLiteral("DIP status  "), panel), 4, 0);
     grid->addLayout(numbers, 3, 1);
