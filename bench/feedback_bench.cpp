@@ -65,7 +65,7 @@ double Microseconds(Clock::duration time, const benchmark::State& state) {
 /// apart; a frame has 16,000 microseconds for layout and painting together.
 void BM_RelayoutOf128Labels(benchmark::State& state) {
     zelvar::DlgZelvarFeedback monitor;
-    auto* spin = monitor.findChild<zelvar::UpDown*>(QStringLiteral("UpDownFBbase"));
+    auto* spin = monitor.findChild<zelvar::LabelStepper*>(QStringLiteral("UpDownFBbase"));
     auto* last = monitor.findChild<QLabel*>(QStringLiteral("lblFBM(127)"));
     for (int input = 0; input < zelvar::kFeedbackInputs; ++input) {
         const bool active = input / kColumns % 2 != 0;
@@ -85,7 +85,7 @@ void BM_RelayoutOf128Labels(benchmark::State& state) {
         const auto start = Clock::now();
         bare.Show(base);
         const auto middle = Clock::now();
-        spin->SetValue(base);
+        spin->setValue(base);
         const auto laidOut = Clock::now();
         benchmark::DoNotOptimize(monitor.grab());
         paintTime += Clock::now() - laidOut;

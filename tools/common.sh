@@ -88,7 +88,7 @@ An administrator can install them with
 }
 
 # keep_owner SCRIPT ARGUMENT...: root would leave files that the clone's owner cannot change, and git
-# refuses a clone that belongs to somebody else. So root hands over to the owner here.
+# refuses a clone that belongs to another user. So root hands over to the owner here.
 keep_owner() {
     local owner name home groups=--clear-groups
     owner=$(stat -c %u .)

@@ -6,10 +6,11 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <memory>
 #include <optional>
 
 #include "controls/naming.h"
-#include "controls/number_text.h"
+#include "logs/alarm_log.h"
 #include "logs/message_log.h"
 #include "platform/nested_loop.h"
 #include "protocol/reports.h"
@@ -37,15 +38,12 @@ MainWindow::MainWindow(const Platform& platform)
       kbTab_(new KBTab(services_, tabs_)),
       testTab_(new TestTab(services_, tabs_)),
       dlgMsgLog_(LazyWindow<LogWindow>::OnClose::Unload,
-                 [] { return new LogWindow(MessageLogKind()); }),
+                 [] { return std::make_unique<LogWindow>(MessageLogKind()); }),
       dlgAlarmLog_(LazyWindow<LogWindow>::OnClose::Unload,
-                   [] { return new LogWindow(AlarmLogKind()); }),
-      dlgZelvarStatus_(LazyWindow<DlgZelvarStatus>::OnClose::Keep,
-                       [] { return new DlgZelvarStatus; }),
-      dlgZelvarStatus44_(LazyWindow<DlgZelvarStatus44>::OnClose::Keep,
-                         [] { return new DlgZelvarStatus44; }),
-      dlgZelvarFeedback_(LazyWindow<DlgZelvarFeedback>::OnClose::Unload,
-                         [] { return new DlgZelvarFeedback; }) {
+                   [] { return std::make_unique<LogWindow>(AlarmLogKind()); }),
+      dlgZelvarStatus_(LazyWindow<DlgZelvarStatus>::OnClose::Keep),
+      dlgZelvarStatus44_(LazyWindow<DlgZelvarStatus44>::OnClose::Keep),
+      dlgZelvarFeedback_(LazyWindow<DlgZelvarFeedback>::OnClose::Unload) {
     setObjectName(QStringLiteral("frmZelvarConfig"));
     setWindowTitle(QStringLiteral("ZelvarConfig 1.40B"));
     BuildFrame();
@@ -76,18 +74,14 @@ void MainWindow::BuildFrame() {
 }
 
 void MainWindow::ConnectControls() {
-    connect(testTab_, &TestTab::FeedbackMonitorWanted, this,
+    connect(portBar_, &PortBar::portChosen, this, &MainWindow::cboPort_Click);
+    connect(portBar_, &PortBar::refreshClicked, this, &MainWindow::cmdRefresh_Click);
+    connect(portBar_, &PortBar::resetClicked, this, &MainWindow::cmdReset_Click);
+    connect(portBar_, &PortBar::statusPressed, this, &MainWindow::cmdStatus_MouseDown);
+    connect(portBar_, &PortBar::serviceRequested, this, &MainWindow::lblCom_DblClick);
+    connect(portBar_, &PortBar::rateClicked, this, &MainWindow::optBaud_Click);
+    connect(testTab_, &TestTab::feedbackMonitorWanted, this,
             [this] { dlgZelvarFeedback_.Get().BringIntoView(true); });
-    connect(portBar_->cboPort, &DropDownList::Chosen, this, &MainWindow::cboPort_Click);
-    connect(portBar_->cmdRefresh, &QPushButton::clicked, this, &MainWindow::cmdRefresh_Click);
-    connect(portBar_->cmdReset, &QPushButton::clicked, this, &MainWindow::cmdReset_Click);
-    connect(portBar_->cmdStatus, &PressButton::MouseDown, this, &MainWindow::cmdStatus_MouseDown);
-    connect(portBar_->lblCom, &ServiceLabel::DblClick, this, &MainWindow::lblCom_DblClick);
-    for (int index = 0; index < static_cast<int>(portBar_->optBaud.size()); ++index) {
-        // Choosing the chosen rate again counts, too, so it is the click that matters.
-        connect(portBar_->optBaud[static_cast<std::size_t>(index)], &QRadioButton::clicked, this,
-                [this, index] { optBaud_Click(index); });
-    }
 }
 
 void MainWindow::ConnectReplies() {
@@ -97,8 +91,8 @@ void MainWindow::ConnectReplies() {
                                 [this](const Reply& reply) { kbTab_->ShowKBConfigReply(reply); });
     link_.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
         LogWindow& log = dlgAlarmLog_.Get();
-        log.Append(Text(AlarmLine(ReadOvercurrentReport(reply))));
-        // In view at once, but without taking the keyboard from whoever is driving.
+        log.Append(ToQString(AlarmLine(ReadOvercurrentReport(reply))));
+        // In view at once, but the keyboard stays with the control that drives a train.
         log.BringIntoView(false);
     });
     link_.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
@@ -117,7 +111,7 @@ void MainWindow::ConnectReplies() {
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     if (NestedLoop::IsTurning()) {
-        // The program ends inside a handler, which is to send and show nothing more.
+        // The program ends inside a handler, which must send and show nothing more.
         platform_.port.Close();
     }
     Form_Unload();
@@ -156,11 +150,9 @@ bool MainWindow::OpenPort() {
 }
 
 void MainWindow::ShowOpenDevice() {
-    const QString baud = portBar_->optBaud[1]->isChecked() ? portBar_->optBaud[1]->text()
-                                                           : portBar_->optBaud[0]->text();
     statusBar_->ShowDevice(QStringLiteral("Port %1: %2, %3")
                                .arg(portNumber_)
-                               .arg(platform_.devicePath(portNumber_), baud));
+                               .arg(platform_.devicePath(portNumber_), portBar_->Rate()));
 }
 
 void MainWindow::cboPort_Click() {
@@ -169,7 +161,7 @@ void MainWindow::cboPort_Click() {
         platform_.pollTimer.SetEnabled(false);
         ShowSystemState(SystemState::Disconnected);
     }
-    const int number = ValToInt(portBar_->cboPort->currentText().toStdString(), 0, kLastPortNumber);
+    const int number = portBar_->PortNumber();
     if (number > 0) {
         portNumber_ = number;
         OpenPort();
@@ -205,13 +197,10 @@ void MainWindow::optBaud_Click(int index) {
 
 void MainWindow::lblCom_DblClick() {
     dlgMsgLog_.Get().BringIntoView(true);
-    portBar_->optBaud[0]->setVisible(true);
-    portBar_->optBaud[1]->setVisible(true);
+    portBar_->ShowRates();
 }
 
-void MainWindow::cmdStatus_MouseDown(int button, int shift) {
-    // Shift with the left button and no other key; with Ctrl or Alt it does not count.
-    const bool classic = button == kLeftButton && shift == kShiftKey;
+void MainWindow::cmdStatus_MouseDown(bool classic) {
     if (!link_.CheckPort()) {
         return;
     }
@@ -255,11 +244,11 @@ void MainWindow::PortLost() {
 }
 
 bool MainWindow::IsStopTicked() const {
-    return portBar_->Check_Stop->isChecked();
+    return portBar_->IsStopTicked();
 }
 
 void MainWindow::ShowSystemState(SystemState state) {
-    // Every poll comes by here, and mostly nothing has changed.
+    // Every poll calls this, and mostly nothing has changed.
     if (state == shownState_) {
         return;
     }
@@ -282,7 +271,7 @@ void MainWindow::NoReply() {
 
 void MainWindow::AppendMessageLog(const std::string& text) {
     if (!text.empty()) {
-        dlgMsgLog_.Get().Append(Text(text));
+        dlgMsgLog_.Get().Append(ToQString(text));
     }
 }
 

@@ -69,7 +69,7 @@ class MainWindow : public QMainWindow, private LinkView, private StatusRequestVi
     void cboPort_Click();
     void cmdRefresh_Click();
     void cmdReset_Click();
-    void cmdStatus_MouseDown(int button, int shift);
+    void cmdStatus_MouseDown(bool classic);
     void optBaud_Click(int index);
     void lblCom_DblClick();
     void PortLost();

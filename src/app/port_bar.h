@@ -25,7 +25,7 @@ class ServiceLabel : public QLabel {
     using QLabel::QLabel;
 
   Q_SIGNALS:
-    void DblClick();
+    void doubleClicked();
 
   protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -36,24 +36,49 @@ class PortBar : public QWidget {
     Q_OBJECT
 
   public:
-    /// Says something about the device behind a port number, for the user.
+    /// A text about the device of a port number, for the user.
     using DescribePort = std::function<QString(int portNumber)>;
 
     explicit PortBar(QWidget* parent = nullptr);
 
-    /// Fills the list anew, without a selection.
-    void ShowPorts(const std::vector<int>& ports) const;
+    /// Fills the list again, without a selection.
+    void ShowPorts(const std::vector<int>& ports);
 
     /// Gives every entry its tooltip.
-    void DescribePorts(const DescribePort& describe) const;
+    void DescribePorts(const DescribePort& describe);
 
-    ServiceLabel* lblCom;
-    DropDownList* cboPort;
-    std::array<QRadioButton*, 2> optBaud;
-    QCheckBox* Check_Stop;
-    QPushButton* cmdReset;
-    QPushButton* cmdRefresh;
-    PressButton* cmdStatus;
+    /// The number in the list, 0 when none is chosen.
+    int PortNumber() const;
+
+    /// The caption of the chosen rate.
+    QString Rate() const;
+    /// Makes the rates visible.
+    void ShowRates();
+
+    bool IsStopTicked() const { return Check_Stop_->isChecked(); }
+
+  Q_SIGNALS:
+    void portChosen();
+    /// @param index of the rate, which may be chosen already
+    void rateClicked(int index);
+    void refreshClicked();
+    void resetClicked();
+    /// @param shiftLeft whether it was the left button with Shift alone
+    void statusPressed(bool shiftLeft);
+    /// The double click on the caption of the list.
+    void serviceRequested();
+
+  private:
+    void LayOut();
+    void ConnectControls();
+
+    ServiceLabel* lblCom_;
+    DropDownList* cboPort_;
+    std::array<QRadioButton*, 2> optBaud_;
+    QCheckBox* Check_Stop_;
+    QPushButton* cmdReset_;
+    QPushButton* cmdRefresh_;
+    PressButton* cmdStatus_;
 };
 
 }  // namespace zelvar

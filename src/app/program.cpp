@@ -12,7 +12,7 @@ namespace {
 
 /// The device path of a port and, when the system knows one, the adapter's description.
 QString DescribePort(const PortTable& table, int number) {
-    QString device = Text(table.DeviceOf(number));
+    QString device = ToQString(table.DeviceOf(number));
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts()) {
         const bool same = info.systemLocation() == device || info.portName() == device;
         if (same && !info.description().isEmpty()) {
@@ -26,7 +26,7 @@ QString DescribePort(const PortTable& table, int number) {
 
 Program::Program()
     : window_({port_, pollTimer_, clock_, messageBox_,
-               [this](int number) { return Text(table_.DeviceOf(number)); },
+               [this](int number) { return ToQString(table_.DeviceOf(number)); },
                [this](int number) { return DescribePort(table_, number); }}) {
     pollTimer_.SetHandler([this] { window_.Timer1_Timer(); });
     messageBox_.SetParent(&window_);

@@ -5,8 +5,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "controls/arrange.h"
 #include "controls/naming.h"
-#include "controls/palette.h"
+#include "controls/system_state_label.h"
 #include "platform/nested_loop.h"
 
 namespace zelvar {
@@ -15,14 +16,6 @@ namespace {
 
 constexpr int kProgressWidth = 160;
 constexpr int kMargin = 6;
-
-/// Keeps the place of a control that is hidden, so that nothing moves when it appears.
-void KeepPlaceWhenHidden(QWidget* widget) {
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-    widget->setVisible(false);
-}
 
 bool IsUserInput(QEvent::Type type) {
     switch (type) {
@@ -78,6 +71,7 @@ StatusBar::StatusBar(QWidget* parent)
                             static_cast<QWidget*>(cmdCancel_)}) {
         addPermanentWidget(widget);
         KeepPlaceWhenHidden(widget);
+        widget->setVisible(false);
     }
     lblBarProgress_->setMinimumWidth(lblBarProgress_->fontMetrics().horizontalAdvance(
         QStringLiteral("Asking the central unit ")));
@@ -88,10 +82,7 @@ StatusBar::StatusBar(QWidget* parent)
 }
 
 void StatusBar::ShowSystemState(SystemState state) {
-    const QString text = Text(SystemStateText(state));
-    lblBarStatus_->setText(text);
-    lblBarStatus_->setAccessibleName(text);
-    SetTextColour(lblBarStatus_, SystemStateColour(state));
+    ShowSystemStateIn(*lblBarStatus_, state);
 }
 
 void StatusBar::ShowDevice(const QString& text) {
@@ -99,9 +90,9 @@ void StatusBar::ShowDevice(const QString& text) {
 }
 
 void StatusBar::Begin(const std::string& caption, int steps) {
-    // What Cancel would have ended is over.
+    // The work that Cancel would have ended is over.
     WithdrawCancel();
-    lblBarProgress_->setText(Text(caption));
+    lblBarProgress_->setText(ToQString(caption));
     prgBar_->setRange(0, steps);
     prgBar_->setValue(0);
     lblBarProgress_->setVisible(true);
@@ -165,7 +156,7 @@ bool StatusBar::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool StatusBar::IsForCancel(QObject* watched, QEvent* event) {
-    // What a window gets is handed on to its controls, where it is looked at again.
+    // A window hands its events on to its controls, where the filter sees them again.
     if (watched->isWindowType()) {
         return event->type() != QEvent::Close;
     }

@@ -9,7 +9,7 @@
 
 namespace zelvar {
 
-/// Warns before an erase and tells when the user thinks better of it.
+/// Warns before an erase, and confirms when the user cancels it.
 /// @param units what is erased, such as "VD-units" @return whether to go on
 bool AgreesToErase(MessageBox& messageBox, std::string_view units);
 

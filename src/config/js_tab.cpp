@@ -5,13 +5,16 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
-#include <cstddef>
+#include <utility>
 
 #include "config/erase_question.h"
 #include "config/js_report.h"
 #include "config/selection.h"
+#include "controls/arrange.h"
+#include "controls/caption_label.h"
 #include "controls/command_button.h"
 #include "controls/fixed_pitch_font.h"
 #include "controls/naming.h"
@@ -21,16 +24,17 @@ namespace zelvar {
 
 namespace {
 
-constexpr std::array<const char*, 4> kPowerCaptions{"Normal", "Low", "High", "Unlimited"};
+/// In the order of their codes.
+constexpr const char* kPowerCaptions[] = {"Normal", "Low", "High", "Unlimited"};
 
-QPushButton* Button(const char* caption, const char* name, const char* inWords, QWidget* parent) {
-    return MakeCommandButton(Text(caption), Text(name), Text(inWords), parent);
+QPushButton* Button(const char* caption, const char* name, const char* accessibleName,
+                    QWidget* parent) {
+    return MakeCommandButton(ToQString(caption), ToQString(name), ToQString(accessibleName),
+                             parent);
 }
 
 QLabel* LabelFor(QWidget* control, const char* caption, const char* name) {
-    auto* label = Named(new QLabel(Text(caption), control->parentWidget()), name, caption);
-    label->setBuddy(control);
-    return label;
+    return CaptionLabel(ToQString(name), ToQString(caption), control->parentWidget(), control);
 }
 
 QPlainTextEdit* MakeReportField(QWidget* parent) {
@@ -107,47 +111,53 @@ QLayout* JSTab::LayOutSettings() {
     auto* column = new QVBoxLayout;
     column->addWidget(frame);
     column->addStretch(1);
-    // The order of the fields in the form, not that in which they were made.
-    const std::array<QWidget*, 5> order{updownJStime_, cmdTIME_, updownJSdevice_, cmdDeviceTime_,
-                                        optJSpower_[0]};
-    for (std::size_t i = 1; i < order.size(); ++i) {
-        setTabOrder(order[i - 1], order[i]);
-    }
-    setTabOrder(optJSpower_.back(), cmdDevicePower_);
+    // The order of the controls in the form, not that of their creation.
+    SetTabOrder({updownJStime_, cmdTIME_, updownJSdevice_, cmdDeviceTime_,
+                 optJSpower_->buttons().constFirst()});
+    SetTabOrder({optJSpower_->buttons().constLast(), cmdDevicePower_});
     return column;
 }
 
 QLayout* JSTab::LayOutPower() {
     auto* layout = new QVBoxLayout;
-    for (std::size_t i = 0; i < optJSpower_.size(); ++i) {
-        const QString caption = Text(kPowerCaptions[i]);
-        optJSpower_[i] =
-            Named(new QRadioButton(caption, this), IndexedName("optJSpower", static_cast<int>(i)),
-                  QStringLiteral("Power: ") + caption);
-        layout->addWidget(optJSpower_[i]);
+    int code = 0;
+    for (const char* power : kPowerCaptions) {
+        const QString caption = ToQString(power);
+        auto* button = Named(new QRadioButton(caption, this), IndexedName("optJSpower", code),
+                             QStringLiteral("Power: ") + caption);
+        optJSpower_->addButton(button, code++);
+        layout->addWidget(button);
     }
-    optJSpower_[0]->setChecked(true);
+    optJSpower_->button(0)->setChecked(true);
     return layout;
 }
 
 void JSTab::ConnectControls() {
-    struct Click {
-        QPushButton* button;
-        void (JSTab::*handler)();
-    };
-    const Click clicks[] = {
-        {cmdTIME_, &JSTab::cmdTIME_Click},
-        {cmdDeviceTime_, &JSTab::cmdDeviceTime_Click},
-        {cmdDevicePower_, &JSTab::cmdDevicePower_Click},
-        {cmdJSerase_, &JSTab::cmdJSerase_Click},
-        {cmdGetJSConfig_, &JSTab::cmdGetJSConfig_Click},
-        {cmdHideJSConfig_, &JSTab::cmdHideJSConfig_Click},
-    };
-    for (const Click& click : clicks) {
-        connect(click.button, &QPushButton::clicked, this,
-                [this, handler = click.handler] { (this->*handler)(); });
-    }
-    connect(cboJS_, &DropDownList::Chosen, this, &JSTab::cboJS_Click);
+    SendOnClick(cmdTIME_, {updownJStime_},
+                [this] { return JsDefaultTime(chkJSperm_->isChecked(), updownJStime_->value()); });
+    SendOnClick(cmdDeviceTime_, {updownJStime_, updownJSdevice_}, [this] {
+        return JsDeviceTime(chkJSperm_->isChecked(), updownJSdevice_->value(),
+                            updownJStime_->value());
+    });
+    SendOnClick(cmdDevicePower_, {updownJSdevice_}, [this] {
+        return JsDevicePower(chkJSperm_->isChecked(), updownJSdevice_->value(),
+                             optJSpower_->checkedId());
+    });
+    connect(cmdJSerase_, &QPushButton::clicked, this, &JSTab::cmdJSerase_Click);
+    connect(cmdGetJSConfig_, &QPushButton::clicked, this, &JSTab::cmdGetJSConfig_Click);
+    connect(cmdHideJSConfig_, &QPushButton::clicked, this, &JSTab::cmdHideJSConfig_Click);
+    connect(cboJS_, &DropDownList::chosen, this, &JSTab::cboJS_Click);
+}
+
+void JSTab::SendOnClick(QPushButton* button, std::vector<SpinField*> fields,
+                        std::function<ModuleCommand()> command) {
+    connect(button, &QPushButton::clicked, this,
+            [this, fields = std::move(fields), command = std::move(command)] {
+                for (SpinField* field : fields) {
+                    field->clamp();
+                }
+                commands_.SendModuleCommand(command());
+            });
 }
 
 void JSTab::Fill(const SelectionList& list) {
@@ -177,33 +187,6 @@ void JSTab::ShowReport(bool shown) {
     textJSReport_->setVisible(shown);
 }
 
-int JSTab::PowerCode() const {
-    for (std::size_t code = 1; code < optJSpower_.size(); ++code) {
-        if (optJSpower_[code]->isChecked()) {
-            return static_cast<int>(code);
-        }
-    }
-    return 0;
-}
-
-void JSTab::cmdTIME_Click() {
-    updownJStime_->Clamp();
-    commands_.SendModuleCommand(JsDefaultTime(chkJSperm_->isChecked(), updownJStime_->Value()));
-}
-
-void JSTab::cmdDeviceTime_Click() {
-    updownJStime_->Clamp();
-    updownJSdevice_->Clamp();
-    commands_.SendModuleCommand(
-        JsDeviceTime(chkJSperm_->isChecked(), updownJSdevice_->Value(), updownJStime_->Value()));
-}
-
-void JSTab::cmdDevicePower_Click() {
-    updownJSdevice_->Clamp();
-    commands_.SendModuleCommand(
-        JsDevicePower(chkJSperm_->isChecked(), updownJSdevice_->Value(), PowerCode()));
-}
-
 void JSTab::cmdJSerase_Click() {
     if (AgreesToErase(services_.messageBox, "JS70-units")) {
         commands_.SendModuleCommand(kJsErase);
@@ -218,9 +201,9 @@ void JSTab::cmdGetJSConfig_Click() {
     const std::optional<JsConfiguration> configuration =
         JsReportRequest(services_).Run(*selection.data);
     if (configuration) {
-        textJSReport_->setPlainText(Text(FormatJsReport(*configuration)));
+        textJSReport_->setPlainText(ToQString(FormatJsReport(*configuration)));
     }
-    // An older report must not be taken for the one that did not come.
+    // An older report must not look like the one that did not come.
     ShowReport(configuration.has_value());
 }
 

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QWidget>
 
-#include <array>
+#include <functional>
+#include <vector>
 
 #include "config/module_commands.h"
 #include "config/selection_list.h"
@@ -25,7 +26,7 @@ class JSTab : public QWidget {
   public:
     JSTab(const Services& services, QWidget* parent = nullptr);
 
-    /// Fills `cboJS` anew and selects what the list says.
+    /// Fills `cboJS` again and selects what the list says.
     void Fill(const SelectionList& list);
 
   private:
@@ -33,16 +34,15 @@ class JSTab : public QWidget {
     QLayout* LayOutSettings();
     QLayout* LayOutPower();
     void ConnectControls();
+    /// Lets a click bring the fields into their ranges and send a module command.
+    void SendOnClick(QPushButton* button, std::vector<SpinField*> fields,
+                     std::function<ModuleCommand()> command);
 
     void JsSelectionChanged();
     void ShowJSReportControls(bool canGet);
     void ShowReport(bool shown);
-    int PowerCode() const;
 
     void cboJS_Click();
-    void cmdTIME_Click();
-    void cmdDeviceTime_Click();
-    void cmdDevicePower_Click();
     void cmdJSerase_Click();
     void cmdGetJSConfig_Click();
     void cmdHideJSConfig_Click();
@@ -53,7 +53,8 @@ class JSTab : public QWidget {
     QCheckBox* chkJSperm_;
     SpinField* updownJSdevice_;
     SpinField* updownJStime_;
-    std::array<QRadioButton*, 4> optJSpower_{};
+    /// The ids are the codes of the powers.
+    QButtonGroup* optJSpower_ = new QButtonGroup(this);
     QPushButton* cmdTIME_;
     QPushButton* cmdDeviceTime_;
     QPushButton* cmdDevicePower_;

@@ -8,10 +8,12 @@
 
 #include <cstddef>
 
+#include "controls/arrange.h"
 #include "controls/command_button.h"
 #include "controls/lost_focus.h"
 #include "controls/naming.h"
 #include "controls/palette.h"
+#include "status/central_unit.h"
 
 namespace zelvar {
 
@@ -43,11 +45,10 @@ constexpr std::array<const char*, 2> kConfigCaptions{"Set KB-x Config", "Get KB-
 struct TransparentMode {
     int index;
     const char* caption;
-    const char* inWords;
+    const char* accessibleName;
 };
 
-/// From top to bottom. The button that some units do not have stands last, so that it leaves no
-/// hole.
+/// From top to bottom. The button that some units do not have comes last, so that it leaves no gap.
 constexpr std::array<TransparentMode, kTransparentModes> kTransparent{{
     {0, "Channel 0 Transp. Mode", "Transparent mode of channel 0"},
     {2, "Bootloader Transp. Mode", "Transparent mode of the boot loader"},
@@ -89,12 +90,12 @@ KBTab::KBTab(const Services& services, QWidget* parent)
     layout->addLayout(head);
     auto* body = new QHBoxLayout;
     auto* always = new QVBoxLayout;
-    // Next to the Permanent box, which counts for it.
+    // Next to the Permanent box, which applies to it.
     always->addWidget(Build64DMFrame());
     always->addWidget(BuildOptionsFrame());
     always->addWidget(BuildTransparentFrame());
     always->addStretch(1);
-    // The frame that some units do not have stands last, so that it leaves no hole.
+    // The frame that some units do not have comes last, so that it leaves no gap.
     auto* configuration = new QVBoxLayout;
     frmConfig_ = BuildConfigFrame();
     configuration->addWidget(frmConfig_);
@@ -110,17 +111,17 @@ QFrame* KBTab::BuildConfigFrame() {
     auto* frame = Named(Panel(this), "frmConfig", "Central unit configuration");
     auto* layout = new QVBoxLayout(frame);
     for (std::size_t i = 0; i < kSwitches.size(); ++i) {
-        const QString caption = Text(kSwitches[i].caption);
-        chkKBEconfig_[i] = Named(new QCheckBox(caption, frame),
-                                 IndexedName("chkKBEconfig", static_cast<int>(i)), caption);
-        chkKBEconfig_[i]->setToolTip(Text(kSwitches[i].tooltip));
+        const QString caption = ToQString(kSwitches[i].caption);
+        chkKBEconfig_[i] =
+            Named(new QCheckBox(caption, frame), IndexedName("chkKBEconfig", i), caption);
+        chkKBEconfig_[i]->setToolTip(ToQString(kSwitches[i].tooltip));
         layout->addWidget(chkKBEconfig_[i]);
     }
     auto* buttons = new QHBoxLayout;
     for (std::size_t i = 0; i < cmdConfig_.size(); ++i) {
-        const QString caption = Text(kConfigCaptions[i]);
+        const QString caption = ToQString(kConfigCaptions[i]);
         cmdConfig_[i] = MakeCommandButton(
-            caption, IndexedName("cmdConfig", static_cast<int>(i)),
+            caption, IndexedName("cmdConfig", i),
             caption + QStringLiteral(": configuration of the central unit"), frame);
         buttons->addWidget(cmdConfig_[i]);
     }
@@ -133,10 +134,10 @@ QFrame* KBTab::BuildOptionsFrame() {
     QFrame* frame = Panel(this);
     auto* layout = new QGridLayout(frame);
     for (int i = 0; i < kKBSwitches; ++i) {
-        const QString caption = Text(kOptions[static_cast<std::size_t>(i)]);
+        const QString caption = ToQString(kOptions[i]);
         auto* box = Named(new QCheckBox(caption, frame), IndexedName("chkKBEoptions", i),
                           QStringLiteral("Option %1: %2").arg(i).arg(caption));
-        chkKBEoptions_[static_cast<std::size_t>(i)] = box;
+        chkKBEoptions_[i] = box;
         layout->addWidget(box, i / kBoxColumns, i % kBoxColumns);
     }
     cmdOptions_ = MakeCommandButton(QStringLiteral("KBE-Options"), QStringLiteral("cmdOptions"),
@@ -152,7 +153,7 @@ QFrame* KBTab::Build64DMFrame() {
         auto* box = Named(new QCheckBox(QStringLiteral("#%1").arg(i), frame),
                           IndexedName("chkJSdevicemode", i),
                           QStringLiteral("64-device mode, number %1").arg(i));
-        chkJSdevicemode_[static_cast<std::size_t>(i)] = box;
+        chkJSdevicemode_[i] = box;
         layout->addWidget(box, i / kBoxColumns, i % kBoxColumns);
     }
     cmdJS70dm_ =
@@ -166,33 +167,31 @@ QFrame* KBTab::BuildTransparentFrame() {
     QFrame* frame = Panel(this);
     auto* layout = new QVBoxLayout(frame);
     for (const TransparentMode& mode : kTransparent) {
-        QPushButton* button = MakeCommandButton(
-            Text(mode.caption), IndexedName("cmdTM", mode.index), Text(mode.inWords), frame);
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
+        QPushButton* button =
+            MakeCommandButton(ToQString(mode.caption), IndexedName("cmdTM", mode.index),
+                              ToQString(mode.accessibleName), frame);
+        KeepPlaceWhenHidden(button);
         layout->addWidget(button);
-        cmdTM_[static_cast<std::size_t>(mode.index)] = button;
+        cmdTM_[mode.index] = button;
     }
     return frame;
 }
 
 void KBTab::ConnectControls() {
-    for (int i = 0; i < static_cast<int>(cmdConfig_.size()); ++i) {
-        QPushButton* button = cmdConfig_[static_cast<std::size_t>(i)];
-        connect(button, &QPushButton::clicked, this, [this, i] { cmdConfig_Click(i); });
-        OnLostFocus(button, [this] { cmdConfig_LostFocus(); });
+    for (int index = 0; index < static_cast<int>(cmdConfig_.size()); ++index) {
+        connect(cmdConfig_[index], &QPushButton::clicked, this,
+                [this, index] { cmdConfig_Click(index); });
+        OnLostFocus(cmdConfig_[index], [this] { cmdConfig_LostFocus(); });
     }
-    for (int i = 0; i < static_cast<int>(cmdTM_.size()); ++i) {
-        connect(cmdTM_[static_cast<std::size_t>(i)], &QPushButton::clicked, this,
-                [this, i] { cmdTM_Click(i); });
+    for (int index = 0; index < static_cast<int>(cmdTM_.size()); ++index) {
+        connect(cmdTM_[index], &QPushButton::clicked, this, [this, index] { cmdTM_Click(index); });
     }
     connect(cmdOptions_, &QPushButton::clicked, this, &KBTab::cmdOptions_Click);
     connect(cmdJS70dm_, &QPushButton::clicked, this, &KBTab::cmdJS70dm_Click);
 }
 
 void KBTab::ShowUnit(const CentralUnit& unit) {
-    lblKBtype_->setText(Text(CentralUnitCaption(unit)));
+    lblKBtype_->setText(ToQString(CentralUnitCaption(unit)));
     lblKBtype_->setVisible(true);
     ShowKBConfigView(KBConfigViewOf(unit));
 }
@@ -242,7 +241,7 @@ void KBTab::cmdTM_Click(int index) {
     if (!services_.link.CheckPort()) {
         return;
     }
-    // A unit in transparent mode no longer answers: the box for that is the confirmation.
+    // A unit in transparent mode no longer answers: the message about that is the confirmation.
     if (services_.link.Transact(TransparentModeCommand(index))) {
         services_.link.Transact(kEmptyTransaction, kTransparentText);
     }

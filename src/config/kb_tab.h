@@ -11,10 +11,11 @@
 #include <array>
 #include <string_view>
 
+#include "config/kb_config_view.h"
 #include "config/module_commands.h"
 #include "link/services.h"
+#include "protocol/status.h"
 #include "protocol/unit_settings.h"
-#include "status/central_unit.h"
 
 namespace zelvar {
 

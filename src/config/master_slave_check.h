@@ -11,7 +11,7 @@
 
 namespace zelvar {
 
-/// Asks every VD-F and VD60 whether it is master or slave, tells whether there is exactly one
+/// Asks every VD-F and VD60 whether it is master or slave, reports whether there is exactly one
 /// master, and asks for the state of the clocks when the user wants to know. Blocks up to
 /// `kAnswerLimit` for each silent module.
 class MasterSlaveCheck {

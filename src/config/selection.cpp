@@ -9,7 +9,7 @@ namespace zelvar {
 void FillSelection(DropDownList& control, const SelectionList& list) {
     control.Clear();
     for (const SelectionEntry& entry : list.entries) {
-        control.Append(Text(entry.text), entry.data);
+        control.Append(ToQString(entry.text), entry.data);
     }
     control.setCurrentIndex(list.selected);
 }

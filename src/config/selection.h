@@ -8,7 +8,7 @@
 
 namespace zelvar {
 
-/// Fills a module selection list anew and selects what the list says, which reports a choice.
+/// Fills a module selection list again and selects what the list says, which reports a choice.
 void FillSelection(DropDownList& control, const SelectionList& list);
 
 /// What a module selection list holds at present.

@@ -11,32 +11,27 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "controls/arrange.h"
 #include "controls/command_button.h"
 #include "controls/lost_focus.h"
 #include "controls/naming.h"
 #include "controls/palette.h"
+#include "controls/twips.h"
 
 namespace zelvar {
 
 namespace {
 
 // Fixed positions within a frame with banks, in pixels at 96 dpi.
-constexpr int kTwipsPerPixel = 15;
-constexpr int kFirstRowOfTwo = 120 / kTwipsPerPixel;
-constexpr int kOnlyRow = 360 / kTwipsPerPixel;
-constexpr int kSecondRow = 600 / kTwipsPerPixel;
-/// A label stands this much lower than its field, and ends as much higher.
-constexpr int kLabelInset = 30 / kTwipsPerPixel;
+constexpr int kFirstRowOfTwo = Pixels(120);
+constexpr int kOnlyRow = Pixels(360);
+constexpr int kSecondRow = Pixels(600);
+/// A label begins this much lower than its field, and ends this much higher.
+constexpr int kLabelInset = Pixels(30);
 constexpr int kGap = 6;
 
-void KeepPlaceWhenHidden(QWidget* widget) {
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-}
-
 QString NameOf(const char* name, int index) {
-    return index == kNoIndex ? Text(name) : IndexedName(name, index);
+    return index == kNoIndex ? ToQString(name) : IndexedName(name, index);
 }
 
 }  // namespace
@@ -44,9 +39,9 @@ QString NameOf(const char* name, int index) {
 VDSettingPanel::VDSettingPanel(const VDSetting& setting, QWidget* parent)
     : QFrame(parent),
       setting_(setting),
-      frame_(Named(new QFrame(this), setting.frame, setting.inWords)),
+      frame_(Named(new QFrame(this), setting.frame, setting.accessibleName)),
       options_(new QButtonGroup(this)) {
-    // The border goes round everything, so it is the frame's only if the frame holds everything.
+    // The border encloses everything, so the frame has it only if the frame holds everything.
     (setting.buttonsOutside || setting.inBanks ? this : frame_)->setFrameShape(QFrame::StyledPanel);
     KeepPlaceWhenHidden(this);
     KeepPlaceWhenHidden(frame_);
@@ -64,29 +59,30 @@ void VDSettingPanel::BuildFields() {
     const VDNumbers& numbers = setting_.numbers;
     for (const VDField& field : numbers.fields) {
         const int number = static_cast<int>(fields_.size());
-        auto* spin =
-            new SpinField(NameOf(numbers.spin, field.index), NameOf(numbers.field, field.index),
-                          Text(field.inWords), numbers.minimum, numbers.maximum, frame_);
+        auto* spin = new SpinField(
+            NameOf(numbers.spin, field.index), NameOf(numbers.field, field.index),
+            ToQString(field.accessibleName), numbers.minimum, numbers.maximum, frame_);
         QLabel* label = nullptr;
         if (field.label != nullptr) {
-            label = Named(new QLabel(Text(field.caption), frame_), NameOf(field.label, field.index),
-                          Text(field.inWords));
+            label = Named(new QLabel(ToQString(field.caption), frame_),
+                          NameOf(field.label, field.index), ToQString(field.accessibleName));
             label->setBuddy(spin);
         }
         fields_.push_back(spin);
         labels_.push_back(label);
-        connect(spin, &SpinField::Change, this, [this, number] { Q_EMIT FieldChanged(number); });
-        connect(spin, &SpinField::Stepped, this, [this, number] { Q_EMIT FieldStepped(number); });
+        connect(spin, &SpinField::textChanged, this,
+                [this, number] { Q_EMIT fieldChanged(number); });
+        connect(spin, &SpinField::stepped, this, [this, number] { Q_EMIT fieldStepped(number); });
     }
 }
 
 void VDSettingPanel::BuildOptions() {
     const VDOptions& options = setting_.options;
     for (const VDOption& option : options.options) {
-        const QString caption = Text(option.caption);
+        const QString caption = ToQString(option.caption);
         auto* button =
             Named(new QRadioButton(caption, frame_), IndexedName(options.name, option.value),
-                  Text(setting_.inWords) + QStringLiteral(": ") + caption);
+                  ToQString(setting_.accessibleName) + QStringLiteral(": ") + caption);
         button->setChecked(option.value == options.initial);
         options_->addButton(button, option.value);
     }
@@ -95,22 +91,22 @@ void VDSettingPanel::BuildOptions() {
 void VDSettingPanel::BuildButtons() {
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const int index = static_cast<int>(i);
-        const QString caption = Text(setting_.captions[i]);
-        const QString inWords =
+        const QString caption = ToQString(setting_.captions[i]);
+        const QString accessibleName =
             (index == kSetButton ? QStringLiteral("Set: ") : QStringLiteral("Get: ")) +
-            Text(setting_.inWords);
+            ToQString(setting_.accessibleName);
         buttons_[i] =
-            MakeCommandButton(caption, IndexedName(setting_.button, index), inWords,
+            MakeCommandButton(caption, IndexedName(setting_.button, index), accessibleName,
                               setting_.buttonsOutside ? static_cast<QWidget*>(this) : frame_);
         KeepPlaceWhenHidden(buttons_[i]);
         connect(buttons_[i], &QPushButton::clicked, this,
-                [this, index] { Q_EMIT ButtonClicked(index); });
-        OnLostFocus(buttons_[i], [this] { Q_EMIT ButtonLostFocus(); });
+                [this, index] { Q_EMIT buttonClicked(index); });
+        OnLostFocus(buttons_[i], [this] { Q_EMIT buttonLostFocus(); });
     }
 }
 
 QLabel* VDSettingPanel::AddTitle(QGridLayout& layout) {
-    auto* title = new QLabel(Text(setting_.title), frame_);
+    auto* title = new QLabel(ToQString(setting_.title), frame_);
     if (!fields_.empty() && labels_.front() == nullptr) {
         title->setBuddy(fields_.front());
     }
@@ -119,7 +115,7 @@ QLabel* VDSettingPanel::AddTitle(QGridLayout& layout) {
 }
 
 QLayout* VDSettingPanel::LayOutControls() {
-    // How many options stand beside each other, so that no setting takes more than two rows.
+    // The number of options in a row, so that no setting takes more than two rows.
     constexpr int kShortRow = 2;
     constexpr int kLongRow = 3;
     auto* layout = new QGridLayout;
@@ -178,13 +174,13 @@ void VDSettingPanel::LayOutBanks() {
         fields_[i]->resize(field);
         labels_[i]->move(x, 0);
         fields_[i]->move(x + labelWidth + kGap, 0);
-        // Two fields stand one below the other, then comes the next column.
+        // Two fields are one below the other, then comes the next column.
         if (i % 2 == 1) {
             x = fields_[i]->geometry().right() + 2 * kGap;
         }
     }
     PlaceBankRows(true);
-    // The layout has the buttons alone: the fields stand in its left margin.
+    // The layout has only the buttons: the fields are in its left margin.
     auto* buttons = new QGridLayout(frame_);
     buttons->setContentsMargins(x, kFirstRowOfTwo, kGap, 0);
     buttons->setVerticalSpacing(kGap);
@@ -193,7 +189,7 @@ void VDSettingPanel::LayOutBanks() {
     buttons->setColumnStretch(0, 1);
     buttons->setRowStretch(2, 1);
     frame_->setMinimumHeight(fields_.back()->geometry().bottom() + 1 + kGap);
-    // The fixed heights leave no room for the title within the frame.
+    // The fixed heights leave no space for the title within the frame.
     auto* inPanel = new QGridLayout(this);
     inPanel->setContentsMargins(0, 0, 0, 0);
     inPanel->setSpacing(0);
@@ -243,7 +239,7 @@ void VDSettingPanel::ShowVDGetButtons(VDGetButtons buttons) {
     const bool isCheck = buttons == VDGetButtons::CheckOnly;
     get->setText(isCheck ? QStringLiteral("Check MS mode") : QStringLiteral("Get MS mode"));
     get->setAccessibleName(isCheck ? QStringLiteral("Check masters, slaves and clocks")
-                                   : QStringLiteral("Get: ") + Text(setting_.inWords));
+                                   : QStringLiteral("Get: ") + ToQString(setting_.accessibleName));
     get->setVisible(buttons != VDGetButtons::None);
     setVisible(!frame_->isHidden() || !buttons_[kSetButton]->isHidden() || !get->isHidden());
     ShowBorder(!frame_->isHidden());
@@ -251,7 +247,7 @@ void VDSettingPanel::ShowVDGetButtons(VDGetButtons buttons) {
 
 void VDSettingPanel::ShowBorder(bool shown) {
     setFrameShape(QFrame::StyledPanel);
-    // A margin takes the border's room, so that nothing moves.
+    // A margin takes the border's space, so that nothing moves.
     const int margin = shown ? 0 : frameWidth();
     if (!shown) {
         setFrameShape(QFrame::NoFrame);
@@ -277,7 +273,7 @@ int VDSettingPanel::ChosenOption() const {
 VDInput VDSettingPanel::Input() const {
     VDInput input;
     for (const SpinField* field : fields_) {
-        input.numbers.push_back({field->Value(), !field->isHidden()});
+        input.numbers.push_back({field->value(), !field->isHidden()});
     }
     input.option = ChosenOption();
     return input;
@@ -286,22 +282,22 @@ VDInput VDSettingPanel::Input() const {
 void VDSettingPanel::ClampOnClick() {
     if (setting_.numbers.clamped == Clamped::OnClick) {
         for (SpinField* field : fields_) {
-            field->Clamp();
+            field->clamp();
         }
     }
 }
 
 void VDSettingPanel::ClampField(int field) {
-    fields_[static_cast<std::size_t>(field)]->Clamp();
+    fields_[field]->clamp();
 }
 
 void VDSettingPanel::RestoreFieldColour(int field) {
-    RestoreSystemColour(fields_[static_cast<std::size_t>(field)]->Field());
+    RestoreSystemColour(fields_[field]->lineEdit());
 }
 
 bool VDSettingPanel::ShowReply(const VDReply& reply) {
     if (HasOptionFor(setting_, reply)) {
-        // What was green before is not what the module has now.
+        // The green of an earlier reply no longer holds.
         RestoreColours();
         QAbstractButton* option = options_->button(reply.value);
         option->setChecked(true);
@@ -311,7 +307,7 @@ bool VDSettingPanel::ShowReply(const VDReply& reply) {
     const std::optional<std::size_t> shown =
         FieldShowing(setting_, reply.parameter, ChosenOption());
     if (shown) {
-        QLineEdit* field = fields_[*shown]->Field();
+        QLineEdit* field = fields_[*shown]->lineEdit();
         field->setText(QString::number(reply.value));
         SetGroundColour(field, kColourGreen);
     }
@@ -320,7 +316,7 @@ bool VDSettingPanel::ShowReply(const VDReply& reply) {
 
 void VDSettingPanel::RestoreColours() {
     for (const SpinField* field : fields_) {
-        RestoreSystemColour(field->Field());
+        RestoreSystemColour(field->lineEdit());
     }
     for (QAbstractButton* option : options_->buttons()) {
         RestoreSystemColour(option);

@@ -26,7 +26,7 @@ class VDSettingPanel : public QFrame {
 
     const VDSetting& Setting() const { return setting_; }
 
-    /// What the buttons want, and what they get so that all of a form are equally wide. In pixels.
+    /// The width that the buttons need, and the one they get, the same for a whole form. In pixels.
     int ButtonWidth() const;
     void SetButtonWidth(int width);
 
@@ -40,7 +40,7 @@ class VDSettingPanel : public QFrame {
     /// Brings the numbers into their range, if that waits for the click.
     void ClampOnClick();
 
-    /// Shows what was reported, in green. @return false when it does not belong here
+    /// Shows a reported value in green. @return false when it does not belong here
     bool ShowReply(const VDReply& reply);
 
     /// Gives all controls the colours of the system back.
@@ -48,12 +48,12 @@ class VDSettingPanel : public QFrame {
 
   Q_SIGNALS:
     /// @param index `kSetButton` or `kGetButton`
-    void ButtonClicked(int index);
-    void ButtonLostFocus();
-    /// The text of a field is another one.
-    void FieldChanged(int field);
+    void buttonClicked(int index);
+    void buttonLostFocus();
+    /// The text of a field has changed.
+    void fieldChanged(int field);
     /// A field's spin control has stepped.
-    void FieldStepped(int field);
+    void fieldStepped(int field);
 
   public:
     void ClampField(int field);
@@ -68,8 +68,8 @@ class VDSettingPanel : public QFrame {
     QLabel* AddTitle(QGridLayout& layout);
     QLayout* LayOutControls();
     void PlaceBankRows(bool twoRows);
-    /// Around a setting whose buttons stand outside: a border around one button alone would say
-    /// that something is missing beside it.
+    /// For a setting whose buttons are outside: a border around a single button would look as if
+    /// something were missing beside it.
     void ShowBorder(bool shown);
     int ChosenOption() const;
 

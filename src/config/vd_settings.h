@@ -26,7 +26,7 @@ enum class Clamped { OnClick, OnChange };
 struct VDField {
     /// 1..15
     int parameter = 0;
-    const char* inWords = "";
+    const char* accessibleName = "";
     int index = kNoIndex;
     /// Name and caption of the label beside it, if it has one.
     const char* label = nullptr;
@@ -69,7 +69,7 @@ struct VDPlace {
 /// One setting: its frame, its controls and its two buttons.
 struct VDSetting {
     const char* frame = "";
-    const char* inWords = "";
+    const char* accessibleName = "";
     /// Stands above the controls.
     const char* title = "";
     VDPlace place = {};

@@ -77,7 +77,7 @@ QLayout* VDTab::LayOutSettings() {
 }
 
 void VDTab::ConnectControls() {
-    connect(cboVD_, &DropDownList::Chosen, this, &VDTab::cboVD_Click);
+    connect(cboVD_, &DropDownList::chosen, this, &VDTab::cboVD_Click);
     connect(cmdErase_, &QPushButton::clicked, this, &VDTab::cmdErase_Click);
     for (VDSettingPanel* panel : panels_) {
         ConnectPanel(*panel);
@@ -85,18 +85,18 @@ void VDTab::ConnectControls() {
 }
 
 void VDTab::ConnectPanel(VDSettingPanel& panel) {
-    connect(&panel, &VDSettingPanel::ButtonClicked, this, [this, &panel](int index) {
+    connect(&panel, &VDSettingPanel::buttonClicked, this, [this, &panel](int index) {
         if (&panel == masterSlavePanel_) {
             cmdMS_Click(panel, index);
         } else {
             cmdSetting_Click(panel, index);
         }
     });
-    connect(&panel, &VDSettingPanel::ButtonLostFocus, this, [&panel] { panel.RestoreColours(); });
-    connect(&panel, &VDSettingPanel::FieldStepped, this,
+    connect(&panel, &VDSettingPanel::buttonLostFocus, this, [&panel] { panel.RestoreColours(); });
+    connect(&panel, &VDSettingPanel::fieldStepped, this,
             [&panel](int field) { panel.RestoreFieldColour(field); });
     if (panel.Setting().numbers.clamped == Clamped::OnChange) {
-        connect(&panel, &VDSettingPanel::FieldChanged, this,
+        connect(&panel, &VDSettingPanel::fieldChanged, this,
                 [this, &panel](int field) { txtSetting_Change(panel, field); });
     }
 }
@@ -123,13 +123,13 @@ void VDTab::UpdateVDTypeView() {
         panel->ShowFor(view.frames, panel == masterSlavePanel_ && view.withMSFrame);
         panel->ShowVDGetButtons(view.getButtons);
     }
-    lblVDtype_->setText(Text(view.caption));
+    lblVDtype_->setText(ToQString(view.caption));
     lblVDtype_->setVisible(view.captionVisible);
 }
 
 void VDTab::cmdSetting_Click(VDSettingPanel& panel, int index) {
     panel.ClampOnClick();
-    // Several commands may follow, and without a port the user is told once.
+    // Several commands may follow; without a port one message is enough.
     if (!services_.link.CheckPort()) {
         return;
     }
@@ -143,7 +143,7 @@ void VDTab::cmdSetting_Click(VDSettingPanel& panel, int index) {
 }
 
 void VDTab::cmdMS_Click(VDSettingPanel& panel, int index) {
-    // Whichever of the two buttons it was.
+    // Either of the two buttons starts the check.
     if (SelectionOf(*cboVD_).data == kAllVDxx) {
         MasterSlaveCheck(services_, registry_).Run();
     } else {

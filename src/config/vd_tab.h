@@ -28,10 +28,10 @@ class VDTab : public QWidget {
   public:
     VDTab(const Services& services, const ModuleRegistry& registry, QWidget* parent = nullptr);
 
-    /// Fills `cboVD` anew and selects what the list says.
+    /// Fills `cboVD` again and selects what the list says.
     void Fill(const SelectionList& list);
 
-    /// Shows a traction module's configuration reply, if it is what the form is about.
+    /// Shows a traction module's configuration reply, if the form shows that module.
     void ShowVDConfigReply(const Reply& reply);
 
   private:

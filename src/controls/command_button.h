@@ -4,10 +4,18 @@
 
 #include <QPushButton>
 
+#include <functional>
+
+#include "link/link.h"
+
 namespace zelvar {
 
-/// A push button that Enter presses as well as Space. @param inWords its accessible name
-QPushButton* MakeCommandButton(const QString& caption, const QString& name, const QString& inWords,
-                               QWidget* parent);
+/// A push button that Enter presses as well as Space. @param accessibleName its accessible name
+QPushButton* MakeCommandButton(const QString& caption, const QString& name,
+                               const QString& accessibleName, QWidget* parent);
+
+/// Lets a click send one command, if the port is open. @param command makes it of what the form
+/// shows at that time
+void SendOnClick(QPushButton* button, Link& link, std::function<Command()> command);
 
 }  // namespace zelvar

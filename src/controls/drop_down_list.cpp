@@ -3,21 +3,23 @@
 #include "controls/drop_down_list.h"
 
 #include <QScopedValueRollback>
-#include <QWheelEvent>
+
+#include "controls/wheel_filter.h"
 
 namespace zelvar {
 
 DropDownList::DropDownList(QWidget* parent) : QComboBox(parent) {
-    // A choice by the user that changes the entry gives both signals, in this order.
+    FilterWheel(*this, Wheel::Never);
+    // A choice by the user that changes the entry emits both signals, in this order.
     connect(this, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (!filling_ && index >= 0) {
             reported_ = true;
-            Q_EMIT Chosen();
+            Q_EMIT chosen();
         }
     });
     connect(this, &QComboBox::activated, this, [this] {
         if (!reported_) {
-            Q_EMIT Chosen();
+            Q_EMIT chosen();
         }
         reported_ = false;
     });
@@ -42,10 +44,6 @@ int DropDownList::SelectedData(int none) const {
 void DropDownList::keyPressEvent(QKeyEvent* event) {
     reported_ = false;
     QComboBox::keyPressEvent(event);
-}
-
-void DropDownList::wheelEvent(QWheelEvent* event) {
-    event->ignore();
 }
 
 void DropDownList::showPopup() {

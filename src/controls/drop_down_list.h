@@ -6,9 +6,9 @@
 
 namespace zelvar {
 
-/// A list to choose from. Choosing an entry reports it also when it was the chosen one already,
-/// and choosing from code reports like the user's choice; filling and clearing report nothing.
-/// The wheel does not choose, since a choice acts at once.
+/// A list to choose from. Choosing an entry reports it even when it was chosen already, and a
+/// choice by code reports like the user's; filling and clearing report nothing. The wheel does not
+/// choose, since a choice acts at once.
 class DropDownList : public QComboBox {
     Q_OBJECT
 
@@ -25,19 +25,18 @@ class DropDownList : public QComboBox {
     int SelectedData(int none) const;
 
   Q_SIGNALS:
-    /// An entry was chosen; it is the current one.
-    void Chosen();
+    /// An entry was chosen; it is the current one now.
+    void chosen();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
   public:
     void showPopup() override;
 
   private:
     bool filling_ = false;
-    /// The choice at hand has been reported through the change of the current entry.
+    /// The present choice has been reported through the change of the current entry.
     bool reported_ = false;
 };
 

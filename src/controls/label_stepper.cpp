@@ -5,65 +5,76 @@
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
-#include <QWheelEvent>
 
 #include <algorithm>
 
 #include "controls/number_text.h"
+#include "controls/wheel_filter.h"
 
 namespace zelvar {
 
 namespace {
 
-/// Pixels left of the arrows, where the outline of the control is painted.
+/// Pixels left of the arrows, for the outline of the control.
 constexpr int kFrame = 1;
 
 }  // namespace
 
-UpDown::UpDown(QLabel* buddy, int minimum, int maximum, QWidget* parent)
+LabelStepper::LabelStepper(QLabel* buddy, int minimum, int maximum, QWidget* parent)
     : QAbstractSpinBox(parent), buddy_(buddy), minimum_(minimum), maximum_(maximum) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAccelerated(true);
-    // Not shown; it holds the number for assistive technology.
+    FilterWheel(*this, Wheel::WithFocus);
+    // Hidden; it holds the number for assistive technology.
     lineEdit()->setReadOnly(true);
     lineEdit()->setVisible(false);
     lineEdit()->setText(QString::number(minimum));
     buddy_->setText(QString::number(minimum));
 }
 
-int UpDown::Value() const {
+void LabelStepper::setMinimum(int minimum) {
+    minimum_ = minimum;
+    setValue(value());
+}
+
+void LabelStepper::setMaximum(int maximum) {
+    maximum_ = maximum;
+    setValue(value());
+}
+
+int LabelStepper::value() const {
     return ValToInt(buddy_->text().toStdString(), minimum_, maximum_);
 }
 
-void UpDown::SetValue(int value) {
+void LabelStepper::setValue(int value) {
     const QString text = QString::number(std::clamp(value, minimum_, maximum_));
     if (text != buddy_->text()) {
         buddy_->setText(text);
         lineEdit()->setText(text);
-        Q_EMIT Change();
+        Q_EMIT valueChanged();
     }
 }
 
-void UpDown::stepBy(int steps) {
-    SetValue(Value() + steps);
+void LabelStepper::stepBy(int steps) {
+    setValue(value() + steps);
 }
 
-QAbstractSpinBox::StepEnabled UpDown::stepEnabled() const {
+QAbstractSpinBox::StepEnabled LabelStepper::stepEnabled() const {
     StepEnabled enabled = StepNone;
-    enabled.setFlag(StepUpEnabled, Value() < maximum_);
-    enabled.setFlag(StepDownEnabled, Value() > minimum_);
+    enabled.setFlag(StepUpEnabled, value() < maximum_);
+    enabled.setFlag(StepDownEnabled, value() > minimum_);
     return enabled;
 }
 
-QSize UpDown::sizeHint() const {
+QSize LabelStepper::sizeHint() const {
     ensurePolished();
     QStyleOptionSpinBox option;
     initStyleOption(&option);
     option.direction = Qt::LeftToRight;
     const QSize content(0, lineEdit()->sizeHint().height());
     QSize size = style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
-    // Styles leave room for a text before the arrows.
+    // Styles reserve space for a text before the arrows.
     option.rect = QRect(QPoint(), size);
     const QRect up =
         style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this);
@@ -71,17 +82,8 @@ QSize UpDown::sizeHint() const {
     return size;
 }
 
-QSize UpDown::minimumSizeHint() const {
+QSize LabelStepper::minimumSizeHint() const {
     return sizeHint();
-}
-
-void UpDown::wheelEvent(QWheelEvent* event) {
-    // Scrolling past a control must not change it.
-    if (hasFocus()) {
-        QAbstractSpinBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }
 
 }  // namespace zelvar

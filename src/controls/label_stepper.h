@@ -7,42 +7,39 @@
 
 namespace zelvar {
 
-/// A spin control without a text field of its own: its number stands in a label beside it.
-class UpDown : public QAbstractSpinBox {
+/// A spin control without a text field of its own: its number is in a label beside it.
+class LabelStepper : public QAbstractSpinBox {
     Q_OBJECT
-    Q_PROPERTY(int minimum READ Minimum WRITE SetMinimum)
-    Q_PROPERTY(int maximum READ Maximum WRITE SetMaximum)
-    Q_PROPERTY(int value READ Value WRITE SetValue)
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int value READ value WRITE setValue NOTIFY valueChanged)
 
   public:
     /// @param buddy shows the number, the minimum at first; must outlive this
-    UpDown(QLabel* buddy, int minimum, int maximum, QWidget* parent = nullptr);
+    LabelStepper(QLabel* buddy, int minimum, int maximum, QWidget* parent = nullptr);
 
-    int Minimum() const { return minimum_; }
-    int Maximum() const { return maximum_; }
-    void SetMinimum(int minimum) { minimum_ = minimum; }
-    void SetMaximum(int maximum) { maximum_ = maximum; }
+    int minimum() const { return minimum_; }
+    int maximum() const { return maximum_; }
+    // Both bring the number into the new range.
+    void setMinimum(int minimum);
+    void setMaximum(int maximum);
 
-    /// The number of the label, held within the range.
-    int Value() const;
+    /// The number of the label, clamped to the range.
+    int value() const;
 
-    /// Shows a number, held within the range, and reports it when it is another one.
-    void SetValue(int value);
-
-    /// To be called after a change of the range: brings the number into it.
-    void HoldWithinRange() { SetValue(Value()); }
+    /// Shows a number, clamped to the range, and reports it when it differs.
+    void setValue(int value);
 
     void stepBy(int steps) override;
 
   Q_SIGNALS:
     /// The label shows another number.
-    void Change();
+    void valueChanged();
 
   protected:
     StepEnabled stepEnabled() const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    void wheelEvent(QWheelEvent* event) override;
 
   private:
     QLabel* buddy_;

@@ -4,12 +4,12 @@
 
 namespace zelvar {
 
-QString Text(std::string_view text) {
+QString ToQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QString IndexedName(std::string_view name, int index) {
-    return QStringLiteral("%1(%2)").arg(Text(name)).arg(index);
+QString IndexedName(std::string_view name, qsizetype index) {
+    return QStringLiteral("%1(%2)").arg(ToQString(name)).arg(index);
 }
 
 }  // namespace zelvar

@@ -9,24 +9,24 @@
 
 namespace zelvar {
 
-/// ASCII or UTF-8 text as Qt takes it.
-QString Text(std::string_view text);
+/// @param text ASCII or UTF-8
+QString ToQString(std::string_view text);
 
 /// The object name of a member of a control array: the name, then the index in round brackets.
-QString IndexedName(std::string_view name, int index);
+QString IndexedName(std::string_view name, qsizetype index);
 
-/// Gives a control the name under which it can be found and the words with which assistive
-/// technology announces it. @return the control
+/// Gives a control its object name and the name under which assistive technology announces it.
+/// @return the control
 template <typename Control>
-Control* Named(Control* control, const QString& name, const QString& inWords) {
+Control* Named(Control* control, const QString& name, const QString& accessibleName) {
     control->setObjectName(name);
-    control->setAccessibleName(inWords);
+    control->setAccessibleName(accessibleName);
     return control;
 }
 
 template <typename Control>
-Control* Named(Control* control, const char* name, const char* inWords) {
-    return Named(control, Text(name), Text(inWords));
+Control* Named(Control* control, const char* name, const char* accessibleName) {
+    return Named(control, ToQString(name), ToQString(accessibleName));
 }
 
 }  // namespace zelvar

@@ -6,7 +6,7 @@
 
 namespace zelvar {
 
-/// Reads the number at the beginning of a text: blanks are skipped, then sign, digits, decimal
+/// Reads the number at the beginning of a text: spaces are skipped, then sign, digits, decimal
 /// point and digits, and exponent, as far as they go. Anything else ends the number; no number is
 /// 0. Locale plays no part. @return finite; what is too large becomes the largest double.
 double Val(std::string_view text);

@@ -9,37 +9,23 @@ namespace zelvar {
 
 namespace {
 
-int ButtonCode(Qt::MouseButton button) {
-    switch (button) {
-        case Qt::LeftButton:
-            return kLeftButton;
-        case Qt::RightButton:
-            return kRightButton;
-        case Qt::MiddleButton:
-            return kMiddleButton;
-        default:
-            return 0;
-    }
-}
-
-int ShiftCode(Qt::KeyboardModifiers modifiers) {
-    return (modifiers.testFlag(Qt::ShiftModifier) ? kShiftKey : 0) +
-           (modifiers.testFlag(Qt::ControlModifier) ? kCtrlKey : 0) +
-           (modifiers.testFlag(Qt::AltModifier) ? kAltKey : 0);
-}
+/// The modifier keys that count; the keypad and a change of group do not.
+constexpr Qt::KeyboardModifiers kModifiers =
+    Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
 
 }  // namespace
 
 PressButton::PressButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
-    connect(this, &QPushButton::clicked, this, [this] { Q_EMIT MouseDown(kLeftButton, 0); });
+    connect(this, &QPushButton::clicked, this, [this] { Q_EMIT mouseDown(false); });
 }
 
 void PressButton::mousePressEvent(QMouseEvent* event) {
     event->accept();
-    // Shown as pressed while it works; the release may come when another window has the mouse.
+    // Shown as pressed while it works; another window may have the mouse at the release.
     setDown(true);
     repaint();
-    Q_EMIT MouseDown(ButtonCode(event->button()), ShiftCode(event->modifiers()));
+    Q_EMIT mouseDown(event->button() == Qt::LeftButton &&
+                     (event->modifiers() & kModifiers) == Qt::ShiftModifier);
     setDown(false);
 }
 

@@ -30,7 +30,7 @@ void SecondaryWindow::BringIntoView(bool activate) {
 
 void SecondaryWindow::closeEvent(QCloseEvent* event) {
     event->accept();
-    Q_EMIT Closed();
+    Q_EMIT closed();
 }
 
 }  // namespace zelvar

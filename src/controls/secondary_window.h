@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace zelvar {
@@ -16,51 +17,50 @@ class SecondaryWindow : public QWidget {
   public:
     explicit SecondaryWindow(const QString& name, const QString& caption);
 
-    /// Shows the window and puts it before the others. @param activate gives it the keyboard, too
+    /// Shows the window in front of the others. @param activate gives it the keyboard, too
     void BringIntoView(bool activate);
 
   Q_SIGNALS:
     /// The user has closed the window.
-    void Closed();
+    void closed();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
 };
 
-/// Holds a secondary window that is created when it is first needed, shown or not.
+/// Owns a secondary window that is created when it is first needed, shown or not.
 template <typename Window>
 class LazyWindow {
   public:
     enum class OnClose { Unload, Keep };
 
-    explicit LazyWindow(OnClose onClose, std::function<Window*()> make)
+    using Make = std::function<std::unique_ptr<Window>()>;
+
+    explicit LazyWindow(
+        OnClose onClose, Make make = [] { return std::make_unique<Window>(); })
         : onClose_(onClose), make_(std::move(make)) {}
-    ~LazyWindow() { Unload(); }
-    LazyWindow(const LazyWindow&) = delete;
-    LazyWindow& operator=(const LazyWindow&) = delete;
 
     Window& Get() {
         if (window_ == nullptr) {
             window_ = make_();
             if (onClose_ == OnClose::Unload) {
-                QObject::connect(window_, &SecondaryWindow::Closed, window_, [this] {
-                    window_->deleteLater();
-                    window_ = nullptr;
-                });
+                // The window is still handling the event that closes it.
+                QObject::connect(window_.get(), &SecondaryWindow::closed, window_.get(),
+                                 [this] { window_.release()->deleteLater(); });
             }
         }
         return *window_;
     }
 
     /// Null while the window is not loaded.
-    Window* Peek() const { return window_; }
+    Window* Peek() const { return window_.get(); }
 
-    void Unload() { delete std::exchange(window_, nullptr); }
+    void Unload() { window_.reset(); }
 
   private:
     OnClose onClose_;
-    std::function<Window*()> make_;
-    Window* window_ = nullptr;
+    Make make_;
+    std::unique_ptr<Window> window_;
 };
 
 }  // namespace zelvar

@@ -4,8 +4,8 @@
 
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QWheelEvent>
 
+#include "controls/wheel_filter.h"
 #include "platform/nested_loop.h"
 
 namespace zelvar {
@@ -41,12 +41,14 @@ SpeedSlider::SpeedSlider(int maximum, QWidget* parent) : QSlider(Qt::Horizontal,
     setSingleStep(kSmallStep);
     setPageStep(kLargeStep);
     setFocusPolicy(Qt::StrongFocus);
+    // Scrolling past must not drive a train.
+    FilterWheel(*this, Wheel::WithFocus);
     report_.setSingleShot(true);
     connect(&report_, &QTimer::timeout, this, &SpeedSlider::ReportNewest);
     connect(this, &QSlider::valueChanged, this, &SpeedSlider::ValueChanged);
 }
 
-void SpeedSlider::Put(int value) {
+void SpeedSlider::putValue(int value) {
     const bool unreported = report_.isActive();
     report_.stop();
     if (value != QSlider::value()) {
@@ -58,20 +60,11 @@ void SpeedSlider::Put(int value) {
 
 bool SpeedSlider::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) {
-        LetGo();
+        ReleaseMouse();
     }
     const QScopedValueRollback<bool> input(inUserInput_,
                                            inUserInput_ || IsUserInput(event->type()));
     return QSlider::event(event);
-}
-
-void SpeedSlider::wheelEvent(QWheelEvent* event) {
-    // Scrolling past must not drive a train.
-    if (hasFocus()) {
-        QSlider::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }
 
 void SpeedSlider::ValueChanged() {
@@ -95,7 +88,7 @@ void SpeedSlider::ReportNewest() {
 }
 
 void SpeedSlider::ReportIfNew() {
-    // The hand may have come back to where it was.
+    // The user may have returned to the value that was reported last.
     if (value() != lastReported_) {
         Report();
     }
@@ -103,11 +96,11 @@ void SpeedSlider::ReportIfNew() {
 
 void SpeedSlider::Report() {
     lastReported_ = value();
-    Q_EMIT Change();
+    Q_EMIT valueReported();
 }
 
-void SpeedSlider::LetGo() {
-    // The box gets the mouse from here on, so the real release never arrives.
+void SpeedSlider::ReleaseMouse() {
+    // The box has the mouse from here on, so the real release never arrives.
     const QPointF place = rect().center();
     QMouseEvent release(QEvent::MouseButtonRelease, place, mapToGlobal(place), Qt::LeftButton,
                         Qt::NoButton, Qt::NoModifier);

@@ -5,33 +5,34 @@
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
-#include <QWheelEvent>
 
 #include <algorithm>
 
 #include "controls/number_text.h"
+#include "controls/wheel_filter.h"
 
 namespace zelvar {
 
-SpinField::SpinField(const QString& spinName, const QString& fieldName, const QString& inWords,
-                     int minimum, int maximum, QWidget* parent)
+SpinField::SpinField(const QString& spinName, const QString& fieldName,
+                     const QString& accessibleName, int minimum, int maximum, QWidget* parent)
     : QAbstractSpinBox(parent), minimum_(minimum), maximum_(maximum) {
     setObjectName(spinName);
-    setAccessibleName(inWords);
+    setAccessibleName(accessibleName);
     lineEdit()->setObjectName(fieldName);
-    lineEdit()->setAccessibleName(inWords);
+    lineEdit()->setAccessibleName(accessibleName);
     lineEdit()->setText(QString::number(std::clamp(0, minimum, maximum)));
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAccelerated(true);
-    connect(lineEdit(), &QLineEdit::textChanged, this, &SpinField::Change);
+    FilterWheel(*this, Wheel::WithFocus);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &SpinField::textChanged);
 }
 
-int SpinField::Value() const {
+int SpinField::value() const {
     return ValToInt(text().toStdString(), minimum_, maximum_);
 }
 
-void SpinField::Clamp() {
+void SpinField::clamp() {
     const double number = Val(text().toStdString());
     if (number < minimum_) {
         lineEdit()->setText(QString::number(minimum_));
@@ -41,10 +42,10 @@ void SpinField::Clamp() {
 }
 
 void SpinField::stepBy(int steps) {
-    const int value = std::clamp(Value() + steps, minimum_, maximum_);
-    lineEdit()->setText(QString::number(value));
+    const int number = std::clamp(value() + steps, minimum_, maximum_);
+    lineEdit()->setText(QString::number(number));
     lineEdit()->selectAll();
-    Q_EMIT Stepped();
+    Q_EMIT stepped();
 }
 
 QValidator::State SpinField::validate(QString& /*input*/, int& /*position*/) const {
@@ -59,15 +60,6 @@ QAbstractSpinBox::StepEnabled SpinField::stepEnabled() const {
     enabled.setFlag(StepUpEnabled, number < maximum_);
     enabled.setFlag(StepDownEnabled, number > minimum_);
     return enabled;
-}
-
-void SpinField::wheelEvent(QWheelEvent* event) {
-    // Scrolling past a field must not change it.
-    if (hasFocus()) {
-        QAbstractSpinBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }
 
 QSize SpinField::sizeHint() const {
@@ -85,6 +77,17 @@ QSize SpinField::sizeHint() const {
 
 QSize SpinField::minimumSizeHint() const {
     return sizeHint();
+}
+
+SpinField* ClampedField(const QString& spinName, const QString& fieldName,
+                        const QString& accessibleName, int minimum, int maximum, QWidget* parent,
+                        QLabel* buddy) {
+    auto* field = new SpinField(spinName, fieldName, accessibleName, minimum, maximum, parent);
+    QObject::connect(field, &SpinField::textChanged, field, &SpinField::clamp);
+    if (buddy != nullptr) {
+        buddy->setBuddy(field);
+    }
+    return field;
 }
 
 }  // namespace zelvar

@@ -3,35 +3,36 @@
 #pragma once
 
 #include <QAbstractSpinBox>
+#include <QLabel>
 
 namespace zelvar {
 
-/// A spin control with its text field. The field takes any text, since what is wrong is clamped
-/// and never refused; the control steps from whatever number the field shows.
+/// A spin control with its text field. The field takes any text, since a wrong number is clamped
+/// and never refused; the control steps from the number that the field shows.
 class SpinField : public QAbstractSpinBox {
     Q_OBJECT
-    Q_PROPERTY(int minimum READ Minimum WRITE SetMinimum)
-    Q_PROPERTY(int maximum READ Maximum WRITE SetMaximum)
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
 
   public:
     /// @param spinName, fieldName object names of the spin control and of its text field
-    /// @param inWords accessible name of both
-    SpinField(const QString& spinName, const QString& fieldName, const QString& inWords,
+    /// @param accessibleName of both
+    SpinField(const QString& spinName, const QString& fieldName, const QString& accessibleName,
               int minimum, int maximum, QWidget* parent = nullptr);
 
-    int Minimum() const { return minimum_; }
-    int Maximum() const { return maximum_; }
-    void SetMinimum(int minimum) { minimum_ = minimum; }
-    void SetMaximum(int maximum) { maximum_ = maximum; }
+    int minimum() const { return minimum_; }
+    int maximum() const { return maximum_; }
+    void setMinimum(int minimum) { minimum_ = minimum; }
+    void setMaximum(int maximum) { maximum_ = maximum; }
 
-    QLineEdit* Field() const { return lineEdit(); }
+    using QAbstractSpinBox::lineEdit;
 
-    /// The number of the text, rounded (a half to the even neighbour) and held within the range.
-    int Value() const;
+    /// The number of the text, rounded (a half to the even neighbour) and clamped to the range.
+    int value() const;
 
     /// Brings the text into the range, in place: a number above the maximum becomes the maximum,
     /// one below the minimum the minimum; any other text stays as it is.
-    void Clamp();
+    void clamp();
 
     void stepBy(int steps) override;
     QValidator::State validate(QString& input, int& position) const override;
@@ -40,18 +41,23 @@ class SpinField : public QAbstractSpinBox {
     QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
-    /// The text is another one, whoever changed it.
-    void Change();
-    /// The spin control has stepped.
-    void Stepped();
+    /// Emitted on every text change, by user or code.
+    void textChanged();
+    /// The user has stepped with an arrow or a key.
+    void stepped();
 
   protected:
     StepEnabled stepEnabled() const override;
-    void wheelEvent(QWheelEvent* event) override;
 
   private:
     int minimum_;
     int maximum_;
 };
+
+/// A number field whose text is clamped to its range on every change.
+/// @param buddy gives the keyboard to the field; may be null
+SpinField* ClampedField(const QString& spinName, const QString& fieldName,
+                        const QString& accessibleName, int minimum, int maximum, QWidget* parent,
+                        QLabel* buddy = nullptr);
 
 }  // namespace zelvar

@@ -11,20 +11,15 @@
 
 #include "controls/fixed_pitch_font.h"
 #include "controls/naming.h"
+#include "controls/twips.h"
 
 namespace zelvar {
-
-namespace {
-
-constexpr int kTwipsPerPixel = 15;
-
-}  // namespace
 
 LogWindowKind MessageLogKind() {
     return {QStringLiteral("dlgMsgLog"),
             QStringLiteral("Message Log"),
             QStringLiteral("txtMsgLog"),
-            QSize(7095 / kTwipsPerPixel, 6855 / kTwipsPerPixel),
+            QSize(Pixels(7095), Pixels(6855)),
             QStringLiteral(">> 4F 81 82 83 84 85 86 87 D8  << 4F 81 82 83 84 85 86 87 D8"),
             true};
 }
@@ -33,7 +28,7 @@ LogWindowKind AlarmLogKind() {
     return {QStringLiteral("dlgAlarmLog"),
             QStringLiteral("ZelvarConfig Alarm Log"),
             QStringLiteral("txtAlarmLog"),
-            QSize(3375 / kTwipsPerPixel, 6855 / kTwipsPerPixel),
+            QSize(Pixels(3375), Pixels(6855)),
             QStringLiteral("Overcurrent block 255 detected ............."),
             false};
 }
@@ -53,7 +48,7 @@ LogWindow::LogWindow(const LogWindowKind& kind)
 
     auto* clear =
         Named(new QPushButton(QStringLiteral("Clear Log"), this), "cmdClear", "Clear the log");
-    connect(clear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
+    connect(clear, &QPushButton::clicked, this, &LogWindow::cmdClear_Click);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(text_);
@@ -95,7 +90,7 @@ void LogWindow::Append(const QString& text) {
     if (atEnd) {
         scrollBar->setValue(scrollBar->maximum());
     } else {
-        // What the user reads stays in place while the lines above it become fewer.
+        // The lines that the user reads stay in place while those above them become fewer.
         scrollBar->setValue(std::max(0, firstInView - dropped));
     }
 }

@@ -13,7 +13,7 @@ enum class BoxIcon { Plain, Exclamation, Critical };
 enum class BoxButtons { Ok, OkCancel, YesNo };
 enum class BoxAnswer { Ok, Cancel, Yes, No };
 
-/// The one door through which the user is told or asked something. Modal: the call returns when
+/// The one door through which the program informs or asks the user. Modal: the call returns when
 /// the box is closed.
 class MessageBox {
   public:

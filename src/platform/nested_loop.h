@@ -5,8 +5,8 @@
 namespace zelvar {
 
 /// Marks a nested event loop as turning, for as long as it lives. A handler is still running then:
-/// timers drop their ticks, and a slider keeps its news until the handler has ended. Whatever lets
-/// the event loop turn inside a handler holds one of these.
+/// timers drop their ticks, and a slider delays its report until the handler has ended. Code that
+/// lets the event loop turn inside a handler holds one of these.
 class NestedLoop {
   public:
     NestedLoop() { ++depth_; }

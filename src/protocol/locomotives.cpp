@@ -15,7 +15,7 @@ constexpr int kAnalogLightOn = 16;
 
 constexpr int kDcc28Code = 40;
 constexpr int kDcc126Code = 44;
-/// Tells a speed from a set of functions.
+/// Marks a speed, as opposed to a set of functions.
 constexpr int kDcc28Speed = 64;
 constexpr int kDcc28Forward = 32;
 // The speeds that mean an emergency stop.

@@ -59,7 +59,7 @@ std::optional<Command> DccFunctions(int group, int block, const DccFunctionSet& 
 constexpr int kMccTopSpeed15 = 15;
 constexpr int kMccTopSpeed30 = 30;
 
-/// The code of a speed step. @param topSpeed tells the step mode: 30, or anything else for 15
+/// The code of a speed step. @param topSpeed stands for the step mode: 30, or anything else for 15
 /// @return 1..31, where 16 is standstill; 0 would be the emergency stop
 int MccSpeedCode(int speed, int topSpeed);
 

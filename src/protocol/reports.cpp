@@ -8,17 +8,8 @@ OvercurrentReport ReadOvercurrentReport(const Reply& reply) {
     return {(reply[1] & 0x01) * kPayloadRange + reply[2], (reply[1] & 0x02) != 0};
 }
 
-std::string AlarmLine(const OvercurrentReport& report) {
-    return "Overcurrent block " + std::to_string(report.block) +
-           (report.detected ? " detected ............." : " .............. released") + "\r\n";
-}
-
 BlockSpeedReport ReadBlockSpeedReport(const Reply& reply) {
     return {(reply[1] & 0x01) * kPayloadRange + reply[2], reply[3] & 0x3F, (reply[3] & 0x40) != 0};
-}
-
-std::string SpeedReadOut(int speed, bool forward) {
-    return (forward ? ">>" : "<<") + std::to_string(speed);
 }
 
 FeedbackReport ReadFeedbackReport(const Reply& reply) {

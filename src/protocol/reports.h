@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
 #include "protocol/reply.h"
 
 namespace zelvar {
@@ -22,9 +20,6 @@ struct OvercurrentReport {
 
 OvercurrentReport ReadOvercurrentReport(const Reply& reply);
 
-/// The line of the alarm log, with its line end.
-std::string AlarmLine(const OvercurrentReport& report);
-
 struct BlockSpeedReport {
     /// 0..255
     int block = 0;
@@ -36,9 +31,6 @@ struct BlockSpeedReport {
 };
 
 BlockSpeedReport ReadBlockSpeedReport(const Reply& reply);
-
-/// The read-out of a speed: the direction mark, then the speed without a blank, such as ">>12".
-std::string SpeedReadOut(int speed, bool forward);
 
 struct FeedbackReport {
     /// 0..2047

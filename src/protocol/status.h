@@ -25,6 +25,12 @@ Command ProtocolVersionRequest();
 /// @return as `DecodeVersion` gives it; nothing when this is not the answer
 std::optional<int> ReadProtocolVersion(const Reply& reply);
 
+// The types of central units; a unit may report another code.
+constexpr int kUnitKBF = 1;
+constexpr int kUnitKBE = 2;
+constexpr int kUnitKBG = 3;
+constexpr int kUnitQlrx = 10;
+
 /// The central unit as a status request found it.
 struct CentralUnit {
     /// The code of its type, -1 until known.

@@ -54,7 +54,7 @@ std::vector<CommandRow> TractionCommands() {
     using Arguments = std::span<const int>;
     const CommandParameter line{"line", 0, kVDLines - 1};
     const CommandParameter permanent{"permanent", 0, 1};
-    const CommandParameter parameter{"parameter", 1, 15};
+    const CommandParameter parameter{"parameter", 1, kPermanentBit - 1};
     return {
         {"traction-set",
          {line, permanent, parameter, {"value", 0, 127}},

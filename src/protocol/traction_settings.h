@@ -11,13 +11,14 @@
 
 namespace zelvar {
 
-// The settings of the traction modules, one value for each parameter 1..15 in each memory.
+// The settings of the traction modules, one value for each parameter in each memory. A parameter is
+// 1..63: what exceeds it is the permanent bit.
 
 constexpr int kMasterSlaveParameter = 11;
 /// Read from the active memory of a VD-F or VD60: the state of its clock.
 constexpr int kClockStateParameter = 15;
 
-/// @param parameter 1..15 @param value 0..127
+/// @param parameter 1..63 @param value 0..127
 ModuleCommand VDSetCommand(bool permanent, int parameter, int value);
 
 /// It carries the value of the form, too, but its length leaves it out.

@@ -11,7 +11,7 @@ namespace zelvar {
 /// @return 0..15857
 int DecodeVersion(int high, int low);
 
-/// A digit, a point and two digits; then, when the last decimal digit is not 0, a blank and the
+/// A digit, a point and two digits; then, when the last decimal digit is not 0, a space and the
 /// letter that it stands for. @param version at least 0
 std::string FormatVersion(int version);
 

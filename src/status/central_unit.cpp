@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "status/central_unit.h"
 
-#include <limits>
-
 namespace zelvar {
 
 namespace {
@@ -12,27 +10,18 @@ struct UnitRow {
     int type;
     std::string_view caption;
     std::string_view prefix;
-    /// The last version to which `upToLimit` applies.
-    int limit;
-    KBConfigView upToLimit;
-    KBConfigView above;
 };
-
-constexpr int kNoLimit = std::numeric_limits<int>::max();
-constexpr KBConfigView kHidden{false, false, false};
-constexpr KBConfigView kFull{true, true, false};
-constexpr KBConfigView kFullAndSpare{true, true, true};
 
 constexpr UnitRow kUnits[] = {
     // The prefix of a KB-F has no space: its version follows directly (KB-F1.02). This is
     // intentional.
-    {1, "KB-F", "KB-F", kNoLimit, kHidden, kHidden},
-    {2, "KB-E", "KB-E ", 1010, kFull, kFullAndSpare},
-    {3, "KB-G", "KB-G ", 1010, kFull, kFullAndSpare},
-    {10, "QLRX", "QLRX ", 1020, {true, false, false}, {true, false, true}},
+    {kUnitKBF, "KB-F", "KB-F"},
+    {kUnitKBE, "KB-E", "KB-E "},
+    {kUnitKBG, "KB-G", "KB-G "},
+    {kUnitQlrx, "QLRX", "QLRX "},
 };
 
-constexpr UnitRow kUnknownUnit{-1, "?", "?", kNoLimit, kFullAndSpare, kFullAndSpare};
+constexpr UnitRow kUnknownUnit{-1, "?", "?"};
 
 const UnitRow& RowOf(const CentralUnit& unit) {
     for (const UnitRow& row : kUnits) {
@@ -55,11 +44,6 @@ std::string SystemVersionText(const CentralUnit& unit) {
         text += FormatVersion(unit.version);
     }
     return text;
-}
-
-KBConfigView KBConfigViewOf(const CentralUnit& unit) {
-    const UnitRow& row = RowOf(unit);
-    return unit.version <= row.limit ? row.upToLimit : row.above;
 }
 
 }  // namespace zelvar

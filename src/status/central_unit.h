@@ -9,23 +9,10 @@
 
 namespace zelvar {
 
-/// What the "KB-x" tab shows of its controls.
-struct KBConfigView {
-    bool showFrame = true;
-    bool full = true;
-    /// Told, but without effect.
-    bool spare = true;
-
-    bool operator==(const KBConfigView&) const = default;
-};
-
 /// The caption of `lblKBtype`, "?" for an unknown type.
 std::string_view CentralUnitCaption(const CentralUnit& unit);
 
 /// The text of the system-version fields: the type's prefix, then the version when known.
 std::string SystemVersionText(const CentralUnit& unit);
-
-/// Which controls of the "KB-x" tab the unit supports.
-KBConfigView KBConfigViewOf(const CentralUnit& unit);
 
 }  // namespace zelvar

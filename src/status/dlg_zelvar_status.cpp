@@ -10,6 +10,7 @@
 
 #include <cstddef>
 
+#include "controls/caption_label.h"
 #include "controls/naming.h"
 
 namespace zelvar {
@@ -23,8 +24,8 @@ QFrame* NewPanel(QWidget* parent) {
 }
 
 /// A display field that a small screen cannot squeeze until its text is cut.
-QLineEdit* NewWideField(const QString& name, const QString& inWords, QWidget* parent) {
-    QLineEdit* field = NewDisplayField(name, inWords, parent);
+QLineEdit* NewWideField(const QString& name, const QString& accessibleName, QWidget* parent) {
+    QLineEdit* field = NewDisplayField(name, accessibleName, parent);
     // A line edit asks for so many of these, and what its frame and margins take.
     constexpr int kPreferredLetters = 17;
     const QFontMetrics metrics = field->fontMetrics();
@@ -58,7 +59,7 @@ QWidget* DlgZelvarStatus::BuildSystem() {
     auto* fields = new QHBoxLayout;
     for (int i = 0; i < static_cast<int>(txtDIP_.size()); ++i) {
         const QString number = QString::number(i + 1);
-        QLabel* label = NewLabel(IndexedName("lblDIP", i), number, panel);
+        QLabel* label = CaptionLabel(IndexedName("lblDIP", i), number, panel);
         label->setAlignment(Qt::AlignHCenter);
         numbers->addWidget(label);
         QLineEdit* field = NewDisplayField(IndexedName("txtDIP", i),
@@ -66,11 +67,11 @@ QWidget* DlgZelvarStatus::BuildSystem() {
         field->setFixedWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("Off")) * 2);
         label->setFixedWidth(field->minimumWidth());
         fields->addWidget(field);
-        txtDIP_[static_cast<std::size_t>(i)] = field;
+        txtDIP_[i] = field;
     }
-    // The two trailing blanks belong to the caption.
-    grid->addWidget(NewLabel(QStringLiteral("lblDIPstat"), QStringLiteral("DIP status  "), panel),
-                    4, 0);
+    // The two trailing spaces belong to the caption.
+    grid->addWidget(
+        CaptionLabel(QStringLiteral("lblDIPstat"), QStringLiteral("DIP status  "), panel), 4, 0);
     grid->addLayout(numbers, 3, 1);
     grid->addLayout(fields, 4, 1);
     return panel;
@@ -79,15 +80,17 @@ QWidget* DlgZelvarStatus::BuildSystem() {
 QWidget* DlgZelvarStatus::BuildPointMotorModules() {
     QFrame* panel = NewPanel(this);
     auto* grid = new QGridLayout(panel);
-    grid->addWidget(NewLabel(QStringLiteral("lblJSmodule"), QStringLiteral("Module"), panel), 0, 0);
-    grid->addWidget(NewLabel(QStringLiteral("lblJSstatus"), QStringLiteral("Status"), panel), 0, 1);
+    grid->addWidget(CaptionLabel(QStringLiteral("lblJSmodule"), QStringLiteral("Module"), panel), 0,
+                    0);
+    grid->addWidget(CaptionLabel(QStringLiteral("lblJSstatus"), QStringLiteral("Status"), panel), 0,
+                    1);
     for (int j = 0; j < kClassicJsModules; ++j) {
         const QString module = QStringLiteral("JS#%1").arg(j);
         QLineEdit* field = NewWideField(IndexedName("txtJSstatus", j),
                                         QStringLiteral("Status of %1").arg(module), panel);
-        grid->addWidget(NewLabel(IndexedName("lblJS", j), module, panel), j + 1, 0);
+        grid->addWidget(CaptionLabel(IndexedName("lblJS", j), module, panel), j + 1, 0);
         grid->addWidget(field, j + 1, 1);
-        txtJSstatus_[static_cast<std::size_t>(j)] = field;
+        txtJSstatus_[j] = field;
     }
     return panel;
 }
@@ -96,19 +99,20 @@ QWidget* DlgZelvarStatus::BuildTractionModules() {
     QFrame* panel = NewPanel(this);
     auto* grid = new QGridLayout(panel);
     grid->setVerticalSpacing(2);
-    grid->addWidget(NewLabel(QStringLiteral("lblVDmodule"), QStringLiteral("Module"), panel), 0, 0);
-    grid->addWidget(NewLabel(QStringLiteral("lblVDtype"), QStringLiteral("Type"), panel), 0, 1);
-    grid->addWidget(NewLabel(QStringLiteral("lblVDstatus"), QStringLiteral("Status"), panel), 0, 2);
+    grid->addWidget(CaptionLabel(QStringLiteral("lblVDmodule"), QStringLiteral("Module"), panel), 0,
+                    0);
+    grid->addWidget(CaptionLabel(QStringLiteral("lblVDtype"), QStringLiteral("Type"), panel), 0, 1);
+    grid->addWidget(CaptionLabel(QStringLiteral("lblVDstatus"), QStringLiteral("Status"), panel), 0,
+                    2);
     for (int m = 0; m < kClassicVDLines; ++m) {
-        const auto index = static_cast<std::size_t>(m);
         const QString module = QStringLiteral("VD#%1").arg(m);
-        txtVDtype_[index] = NewWideField(IndexedName("txtVDtype", m),
-                                         QStringLiteral("Type of %1").arg(module), panel);
-        txtVDstatus_[index] = NewWideField(IndexedName("txtVDstatus", m),
-                                           QStringLiteral("Status of %1").arg(module), panel);
-        grid->addWidget(NewLabel(IndexedName("lblVD", m), module, panel), m + 1, 0);
-        grid->addWidget(txtVDtype_[index], m + 1, 1);
-        grid->addWidget(txtVDstatus_[index], m + 1, 2);
+        txtVDtype_[m] = NewWideField(IndexedName("txtVDtype", m),
+                                     QStringLiteral("Type of %1").arg(module), panel);
+        txtVDstatus_[m] = NewWideField(IndexedName("txtVDstatus", m),
+                                       QStringLiteral("Status of %1").arg(module), panel);
+        grid->addWidget(CaptionLabel(IndexedName("lblVD", m), module, panel), m + 1, 0);
+        grid->addWidget(txtVDtype_[m], m + 1, 1);
+        grid->addWidget(txtVDstatus_[m], m + 1, 2);
     }
     return panel;
 }
@@ -122,11 +126,11 @@ void DlgZelvarStatus::Show(const SystemStatus& status) {
         ShowInField(*txtDIP_[i], position);
     }
     for (std::size_t j = 0; j < txtJSstatus_.size(); ++j) {
-        ShowInField(*txtJSstatus_[j], Text(ModuleStateText(status.js[j].state)));
+        ShowInField(*txtJSstatus_[j], ToQString(ModuleStateText(status.js[j].state)));
     }
     for (std::size_t m = 0; m < txtVDtype_.size(); ++m) {
-        ShowInField(*txtVDtype_[m], Text(ClassicVDTypeText(status.vdTypes[m])));
-        ShowInField(*txtVDstatus_[m], Text(ModuleStateText(status.vd[m].state)));
+        ShowInField(*txtVDtype_[m], ToQString(ClassicVDTypeText(status.vdTypes[m])));
+        ShowInField(*txtVDstatus_[m], ToQString(ModuleStateText(status.vd[m].state)));
     }
 }
 

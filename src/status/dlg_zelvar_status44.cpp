@@ -4,20 +4,15 @@
 
 #include <QGridLayout>
 
-#include <cmath>
 #include <cstddef>
 
+#include "controls/caption_label.h"
 #include "controls/naming.h"
+#include "controls/twips.h"
 
 namespace zelvar {
 
 namespace {
-
-constexpr double kTwipsPerPixel = 15;
-
-int Pixels(int twips) {
-    return static_cast<int>(std::lround(twips / kTwipsPerPixel));
-}
 
 /// Geometry in twips.
 struct FrameRow {
@@ -51,13 +46,34 @@ constexpr int kJsPerChannel = 8;
 /// Small enough for 16 rows and six columns in a frame of fixed size.
 constexpr int kRowFontPixels = 11;
 
+const DlgZelvarStatus44::ModuleFrames kPointMotorModules{
+    kJsFrames,
+    "Point-motor",
+    kJsPerChannel,
+    {{{"lblJSmodule", "#", 1}, {"lblJSstatus", "Status", 1}, {"lblJSversion", "Version", 1}}},
+    "lblJS",
+    "txtJSstatus",
+    "txtJSver"};
+
+const DlgZelvarStatus44::ModuleFrames kSignalControllers{
+    kYRFrames,
+    "Signal",
+    kModulesPerChannel,
+    {{{"lblYRmodule", "#", 1}, {"lblYRstatus", "Status", 1}, {"lblYRversion", "Version", 1}}},
+    "lblYR",
+    "txtYRstatus",
+    "txtYRver"};
+
 /// The frame of a channel: the pairs list channel 0 first.
 int FrameOf(int firstOfPair, int channel) {
     return firstOfPair + channel;
 }
 
 QString ModuleInWords(const char* family, int channel, int module) {
-    return QStringLiteral("%1 module %2 on channel %3").arg(Text(family)).arg(module).arg(channel);
+    return QStringLiteral("%1 module %2 on channel %3")
+        .arg(ToQString(family))
+        .arg(module)
+        .arg(channel);
 }
 
 }  // namespace
@@ -68,9 +84,9 @@ DlgZelvarStatus44::DlgZelvarStatus44()
     BuildSystem();
     BuildFrames();
     for (const int channel : {0, 1}) {
-        BuildPointMotorModules(channel);
+        BuildModules(kPointMotorModules, channel, txtJSstatus_, txtJSver_);
         BuildTractionModules(channel);
-        BuildSignalControllers(channel);
+        BuildModules(kSignalControllers, channel, txtYRstatus_, txtYRver_);
     }
     // The box starts unticked while all frames show; the layout follows it from its first click.
     Resize(kWidthWithChannel0);
@@ -96,7 +112,7 @@ void DlgZelvarStatus44::BuildSystem() {
 void DlgZelvarStatus44::BuildFrames() {
     for (std::size_t i = 0; i < kFrames.size(); ++i) {
         const FrameRow& row = kFrames[i];
-        const QString caption = Text(row.caption);
+        const QString caption = ToQString(row.caption);
         auto* frame = Named(new QGroupBox(caption, this),
                             IndexedName("frmStatus", static_cast<int>(i)), caption);
         frame->setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
@@ -109,20 +125,19 @@ void DlgZelvarStatus44::BuildFrames() {
 }
 
 QGridLayout* DlgZelvarStatus44::NewRows(int frame, int columns) {
-    const auto index = static_cast<std::size_t>(frame);
-    auto* grid = new QGridLayout(frmStatus_[index]);
+    auto* grid = new QGridLayout(frmStatus_[frame]);
     grid->setContentsMargins(2, 2, 2, 3);
     grid->setSpacing(1);
     grid->addWidget(
-        NewLabel(IndexedName("lblSSchannel", frame),
-                 QStringLiteral("Channel %1").arg(kFrames[index].channel), frmStatus_[index]),
+        CaptionLabel(IndexedName("lblSSchannel", frame),
+                     QStringLiteral("Channel %1").arg(kFrames[frame].channel), frmStatus_[frame]),
         0, 0, 1, columns);
     return grid;
 }
 
-QLineEdit* DlgZelvarStatus44::NewField(const char* name, int index, const QString& inWords,
+QLineEdit* DlgZelvarStatus44::NewField(const char* name, int index, const QString& accessibleName,
                                        QGroupBox* frame) {
-    QLineEdit* field = NewDisplayField(IndexedName(name, index), inWords, frame);
+    QLineEdit* field = NewDisplayField(IndexedName(name, index), accessibleName, frame);
     field->setFrame(false);
     field->setTextMargins(0, 0, 0, 0);
     field->setMinimumWidth(1);
@@ -134,7 +149,7 @@ QLineEdit* DlgZelvarStatus44::NewField(const char* name, int index, const QStrin
 void DlgZelvarStatus44::AddNumber(QGridLayout* grid, int row, const char* name, int index,
                                   int module) {
     QLabel* label =
-        NewLabel(IndexedName(name, index), QString::number(module), grid->parentWidget());
+        CaptionLabel(IndexedName(name, index), QString::number(module), grid->parentWidget());
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setContentsMargins(0, 0, 2, 0);
     if (index != module) {
@@ -143,12 +158,11 @@ void DlgZelvarStatus44::AddNumber(QGridLayout* grid, int row, const char* name, 
     grid->addWidget(label, row, 0);
 }
 
-void DlgZelvarStatus44::AddHeads(QGridLayout* grid, int channel,
-                                 std::initializer_list<Head> heads) {
+void DlgZelvarStatus44::AddHeads(QGridLayout* grid, int channel, std::span<const Head> heads) {
     int column = 0;
     for (const Head& head : heads) {
-        QLabel* label =
-            NewLabel(IndexedName(head.name, channel), Text(head.caption), grid->parentWidget());
+        QLabel* label = CaptionLabel(IndexedName(head.name, channel), ToQString(head.caption),
+                                     grid->parentWidget());
         if (column == 0) {
             label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             label->setContentsMargins(0, 0, 2, 0);
@@ -160,13 +174,13 @@ void DlgZelvarStatus44::AddHeads(QGridLayout* grid, int channel,
 
 void DlgZelvarStatus44::BuildTractionModules(int channel) {
     const int frameIndex = FrameOf(kVDFrames, channel);
-    QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
+    QGroupBox* frame = frmStatus_[frameIndex];
     QGridLayout* grid = NewRows(frameIndex, 6);
-    AddHeads(grid, channel,
-             {{"lblVDmodule", "#", 1},
-              {"lblVDtype", "Type", 1},
-              {"lblVDprimary", "Primary", 2},
-              {"lblVDsecondary", "Secondary", 2}});
+    constexpr Head kHeads[] = {{"lblVDmodule", "#", 1},
+                               {"lblVDtype", "Type", 1},
+                               {"lblVDprimary", "Primary", 2},
+                               {"lblVDsecondary", "Secondary", 2}};
+    AddHeads(grid, channel, kHeads);
     for (int module = 0; module < kModulesPerChannel; ++module) {
         const int row = module + 2;
         const int line = channel * kModulesPerChannel + module;
@@ -174,7 +188,7 @@ void DlgZelvarStatus44::BuildTractionModules(int channel) {
         AddNumber(grid, row, "lblVD", line, module);
         QLineEdit* type = NewField("txtVDtype", line, QStringLiteral("Type of ") + words, frame);
         grid->addWidget(type, row, 1);
-        txtVDtype_[static_cast<std::size_t>(line)] = type;
+        txtVDtype_[line] = type;
         for (const int unit : {0, 1}) {
             const int index = line + unit * kVDPrimaryLines;
             const QString unitWords = (unit == 0 ? QStringLiteral("primary unit of ")
@@ -186,8 +200,8 @@ void DlgZelvarStatus44::BuildTractionModules(int channel) {
                 NewField("txtVDversion", index, QStringLiteral("Version of ") + unitWords, frame);
             grid->addWidget(state, row, 2 + 2 * unit);
             grid->addWidget(version, row, 3 + 2 * unit);
-            txtVDstatus_[static_cast<std::size_t>(index)] = state;
-            txtVDversion_[static_cast<std::size_t>(index)] = version;
+            txtVDstatus_[index] = state;
+            txtVDversion_[index] = version;
         }
     }
     for (int column = 1; column < 6; ++column) {
@@ -195,45 +209,22 @@ void DlgZelvarStatus44::BuildTractionModules(int channel) {
     }
 }
 
-void DlgZelvarStatus44::BuildPointMotorModules(int channel) {
-    const int frameIndex = FrameOf(kJsFrames, channel);
-    QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
+void DlgZelvarStatus44::BuildModules(const ModuleFrames& family, int channel,
+                                     std::span<QLineEdit*> states, std::span<QLineEdit*> versions) {
+    const int frameIndex = FrameOf(family.firstFrame, channel);
+    QGroupBox* frame = frmStatus_[frameIndex];
     QGridLayout* grid = NewRows(frameIndex, 3);
-    AddHeads(
-        grid, channel,
-        {{"lblJSmodule", "#", 1}, {"lblJSstatus", "Status", 1}, {"lblJSversion", "Version", 1}});
-    for (int module = 0; module < kJsPerChannel; ++module) {
-        const int j = channel * kJsPerChannel + module;
-        const QString words = ModuleInWords("Point-motor", channel, module);
-        const auto index = static_cast<std::size_t>(j);
-        txtJSstatus_[index] =
-            NewField("txtJSstatus", j, QStringLiteral("Status of ") + words, frame);
-        txtJSver_[index] = NewField("txtJSver", j, QStringLiteral("Version of ") + words, frame);
-        AddNumber(grid, module + 2, "lblJS", j, module);
-        grid->addWidget(txtJSstatus_[index], module + 2, 1);
-        grid->addWidget(txtJSver_[index], module + 2, 2);
-    }
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
-}
-
-void DlgZelvarStatus44::BuildSignalControllers(int channel) {
-    const int frameIndex = FrameOf(kYRFrames, channel);
-    QGroupBox* frame = frmStatus_[static_cast<std::size_t>(frameIndex)];
-    QGridLayout* grid = NewRows(frameIndex, 3);
-    AddHeads(
-        grid, channel,
-        {{"lblYRmodule", "#", 1}, {"lblYRstatus", "Status", 1}, {"lblYRversion", "Version", 1}});
-    for (int module = 0; module < kModulesPerChannel; ++module) {
-        const int k = channel * kModulesPerChannel + module;
-        const QString words = ModuleInWords("Signal", channel, module);
-        const auto index = static_cast<std::size_t>(k);
-        txtYRstatus_[index] =
-            NewField("txtYRstatus", k, QStringLiteral("Status of ") + words, frame);
-        txtYRver_[index] = NewField("txtYRver", k, QStringLiteral("Version of ") + words, frame);
-        AddNumber(grid, module + 2, "lblYR", k, module);
-        grid->addWidget(txtYRstatus_[index], module + 2, 1);
-        grid->addWidget(txtYRver_[index], module + 2, 2);
+    AddHeads(grid, channel, family.heads);
+    for (int module = 0; module < family.perChannel; ++module) {
+        const int row = module + 2;
+        const int index = channel * family.perChannel + module;
+        const QString words = ModuleInWords(family.words, channel, module);
+        AddNumber(grid, row, family.number, index, module);
+        states[index] = NewField(family.status, index, QStringLiteral("Status of ") + words, frame);
+        versions[index] =
+            NewField(family.version, index, QStringLiteral("Version of ") + words, frame);
+        grid->addWidget(states[index], row, 1);
+        grid->addWidget(versions[index], row, 2);
     }
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
@@ -242,19 +233,19 @@ void DlgZelvarStatus44::BuildSignalControllers(int channel) {
 void DlgZelvarStatus44::Show(const SystemStatus& status) {
     ShowSystemFields(system_, status);
     for (std::size_t m = 0; m < txtVDtype_.size(); ++m) {
-        ShowInField(*txtVDtype_[m], Text(VDTypeText(status.vdTypes[m])));
+        ShowInField(*txtVDtype_[m], ToQString(VDTypeText(status.vdTypes[m])));
     }
     for (std::size_t i = 0; i < txtVDstatus_.size(); ++i) {
-        ShowInField(*txtVDstatus_[i], Text(ModuleStateText(status.vd[i].state)));
-        ShowInField(*txtVDversion_[i], Text(VersionText(status.vd[i])));
+        ShowInField(*txtVDstatus_[i], ToQString(ModuleStateText(status.vd[i].state)));
+        ShowInField(*txtVDversion_[i], ToQString(VersionText(status.vd[i])));
     }
     for (std::size_t j = 0; j < txtJSstatus_.size(); ++j) {
-        ShowInField(*txtJSstatus_[j], Text(ModuleStateText(status.js[j].state)));
-        ShowInField(*txtJSver_[j], Text(JsVersionText(status.js[j])));
+        ShowInField(*txtJSstatus_[j], ToQString(ModuleStateText(status.js[j].state)));
+        ShowInField(*txtJSver_[j], ToQString(JsVersionText(status.js[j])));
     }
     for (std::size_t k = 0; k < txtYRstatus_.size(); ++k) {
-        ShowInField(*txtYRstatus_[k], Text(ModuleStateText(status.yr[k].state)));
-        ShowInField(*txtYRver_[k], Text(VersionText(status.yr[k])));
+        ShowInField(*txtYRstatus_[k], ToQString(ModuleStateText(status.yr[k].state)));
+        ShowInField(*txtYRver_[k], ToQString(VersionText(status.yr[k])));
     }
 }
 

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 
 #include <array>
-#include <initializer_list>
+#include <span>
 
 #include "controls/secondary_window.h"
 #include "status/status_fields.h"
@@ -21,6 +21,26 @@ class DlgZelvarStatus44 : public SecondaryWindow {
     Q_OBJECT
 
   public:
+    /// A column head and the number of columns below it.
+    struct Head {
+        const char* name;
+        const char* caption;
+        int columns;
+    };
+
+    /// The frames of a family whose modules have one state and one version each.
+    struct ModuleFrames {
+        int firstFrame;
+        /// The family in the fields' accessible names.
+        const char* words;
+        int perChannel;
+        std::array<Head, 3> heads;
+        // Object names.
+        const char* number;
+        const char* status;
+        const char* version;
+    };
+
     DlgZelvarStatus44();
 
     void Show(const SystemStatus& status);
@@ -29,19 +49,14 @@ class DlgZelvarStatus44 : public SecondaryWindow {
     void BuildFrames();
     void BuildSystem();
     QGridLayout* NewRows(int frame, int columns);
-    /// A column head and the number of columns below it.
-    struct Head {
-        const char* name;
-        const char* caption;
-        int columns;
-    };
-    static void AddHeads(QGridLayout* grid, int channel, std::initializer_list<Head> heads);
+    static void AddHeads(QGridLayout* grid, int channel, std::span<const Head> heads);
     /// The number of a row's module. @param index its number in the whole system
     static void AddNumber(QGridLayout* grid, int row, const char* name, int index, int module);
     void BuildTractionModules(int channel);
-    void BuildPointMotorModules(int channel);
-    void BuildSignalControllers(int channel);
-    QLineEdit* NewField(const char* name, int index, const QString& inWords, QGroupBox* frame);
+    void BuildModules(const ModuleFrames& family, int channel, std::span<QLineEdit*> states,
+                      std::span<QLineEdit*> versions);
+    QLineEdit* NewField(const char* name, int index, const QString& accessibleName,
+                        QGroupBox* frame);
     void chkShowChannel0_Click(bool checked);
     void Resize(int widthInTwips);
 

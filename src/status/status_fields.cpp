@@ -4,23 +4,20 @@
 
 #include <QGridLayout>
 
+#include "controls/caption_label.h"
 #include "controls/naming.h"
 #include "protocol/version.h"
 #include "status/system_report.h"
 
 namespace zelvar {
 
-QLineEdit* NewDisplayField(const QString& name, const QString& inWords, QWidget* parent,
+QLineEdit* NewDisplayField(const QString& name, const QString& accessibleName, QWidget* parent,
                            std::string_view text) {
-    auto* field = Named(new QLineEdit(Text(text), parent), name, inWords);
+    auto* field = Named(new QLineEdit(ToQString(text), parent), name, accessibleName);
     field->setReadOnly(true);
     // Hundreds of them would make the way with Tab long.
     field->setFocusPolicy(Qt::ClickFocus);
     return field;
-}
-
-QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent) {
-    return Named(new QLabel(caption, parent), name, caption);
 }
 
 SystemFields BuildSystemFields(QWidget* parent, QGridLayout& layout) {
@@ -34,9 +31,9 @@ SystemFields BuildSystemFields(QWidget* parent, QGridLayout& layout) {
                              {"lblProtVer", "txtProtVer", "Protocol Version"}};
     QLineEdit* fields[3] = {};
     for (int i = 0; i < 3; ++i) {
-        const QString caption = Text(kRows[i].caption);
-        fields[i] = NewDisplayField(Text(kRows[i].fieldName), caption, parent);
-        layout.addWidget(NewLabel(Text(kRows[i].labelName), caption, parent), i, 0);
+        const QString caption = ToQString(kRows[i].caption);
+        fields[i] = NewDisplayField(ToQString(kRows[i].fieldName), caption, parent);
+        layout.addWidget(CaptionLabel(ToQString(kRows[i].labelName), caption, parent), i, 0);
         layout.addWidget(fields[i], i, 1);
     }
     return {fields[0], fields[1], fields[2]};
@@ -50,11 +47,11 @@ void ShowInField(QLineEdit& field, const QString& text) {
 }
 
 void ShowSystemFields(const SystemFields& fields, const SystemStatus& status) {
-    ShowInField(*fields.txtSystem, Text(SystemStateName(status.systemState)));
-    ShowInField(*fields.txtSysVer, Text(SystemVersionText(status.unit)));
+    ShowInField(*fields.txtSystem, ToQString(SystemStateName(status.systemState)));
+    ShowInField(*fields.txtSysVer, ToQString(SystemVersionText(status.unit)));
     ShowInField(*fields.txtProtVer, status.protocolVersion < 0
                                         ? QStringLiteral("?")
-                                        : Text(FormatVersion(status.protocolVersion)));
+                                        : ToQString(FormatVersion(status.protocolVersion)));
 }
 
 }  // namespace zelvar

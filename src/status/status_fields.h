@@ -16,13 +16,11 @@ namespace zelvar {
 inline constexpr std::string_view kNotYetKnown = "Unknown";
 
 /// A text box that only shows.
-QLineEdit* NewDisplayField(const QString& name, const QString& inWords, QWidget* parent,
+QLineEdit* NewDisplayField(const QString& name, const QString& accessibleName, QWidget* parent,
                            std::string_view text = kNotYetKnown);
 
 /// Shows a text, at once when the field is in view: no event loop turns during a request.
 void ShowInField(QLineEdit& field, const QString& text);
-
-QLabel* NewLabel(const QString& name, const QString& caption, QWidget* parent);
 
 /// The three fields about the whole system, which both views have.
 struct SystemFields {

@@ -4,16 +4,17 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include "controls/arrange.h"
+#include "controls/caption_label.h"
 #include "controls/naming.h"
 #include "controls/number_text.h"
-#include "controls/palette.h"
+#include "controls/system_state_label.h"
 #include "protocol/blocks.h"
 #include "test/accessories/accessory_groups.h"
-#include "test/accessories/block_link_group.h"
 #include "test/accessories/point_group.h"
+#include "test/locomotives/speed_read_out.h"
 
 namespace zelvar {
 
@@ -21,14 +22,14 @@ namespace {
 
 constexpr int kLastBlock = 255;
 constexpr int kMccPage = 2;
-/// Pixels around the status line, which may get a ground of its own.
+/// Pixels around the status line, which may have a background of its own.
 constexpr int kStatusMargin = 4;
 
 }  // namespace
 
 TestTab::TestTab(const Services& services, QWidget* parent)
     : QWidget(parent),
-      desk_{services},
+      services_(services),
       lblTestSystemStatus_(Named(new QLabel(this), "lblTestSystemStatus", "System status")),
       CommandTestFBM_(Named(new QPushButton(QStringLiteral("Feedback Monitor"), this),
                             "CommandTestFBM", "Show the feedback monitor")),
@@ -37,12 +38,10 @@ TestTab::TestTab(const Services& services, QWidget* parent)
                                   QStringLiteral("Block of the locomotive"), 0, kLastBlock, this)),
       CommandTestClearBlock_(Named(new QPushButton(QStringLiteral("Clear Block"), this),
                                    "CommandTestClearBlock", "Clear the block")),
-      SSTab2_(Named(new QTabWidget(this), "SSTab2", "Kind of locomotive")) {
-    desk_.block = UpDown_Block_;
-    analogPage_ = new AnalogPage(desk_, this);
-    dccPage_ = new DccPage(desk_, this);
-    mccPage_ = new MccPage(desk_, this);
-
+      SSTab2_(Named(new QTabWidget(this), "SSTab2", "Kind of locomotive")),
+      analogPage_(new AnalogPage(services, *UpDown_Block_, this)),
+      dccPage_(new DccPage(services, *UpDown_Block_, this)),
+      mccPage_(new MccPage(services, this)) {
     auto* layout = new QGridLayout(this);
     lblTestSystemStatus_->setMargin(kStatusMargin);
     auto* top = new QHBoxLayout;
@@ -76,34 +75,33 @@ QWidget* TestTab::LocomotiveGroup() {
 }
 
 QLayout* TestTab::AccessoryColumn() {
-    const Services& services = desk_.services;
     auto* layout = new QVBoxLayout;
-    layout->addWidget(new PointGroup(services, this));
-    layout->addWidget(new SignalGroup(services, this));
-    layout->addWidget(new OutputGroup(services, this));
-    layout->addWidget(new BlockLinkGroup(services, this));
+    layout->addWidget(new PointGroup(services_.link, this));
+    layout->addWidget(MakeSignalGroup(services_.link, this));
+    layout->addWidget(MakeOutputGroup(services_.link, this));
+    layout->addWidget(MakeBlockLinkGroup(services_.link, this));
     layout->addStretch();
     return layout;
 }
 
 void TestTab::ConnectControls() {
     connect(SSTab2_, &QTabWidget::currentChanged, this, &TestTab::SSTab2_Change);
-    connect(UpDown_Block_, &SpinField::Change, this, &TestTab::txtTestBlock_Change);
+    connect(UpDown_Block_, &SpinField::textChanged, this, &TestTab::txtTestBlock_Change);
     connect(CommandTestClearBlock_, &QPushButton::clicked, this,
             &TestTab::CommandTestClearBlock_Click);
-    connect(CommandTestFBM_, &QPushButton::clicked, this, &TestTab::CommandTestFBM_Click);
+    connect(CommandTestFBM_, &QPushButton::clicked, this, &TestTab::feedbackMonitorWanted);
+    // An emergency stop on one page stops the other page's slider, too.
+    connect(analogPage_, &AnalogPage::emergencyStop, dccPage_, &DccPage::StopSlider);
+    connect(dccPage_, &DccPage::emergencyStop, analogPage_, &AnalogPage::StopSlider);
 }
 
 void TestTab::ShowSystemState(SystemState state) {
-    const QString text = Text(SystemStateText(state));
-    lblTestSystemStatus_->setText(text);
-    lblTestSystemStatus_->setAccessibleName(text);
-    SetTextColour(lblTestSystemStatus_, SystemStateColour(state));
+    ShowSystemStateIn(*lblTestSystemStatus_, state);
 }
 
 void TestTab::ShowBlockSpeed(const BlockSpeedReport& report) {
     if (Val(UpDown_Block_->text().toStdString()) == report.block) {
-        analogPage_->ShowSpeed(Text(SpeedReadOut(report.speed, report.forward)));
+        analogPage_->ShowSpeed(ToQString(SpeedReadOut(report.speed, report.forward)));
     }
 }
 
@@ -116,28 +114,17 @@ void TestTab::SSTab2_Change(int page) {
 }
 
 void TestTab::txtTestBlock_Change() {
-    UpDown_Block_->Clamp();
+    UpDown_Block_->clamp();
     analogPage_->ShowUnknownSpeed();
 }
 
 void TestTab::CommandTestClearBlock_Click() {
-    if (!desk_.services.link.CheckPort()) {
+    if (!services_.link.CheckPort()) {
         return;
     }
-    {
-        const QScopedValueRollback<bool> inhibit(desk_.inhibitSpeedEvents, true);
-        desk_.analogSpeed->Put(0);
-        analogPage_->ShowUnknownSpeed();
-        desk_.dccSpeed->Put(0);
-        analogPage_->Rest();
-        dccPage_->RestDirection();
-        dccPage_->ClearFunctions();
-    }
-    desk_.services.link.Transact(ClearBlock(desk_.Block()));
-}
-
-void TestTab::CommandTestFBM_Click() {
-    Q_EMIT FeedbackMonitorWanted();
+    analogPage_->Reset();
+    dccPage_->Reset();
+    services_.link.Transact(ClearBlock(UpDown_Block_->value()));
 }
 
 }  // namespace zelvar

@@ -3,20 +3,23 @@
 #pragma once
 
 #include <QLabel>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QWidget>
 
+#include "controls/spin_field.h"
 #include "link/services.h"
 #include "link/system_status.h"
 #include "protocol/reports.h"
 #include "test/locomotives/analog_page.h"
 #include "test/locomotives/dcc_page.h"
-#include "test/locomotives/drive_controls.h"
 #include "test/locomotives/mcc_page.h"
 
 namespace zelvar {
 
-/// The "TEST" tab: the status line and the controls that drive the layout.
+/// The "TEST" tab: the status line and the controls that drive the layout. This room is the tab's:
+/// `locomotives` has its locomotive pages, `accessories` its groups of points, signals, outputs and
+/// block links, `feedback` the feedback monitor that it opens.
 class TestTab : public QWidget {
     Q_OBJECT
 
@@ -25,12 +28,13 @@ class TestTab : public QWidget {
 
     void ShowSystemState(SystemState state);
 
-    /// Shows the speed of the block that `txtTestBlock` names; others are dropped silently.
+    /// Shows the speed of the block that `txtTestBlock` names; a report of another block is
+    /// dropped.
     void ShowBlockSpeed(const BlockSpeedReport& report);
 
   Q_SIGNALS:
     /// The user wants to see the feedback monitor.
-    void FeedbackMonitorWanted();
+    void feedbackMonitorWanted();
 
   private:
     QWidget* LocomotiveGroup();
@@ -39,9 +43,8 @@ class TestTab : public QWidget {
     void SSTab2_Change(int page);
     void txtTestBlock_Change();
     void CommandTestClearBlock_Click();
-    void CommandTestFBM_Click();
 
-    DriveDesk desk_;
+    Services services_;
     QLabel* lblTestSystemStatus_;
     QPushButton* CommandTestFBM_;
     QLabel* lblTestBlock_;

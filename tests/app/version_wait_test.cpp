@@ -13,7 +13,7 @@
 namespace zelvar::testing {
 namespace {
 
-/// A unit that has not told its protocol version yet.
+/// A unit that has not reported its protocol version yet.
 class VersionWait : public StatusButton {
   protected:
     VersionWait() {

@@ -117,7 +117,7 @@ TEST_F(VDTabView, NothingMovesWhenTheTargetChanges) {
     }
     for (const char* entry : {"All_VD60", "All_QLRX", "All_VDxx", " 12", " 5", " 19.0"}) {
         Choose("cboVD", entry);
-        // Hiding and showing asks for the layout anew by events, which are handled here and now.
+        // Hiding and showing asks for the layout again by events, which are handled here and now.
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
         for (const auto& [control, place] : places) {

@@ -18,7 +18,7 @@ namespace {
 class DropDownListTest : public ::testing::Test {
   protected:
     DropDownListTest() {
-        QObject::connect(&list, &DropDownList::Chosen, &list,
+        QObject::connect(&list, &DropDownList::chosen, &list,
                          [this] { chosen.push_back(list.currentText().toStdString()); });
         for (const char* text : {"one", "two", "three"}) {
             list.Append(QString::fromUtf8(text), list.count() + 10);

@@ -41,7 +41,7 @@ class SpeedSliderTest : public ::testing::Test {
         button = new QPushButton(QStringLiteral("Other"), &window);
         layout->addWidget(slider);
         layout->addWidget(button);
-        QObject::connect(slider, &SpeedSlider::Change, slider, [this] {
+        QObject::connect(slider, &SpeedSlider::valueReported, slider, [this] {
             reported.push_back(slider->value());
             if (whileSending) {
                 whileSending();
@@ -157,7 +157,7 @@ TEST_F(SpeedSliderTest, PuttingTheReportedValueThatTheHandHasComeBackToReportsNo
     Press();
     MoveTo(12);
     MoveTo(9);
-    slider->Put(9);
+    slider->putValue(9);
     Settle();
     EXPECT_EQ(reported, (Values{9}));
     Release(9);
@@ -187,7 +187,7 @@ TEST_F(SpeedSliderTest, WaitsWhileAHandlerLetsTheEventLoopTurn) {
 TEST_F(SpeedSliderTest, AValueFromCodeReplacesOneOfTheUserThatIsNotReportedYet) {
     Press();
     MoveTo(9);
-    slider->Put(0);
+    slider->putValue(0);
     Settle();
     EXPECT_EQ(reported, (Values{0}));
     Release(0);
@@ -197,7 +197,7 @@ TEST_F(SpeedSliderTest, PuttingTheValueThatTheUserHasJustChosenReportsIt) {
     slider->setValue(9);
     Press();
     MoveTo(0);
-    slider->Put(0);
+    slider->putValue(0);
     EXPECT_EQ(reported, (Values{9, 0}));
     Settle();
     EXPECT_EQ(reported, (Values{9, 0}));
@@ -205,8 +205,8 @@ TEST_F(SpeedSliderTest, PuttingTheValueThatTheUserHasJustChosenReportsIt) {
 }
 
 TEST_F(SpeedSliderTest, PuttingTheReportedValueReportsNothing) {
-    slider->Put(4);
-    slider->Put(4);
+    slider->putValue(4);
+    slider->putValue(4);
     EXPECT_EQ(reported, (Values{4}));
 }
 

@@ -23,8 +23,8 @@ class SpinFieldTest : public ::testing::Test {
         auto* layout = new QVBoxLayout(&form);
         layout->addWidget(spin);
         layout->addWidget(other);
-        QObject::connect(spin, &SpinField::Change, &form, [this] { ++changes; });
-        QObject::connect(spin, &SpinField::Stepped, &form, [this] { ++steps; });
+        QObject::connect(spin, &SpinField::textChanged, &form, [this] { ++changes; });
+        QObject::connect(spin, &SpinField::stepped, &form, [this] { ++steps; });
         form.show();
         form.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
@@ -32,10 +32,10 @@ class SpinFieldTest : public ::testing::Test {
     }
 
     void Type(const char* text) {
-        spin->Field()->selectAll();
-        QTest::keyClicks(spin->Field(), QString::fromUtf8(text));
+        spin->lineEdit()->selectAll();
+        QTest::keyClicks(spin->lineEdit(), QString::fromUtf8(text));
     }
-    std::string Shown() const { return spin->Field()->text().toStdString(); }
+    std::string Shown() const { return spin->lineEdit()->text().toStdString(); }
 
     void ClickArrow(QStyle::SubControl arrow) {
         QStyleOptionSpinBox option;
@@ -56,7 +56,7 @@ class SpinFieldTest : public ::testing::Test {
 
 TEST_F(SpinFieldTest, SpinControlAndFieldCanBeFoundByTheirNames) {
     EXPECT_EQ(form.findChild<SpinField*>(QStringLiteral("updownX")), spin);
-    EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtX")), spin->Field());
+    EXPECT_EQ(form.findChild<QLineEdit*>(QStringLiteral("txtX")), spin->lineEdit());
     EXPECT_EQ(spin->property("minimum").toInt(), 0);
     EXPECT_EQ(spin->property("maximum").toInt(), 60);
 }
@@ -64,7 +64,7 @@ TEST_F(SpinFieldTest, SpinControlAndFieldCanBeFoundByTheirNames) {
 TEST_F(SpinFieldTest, StartsWithTheNumberOfItsRangeNearestToZero) {
     EXPECT_EQ(Shown(), "0");
     const SpinField above(QStringLiteral("a"), QStringLiteral("b"), QString(), 5, 60);
-    EXPECT_EQ(above.Field()->text(), QStringLiteral("5"));
+    EXPECT_EQ(above.lineEdit()->text(), QStringLiteral("5"));
 }
 
 struct StepRow {
@@ -116,7 +116,7 @@ TEST_F(SpinFieldTest, TakesAnyTextAndKeepsIt) {
         other->setFocus();
         EXPECT_EQ(Shown(), text) << "leaving the field changed it";
         spin->setFocus();
-        QTest::keyClick(spin->Field(), Qt::Key_Return);
+        QTest::keyClick(spin->lineEdit(), Qt::Key_Return);
         EXPECT_EQ(Shown(), text) << "Enter changed it";
     }
     EXPECT_EQ(steps, 0);
@@ -125,9 +125,9 @@ TEST_F(SpinFieldTest, TakesAnyTextAndKeepsIt) {
 TEST_F(SpinFieldTest, EveryKeystrokeIsAChange) {
     Type("123");
     EXPECT_EQ(changes, 3);
-    spin->Field()->setText(QStringLiteral("5"));
+    spin->lineEdit()->setText(QStringLiteral("5"));
     EXPECT_EQ(changes, 4);
-    spin->Field()->setText(QStringLiteral("5"));
+    spin->lineEdit()->setText(QStringLiteral("5"));
     EXPECT_EQ(changes, 4);
 }
 
@@ -141,10 +141,10 @@ struct ClampRow {
 class Clamping : public SpinFieldTest, public ::testing::WithParamInterface<ClampRow> {};
 
 TEST_P(Clamping, BringsTheTextIntoTheRangeAndLeavesTheRest) {
-    spin->SetMinimum(2);
+    spin->setMinimum(2);
     Type(GetParam().text);
-    EXPECT_EQ(spin->Value(), GetParam().value);
-    spin->Clamp();
+    EXPECT_EQ(spin->value(), GetParam().value);
+    spin->clamp();
     EXPECT_EQ(Shown(), GetParam().shown);
 }
 
@@ -164,13 +164,13 @@ TEST_F(SpinFieldTest, NumbersAreWrittenPlainWhateverTheLocale) {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
     SpinField wide(QStringLiteral("a"), QStringLiteral("b"), QString(), 0, 9999);
-    wide.Field()->setText(QStringLiteral("99999"));
-    wide.Clamp();
-    EXPECT_EQ(wide.Field()->text(), QStringLiteral("9999"));
+    wide.lineEdit()->setText(QStringLiteral("99999"));
+    wide.clamp();
+    EXPECT_EQ(wide.lineEdit()->text(), QStringLiteral("9999"));
     wide.stepBy(-1);
-    EXPECT_EQ(wide.Field()->text(), QStringLiteral("9998"));
-    wide.Field()->setText(QStringLiteral("1.5"));
-    EXPECT_EQ(wide.Value(), 2);
+    EXPECT_EQ(wide.lineEdit()->text(), QStringLiteral("9998"));
+    wide.lineEdit()->setText(QStringLiteral("1.5"));
+    EXPECT_EQ(wide.value(), 2);
     QLocale::setDefault(before);
 }
 

@@ -38,7 +38,7 @@ TEST_P(TransactSend, PutsTheFrameOnTheWireAndInTheLog) {
     EXPECT_EQ(view.log, std::string(row.logged) + "  << 09 85 F2\r\n");
 }
 
-// The wire bytes are written out by hand; the blanks stand for the places of unused data bytes.
+// The wire bytes are written out by hand; the spaces stand for the places of unused data bytes.
 INSTANTIATE_TEST_SUITE_P(
     Frames, TransactSend,
     ::testing::Values(

@@ -192,7 +192,7 @@ TEST_F(LogWindowTest, TextCanBeSelectedWithTheMouse) {
 TEST_F(LogWindowTest, EscapeClosesIt) {
     Show();
     int closed = 0;
-    QObject::connect(&log, &SecondaryWindow::Closed, &log, [&] { ++closed; });
+    QObject::connect(&log, &SecondaryWindow::closed, &log, [&] { ++closed; });
     QTest::keyClick(&log, Qt::Key_Escape);
     EXPECT_FALSE(log.isVisible());
     EXPECT_EQ(closed, 1);

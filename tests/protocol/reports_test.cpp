@@ -6,7 +6,6 @@
 
 #include <string>
 
-#include "link/system_status.h"
 #include "support/doubles.h"
 
 namespace zelvar::testing {
@@ -17,64 +16,45 @@ struct OvercurrentRow {
     std::uint8_t r1;
     std::uint8_t r2;
     OvercurrentReport report;
-    const char* line;
 };
 
 class Overcurrent : public ::testing::TestWithParam<OvercurrentRow> {};
 
-TEST_P(Overcurrent, IsReadAndWrittenAsALine) {
+TEST_P(Overcurrent, IsRead) {
     const OvercurrentRow& row = GetParam();
     const OvercurrentReport report = ReadOvercurrentReport(MakeReply(0x0A, {row.r1, row.r2}));
     EXPECT_EQ(report, row.report);
-    EXPECT_EQ(AlarmLine(report), std::string(row.line) + "\r\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Reports, Overcurrent,
-    ::testing::Values(
-        OvercurrentRow{"HighBlockDetected",
-                       0x33,
-                       5,
-                       {133, true},
-                       "Overcurrent block 133 detected ............."},
-        OvercurrentRow{
-            "LowBlockReleased", 0x30, 5, {5, false}, "Overcurrent block 5 .............. released"},
-        OvercurrentRow{
-            "BlockZeroDetected", 0x32, 0, {0, true}, "Overcurrent block 0 detected ............."},
-        OvercurrentRow{"BlockZeroReleased",
-                       0x30,
-                       0,
-                       {0, false},
-                       "Overcurrent block 0 .............. released"},
-        OvercurrentRow{"LastBlockReleased",
-                       0x31,
-                       127,
-                       {255, false},
-                       "Overcurrent block 255 .............. released"}),
+    ::testing::Values(OvercurrentRow{"HighBlockDetected", 0x33, 5, {133, true}},
+                      OvercurrentRow{"LowBlockReleased", 0x30, 5, {5, false}},
+                      OvercurrentRow{"BlockZeroDetected", 0x32, 0, {0, true}},
+                      OvercurrentRow{"BlockZeroReleased", 0x30, 0, {0, false}},
+                      OvercurrentRow{"LastBlockReleased", 0x31, 127, {255, false}}),
     [](const auto& row) { return std::string(row.param.name); });
 
 struct SpeedRow {
     const char* name;
     std::vector<int> values;
     BlockSpeedReport report;
-    const char* readOut;
 };
 
 class BlockSpeed : public ::testing::TestWithParam<SpeedRow> {};
 
-TEST_P(BlockSpeed, IsReadAndShown) {
+TEST_P(BlockSpeed, IsRead) {
     const BlockSpeedReport report = ReadBlockSpeedReport(MakeReply(0x0B, GetParam().values));
     EXPECT_EQ(report, GetParam().report);
-    EXPECT_EQ(SpeedReadOut(report.speed, report.forward), GetParam().readOut);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Reports, BlockSpeed,
-    ::testing::Values(SpeedRow{"Forward", {0x22, 5, 0x4C}, {5, 12, true}, ">>12"},
-                      SpeedRow{"Backward", {0x22, 5, 0x0C}, {5, 12, false}, "<<12"},
-                      SpeedRow{"HighBlock", {0x23, 127, 0x40}, {255, 0, true}, ">>0"},
-                      SpeedRow{"FastestForward", {0x22, 0, 0x7F}, {0, 63, true}, ">>63"},
-                      SpeedRow{"FastestBackward", {0x22, 0, 0x3F}, {0, 63, false}, "<<63"}),
+    ::testing::Values(SpeedRow{"Forward", {0x22, 5, 0x4C}, {5, 12, true}},
+                      SpeedRow{"Backward", {0x22, 5, 0x0C}, {5, 12, false}},
+                      SpeedRow{"HighBlock", {0x23, 127, 0x40}, {255, 0, true}},
+                      SpeedRow{"FastestForward", {0x22, 0, 0x7F}, {0, 63, true}},
+                      SpeedRow{"FastestBackward", {0x22, 0, 0x3F}, {0, 63, false}}),
     [](const auto& row) { return std::string(row.param.name); });
 
 struct FeedbackRow {
@@ -99,29 +79,6 @@ INSTANTIATE_TEST_SUITE_P(Reports, Feedback,
                                            FeedbackRow{"LastActive", 0x5F, 127, {2047, true}},
                                            FeedbackRow{"Bit5DoesNotCount", 0x60, 3, {3, false}}),
                          [](const auto& row) { return std::string(row.param.name); });
-
-struct StateRow {
-    const char* name;
-    SystemState state;
-    const char* text;
-    std::uint32_t colour;
-};
-
-class StatusLine : public ::testing::TestWithParam<StateRow> {};
-
-TEST_P(StatusLine, HasItsTextAndColour) {
-    EXPECT_EQ(SystemStateText(GetParam().state), GetParam().text);
-    EXPECT_EQ(SystemStateColour(GetParam().state), GetParam().colour);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    States, StatusLine,
-    ::testing::Values(StateRow{"Disconnected", SystemState::Disconnected,
-                               "System Status = Disconnected", 0x000000},
-                      StateRow{"Run", SystemState::Run, "System Status = Run", 0xFF0000},
-                      StateRow{"Stop", SystemState::Stop, "System Status = Stop", 0x000000},
-                      StateRow{"Fault", SystemState::Fault, "System Status = Fault", 0x0000FF}),
-    [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace zelvar::testing

@@ -245,7 +245,6 @@ class FilledNewView : public LinkFixture {
 
     RecordingView requestView;
     ModuleRegistry registry;
-    RecordingView requestView;
     DlgZelvarStatus44 view;
 };
 

@@ -45,7 +45,6 @@ class ClassicView : public LinkFixture {
 
     RecordingView requestView;
     ModuleRegistry registry;
-    RecordingView requestView;
     DlgZelvarStatus view;
 };
 

@@ -20,7 +20,7 @@ Changes Locomotive(const std::string& decoder, int block, int steps, int speed, 
 struct DccRow {
     const char* name;
     DccAddress address;
-    /// The decoder that is meant: a long address is another decoder than the same short one.
+    /// The addressed decoder: a long address is another decoder than the same short one.
     const char* decoder;
 };
 
@@ -156,7 +156,7 @@ TEST_F(DccTwinRange, FunctionsNameEveryBlockTheyCan) {
     }
 }
 
-// The functions carry the block in one value, which ends at 127; this is meant.
+// The functions carry the block in one value, which ends at 127; this is intentional.
 TEST_F(DccTwinRange, FunctionsInABlockAbove127DoNotLeaveAndTheLineStaysGood) {
     const testing::ShownBox overflow{"Overflow", BoxIcon::Critical, BoxButtons::Ok};
     for (int group = 0; group < kDccFunctionGroups; ++group) {

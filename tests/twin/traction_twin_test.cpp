@@ -3,10 +3,12 @@
 #include <numeric>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "config/module_commands.h"
 #include "config/selection_list.h"
 #include "config/vd_settings.h"
+#include "sim/protocol/traction_settings.h"
 #include "twin/twin_link.h"
 
 namespace zelvar::twin {
@@ -124,6 +126,26 @@ TEST_P(TractionParameter, EveryValueIsKeptWhereItBelongsAndReadBack) {
             input.option = row.option;
         }
         SetEverywhere(*row.setting, row.number, input, row.parameter, value);
+    }
+}
+
+TEST_P(TractionParameter, TheUnitHasItWithTheSameRangeInTheSameModules) {
+    const ParameterRow& row = GetParam();
+    const sim::TractionSetting* setting = sim::FindTractionSetting(row.parameter);
+    ASSERT_NE(setting, nullptr);
+    EXPECT_EQ(row.values.front(), setting->min);
+    EXPECT_EQ(row.values.back(), setting->max);
+    const VDTypes frame = row.setting->shownFor;
+    const bool isNumber = !row.setting->options.parameter;
+    const VDTypes types = isNumber ? row.setting->numbers.fields[row.number].shownFor : kAllVDTypes;
+    for (const auto& [type, unitType] : {std::pair{VDType::VdF, sim::TractionType::kVdF},
+                                         {VDType::Vd60, sim::TractionType::kVd60},
+                                         {VDType::QlrxS, sim::TractionType::kQlrxS}}) {
+        // The mode of a VD60 can only be read.
+        const bool readOnly = row.setting->buttonsOutside && type == VDType::Vd60;
+        EXPECT_EQ(readOnly || (frame.Contains(type) && types.Contains(type)),
+                  setting->IsOf(static_cast<int>(unitType)))
+            << row.parameter;
     }
 }
 

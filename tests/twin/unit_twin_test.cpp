@@ -57,7 +57,7 @@ TEST_F(UnitTwin, TheOptionsOfTheTwoChannelsAloneMeanTransparentMode) {
     }
 }
 
-// An option byte with option 7 does not fit a data value; this is meant.
+// An option byte with option 7 does not fit a data value; this is intentional.
 TEST_F(UnitTwin, OptionsWithTheLastOneDoNotLeave) {
     for (int pattern = 128; pattern < kPatterns; ++pattern) {
         const UnitImage before(port.state());
@@ -68,7 +68,7 @@ TEST_F(UnitTwin, OptionsWithTheLastOneDoNotLeave) {
     Do(kEmptyTransaction);
 }
 
-// Boxes i and i + 4 weigh the same and carry into the next one; this is meant.
+// Boxes i and i + 4 weigh the same and carry into the next one; this is intentional.
 TEST_F(UnitTwin, EverySetOf64DeviceBoxesIsKeptAsTheirSum) {
     for (const bool permanent : {false, true}) {
         for (int pattern = 0; pattern < kPatterns; ++pattern) {

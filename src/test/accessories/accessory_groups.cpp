@@ -2,115 +2,114 @@
 // SPDX-License-Identifier: MIT
 #include "test/accessories/accessory_groups.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 
-#include <array>
+#include <functional>
 #include <utility>
 
 #include "controls/naming.h"
 #include "protocol/accessories.h"
+#include "protocol/blocks.h"
 
 namespace zelvar {
 
 namespace {
 
-struct FieldRow {
-    const char* spin;
-    const char* field;
-    const char* caption;
-    const char* inWords;
-    int maximum;
-};
+constexpr int kLastSignalModule = 31;
+constexpr int kLastSignalPin = 127;
+constexpr int kLastAspect = 11;
+constexpr int kLastInstruction = 63;
+constexpr int kLastOutput = 511;
+constexpr int kLastParameter = 127;
+constexpr int kLastBlock = 255;
 
-/// The label array of a group and the button below its fields.
-struct GroupNames {
-    const char* labels;
-    const char* button;
-    const char* caption;
-    const char* inWords;
-};
-
-constexpr FieldRow kSignalModule{"UpDownTestYR70module", "txtTestYR70module", "YR70 Module",
-                                 "YR70 module", 31};
-constexpr FieldRow kSignalPin{"UpDownTestYR70pin", "txtTestYR70pin", "Pin", "Pin of the YR70", 127};
-constexpr FieldRow kSignalAspect{"UpDownTestYR70aspect", "txtTestYR70aspect", "Aspect",
-                                 "Signal aspect", 11};
-constexpr GroupNames kSignalNames{"lblTestYR70", "cmdTestYR70", "Set Aspect",
-                                  "Set the signal aspect"};
-
-constexpr FieldRow kOutputInstruction{"UpDownTestGW70instruction", "txtTestGW70instruction",
-                                      "GW70 Instruction", "GW70 instruction", 63};
-constexpr FieldRow kOutputNumber{"UpDownTestGW70output", "txtTestGW70output", "Output",
-                                 "Output of the GW70", 511};
-constexpr FieldRow kOutputParameter{"UpDownTestGW70parameter", "txtTestGW70parameter", "Param",
-                                    "Parameter of the GW70 instruction", 127};
-constexpr GroupNames kOutputNames{"lblTestGW70", "cmdTestGW70", "Set GW70",
-                                  "Give the instruction to the GW70"};
-
-SpinField* Field(const FieldRow& row, QWidget* parent) {
-    return ClampedField(Text(row.spin), Text(row.field), Text(row.inWords), 0, row.maximum, parent);
-}
-
-/// Fields with their captions side by side. @return the button below them
-QPushButton* LayOutGroup(QWidget* group, const GroupNames& names,
-                         const std::array<std::pair<const FieldRow*, SpinField*>, 3>& fields) {
-    auto* layout = new QGridLayout(group);
-    int column = 0;
-    for (const auto& [row, field] : fields) {
-        auto* label = CaptionLabel(IndexedName(names.labels, column), Text(row->caption), group);
-        label->setBuddy(field);
-        layout->addWidget(label, 0, column);
-        layout->addWidget(field, 1, column, Qt::AlignLeft);
-        ++column;
-    }
-    layout->setColumnStretch(column, 1);
-    auto* button = Named(new QPushButton(Text(names.caption), group), names.button, names.inWords);
-    layout->addWidget(button, 1, column, Qt::AlignRight);
-    return button;
+/// One of the two blocks of a link.
+CommandField BlockField(int index) {
+    return {IndexedName("lblTestLink", index),
+            QStringLiteral("Block"),
+            IndexedName("UpDownTestLink", index),
+            IndexedName("txtTestLink", index),
+            index == 0 ? QStringLiteral("First block") : QStringLiteral("Second block"),
+            kLastBlock};
 }
 
 }  // namespace
 
-SignalGroup::SignalGroup(const Services& services, QWidget* parent)
-    : QGroupBox(QStringLiteral("Signals (YR70)"), parent),
-      services_(services),
-      UpDownTestYR70module_(Field(kSignalModule, this)),
-      UpDownTestYR70pin_(Field(kSignalPin, this)),
-      UpDownTestYR70aspect_(Field(kSignalAspect, this)) {
-    const QPushButton* button = LayOutGroup(this, kSignalNames,
-                                            {{{&kSignalModule, UpDownTestYR70module_},
-                                              {&kSignalPin, UpDownTestYR70pin_},
-                                              {&kSignalAspect, UpDownTestYR70aspect_}}});
-    connect(button, &QPushButton::clicked, this, [this] { cmdTestYR70_Click(); });
+CommandGroup* MakeSignalGroup(Link& link, QWidget* parent) {
+    auto* group = new CommandGroup(QStringLiteral("Signals (YR70)"), link, parent);
+    const CommandGroup::Field module = group->AddField(
+        {IndexedName("lblTestYR70", 0), QStringLiteral("YR70 Module"),
+         QStringLiteral("UpDownTestYR70module"), QStringLiteral("txtTestYR70module"),
+         QStringLiteral("YR70 module"), kLastSignalModule});
+    const CommandGroup::Field pin = group->AddField(
+        {IndexedName("lblTestYR70", 1), QStringLiteral("Pin"), QStringLiteral("UpDownTestYR70pin"),
+         QStringLiteral("txtTestYR70pin"), QStringLiteral("Pin of the YR70"), kLastSignalPin});
+    const CommandGroup::Field aspect = group->AddField(
+        {IndexedName("lblTestYR70", 2), QStringLiteral("Aspect"),
+         QStringLiteral("UpDownTestYR70aspect"), QStringLiteral("txtTestYR70aspect"),
+         QStringLiteral("Signal aspect"), kLastAspect});
+    group->AddButton(QStringLiteral("cmdTestYR70"), QStringLiteral("Set Aspect"),
+                     QStringLiteral("Set the signal aspect"), [=] {
+                         return SetSignalAspect(module.field->value(), pin.field->value(),
+                                                aspect.field->value());
+                     });
+    group->LayOutInColumns();
+    return group;
 }
 
-void SignalGroup::cmdTestYR70_Click() {
-    if (services_.link.CheckPort()) {
-        services_.link.Transact(SetSignalAspect(UpDownTestYR70module_->Value(),
-                                                UpDownTestYR70pin_->Value(),
-                                                UpDownTestYR70aspect_->Value()));
-    }
+CommandGroup* MakeOutputGroup(Link& link, QWidget* parent) {
+    auto* group = new CommandGroup(QStringLiteral("Outputs (GW70)"), link, parent);
+    const CommandGroup::Field instruction = group->AddField(
+        {IndexedName("lblTestGW70", 0), QStringLiteral("GW70 Instruction"),
+         QStringLiteral("UpDownTestGW70instruction"), QStringLiteral("txtTestGW70instruction"),
+         QStringLiteral("GW70 instruction"), kLastInstruction});
+    const CommandGroup::Field output = group->AddField(
+        {IndexedName("lblTestGW70", 1), QStringLiteral("Output"),
+         QStringLiteral("UpDownTestGW70output"), QStringLiteral("txtTestGW70output"),
+         QStringLiteral("Output of the GW70"), kLastOutput});
+    const CommandGroup::Field parameter = group->AddField(
+        {IndexedName("lblTestGW70", 2), QStringLiteral("Param"),
+         QStringLiteral("UpDownTestGW70parameter"), QStringLiteral("txtTestGW70parameter"),
+         QStringLiteral("Parameter of the GW70 instruction"), kLastParameter});
+    group->AddButton(QStringLiteral("cmdTestGW70"), QStringLiteral("Set GW70"),
+                     QStringLiteral("Give the instruction to the GW70"), [=] {
+                         return SetOutput(output.field->value(), instruction.field->value(),
+                                          parameter.field->value());
+                     });
+    group->LayOutInColumns();
+    return group;
 }
 
-OutputGroup::OutputGroup(const Services& services, QWidget* parent)
-    : QGroupBox(QStringLiteral("Outputs (GW70)"), parent),
-      services_(services),
-      UpDownTestGW70instruction_(Field(kOutputInstruction, this)),
-      UpDownTestGW70output_(Field(kOutputNumber, this)),
-      UpDownTestGW70parameter_(Field(kOutputParameter, this)) {
-    const QPushButton* button = LayOutGroup(this, kOutputNames,
-                                            {{{&kOutputInstruction, UpDownTestGW70instruction_},
-                                              {&kOutputNumber, UpDownTestGW70output_},
-                                              {&kOutputParameter, UpDownTestGW70parameter_}}});
-    connect(button, &QPushButton::clicked, this, [this] { cmdTestGW70_Click(); });
-}
-
-void OutputGroup::cmdTestGW70_Click() {
-    if (services_.link.CheckPort()) {
-        services_.link.Transact(SetOutput(UpDownTestGW70output_->Value(),
-                                          UpDownTestGW70instruction_->Value(),
-                                          UpDownTestGW70parameter_->Value()));
-    }
+CommandGroup* MakeBlockLinkGroup(Link& link, QWidget* parent) {
+    auto* group = new CommandGroup(QStringLiteral("Block links"), link, parent);
+    const CommandGroup::Field first = group->AddField(BlockField(0));
+    const CommandGroup::Field second = group->AddField(BlockField(1));
+    auto* clear = Named(new QCheckBox(QStringLiteral("Clear unlinked blocks"), group),
+                        "chkTestUnlinkZero", "Clear unlinked blocks");
+    const auto add = [group](int index, const QString& caption, std::function<Command()> command) {
+        return group->AddButton(IndexedName("CommandTestLink", index), caption, caption,
+                                std::move(command));
+    };
+    const auto linkBlocks = [=](BlockPolarity polarity) {
+        return [=] { return LinkBlocks(first.field->value(), second.field->value(), polarity); };
+    };
+    const auto unlink = [=](UnlinkDirection direction) {
+        return [=] { return UnlinkBlocks(first.field->value(), direction, clear->isChecked()); };
+    };
+    auto* layout = new QGridLayout(group);
+    layout->addWidget(first.label, 0, 0);
+    layout->addWidget(first.field, 0, 1);
+    layout->addWidget(second.label, 1, 0);
+    layout->addWidget(second.field, 1, 1);
+    layout->addWidget(add(0, QStringLiteral("Link Blocks"), linkBlocks(BlockPolarity::Same)), 0, 3);
+    layout->addWidget(add(1, QStringLiteral("Link Inverted"), linkBlocks(BlockPolarity::Inverted)),
+                      1, 3);
+    layout->addWidget(add(2, QStringLiteral("Unlink Down"), unlink(UnlinkDirection::Down)), 0, 4);
+    layout->addWidget(add(3, QStringLiteral("Unlink Up"), unlink(UnlinkDirection::Up)), 1, 4);
+    layout->addWidget(clear, 2, 0, 1, 5, Qt::AlignRight);
+    layout->setColumnStretch(2, 1);
+    return group;
 }
 
 }  // namespace zelvar

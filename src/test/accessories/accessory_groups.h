@@ -2,42 +2,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QGroupBox>
-
-#include "test/locomotives/drive_controls.h"
+#include "test/accessories/command_group.h"
 
 namespace zelvar {
 
 /// Sets a signal that a YR70 module controls.
-class SignalGroup : public QGroupBox {
-    Q_OBJECT
-
-  public:
-    explicit SignalGroup(const Services& services, QWidget* parent = nullptr);
-
-  private:
-    void cmdTestYR70_Click();
-
-    Services services_;
-    SpinField* UpDownTestYR70module_;
-    SpinField* UpDownTestYR70pin_;
-    SpinField* UpDownTestYR70aspect_;
-};
+CommandGroup* MakeSignalGroup(Link& link, QWidget* parent);
 
 /// Gives one instruction to an output of a GW70 module.
-class OutputGroup : public QGroupBox {
-    Q_OBJECT
+CommandGroup* MakeOutputGroup(Link& link, QWidget* parent);
 
-  public:
-    explicit OutputGroup(const Services& services, QWidget* parent = nullptr);
-
-  private:
-    void cmdTestGW70_Click();
-
-    Services services_;
-    SpinField* UpDownTestGW70instruction_;
-    SpinField* UpDownTestGW70output_;
-    SpinField* UpDownTestGW70parameter_;
-};
+/// Links track blocks and unlinks them.
+CommandGroup* MakeBlockLinkGroup(Link& link, QWidget* parent);
 
 }  // namespace zelvar

@@ -3,31 +3,28 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QGroupBox>
 
-#include "test/locomotives/drive_controls.h"
+#include "test/accessories/command_group.h"
 
 namespace zelvar {
 
-/// Moves one point motor, named by its number or by its JS70 module and the place there.
-class PointGroup : public QGroupBox {
+/// Moves one point motor, named by its number or by its JS70 module and its place there.
+class PointGroup : public CommandGroup {
     Q_OBJECT
 
   public:
-    explicit PointGroup(const Services& services, QWidget* parent = nullptr);
+    PointGroup(Link& link, QWidget* parent);
 
   private:
     void LayOut();
     void chkTestJS70selectmodule_Click();
-    void txtTestJS70device_Change();
-    void cmdTestJS70_Click(int index);
+    Command SetTo(bool thrown) const;
 
-    Services services_;
     QCheckBox* chkTestJS70selectmodule_;
-    QLabel* lblTestJS70_[2];
-    SpinField* UpDowntestJS70module_;
-    SpinField* UpDownTestJS70device_;
-    QPushButton* cmdTestJS70_[2];
+    Field module_;
+    Field device_;
+    QPushButton* straight_;
+    QPushButton* thrown_;
 };
 
 }  // namespace zelvar

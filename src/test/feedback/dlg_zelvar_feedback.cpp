@@ -7,6 +7,9 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QRadioButton>
+
+#include <algorithm>
 
 #include "controls/naming.h"
 #include "controls/palette.h"
@@ -22,16 +25,16 @@ constexpr std::uint32_t kActiveColour = 0x0080FF;
 constexpr const char* kLayoutCaptions[] = {"1x128", "8x16 mod 32", "8x16 mod 64", "8x16 mod 128"};
 constexpr const char* kLookCaptions[] = {"= Inactive", "= Active", "= No information"};
 
-/// What assistive technology says of a label, in the order of the looks.
+/// The words of assistive technology, in the order of the looks.
 constexpr const char* kLookWords[] = {"inactive", "active", "no information"};
 
-/// What the labels show until they are laid out; also the widest number.
+/// Shown by the labels until they are laid out; also the widest number.
 constexpr int kWidestNumber = kFeedbackInputs;
 // Pixels around a number.
 constexpr int kMarginX = 5;
 constexpr int kMarginY = 4;
 constexpr int kSpacing = 2;
-/// Every so many rows and columns a gap, so that the eye finds its way: half a module.
+/// A gap after this many columns, half a module, for orientation.
 constexpr int kGroupColumns = 8;
 constexpr int kGroupGap = 8;
 
@@ -52,8 +55,8 @@ QPalette GroundPalette(const QColor& ground) {
 DlgZelvarFeedback::DlgZelvarFeedback()
     : SecondaryWindow(QStringLiteral("dlgZelvarFeedback"), QStringLiteral("Feedback Monitor")),
       lblFBbase_(Named(new QLabel(this), "lblFBbase", "Number of the first input")),
-      UpDownFBbase_(Named(new UpDown(lblFBbase_, 0, FeedbackMaximumBase(0), this), "UpDownFBbase",
-                          "Number of the first input")),
+      UpDownFBbase_(Named(new LabelStepper(lblFBbase_, 0, FeedbackMaximumBase(0), this),
+                          "UpDownFBbase", "Number of the first input")),
       cmdFBMrefresh_(Named(new QPushButton(QStringLiteral("Request Data"), this), "cmdFBMrefresh",
                            "Request the state of all inputs shown")) {
     MakePalettes();
@@ -64,7 +67,7 @@ DlgZelvarFeedback::DlgZelvarFeedback()
     layout->addLayout(grid);
     layout->addLayout(BuildLegend());
     layout->addStretch();
-    connect(UpDownFBbase_, &UpDown::Change, this, &DlgZelvarFeedback::LayOutLabels);
+    connect(UpDownFBbase_, &LabelStepper::valueChanged, this, &DlgZelvarFeedback::LayOutLabels);
     connect(cmdFBMrefresh_, &QPushButton::clicked, this, &DlgZelvarFeedback::cmdFBMrefresh_Click);
     LayOutLabels();
 }
@@ -75,7 +78,7 @@ void DlgZelvarFeedback::BuildGrid(QGridLayout& grid) {
     const QSize size(metrics.horizontalAdvance(QString::number(kWidestNumber)) + 2 * kMarginX,
                      metrics.height() + 2 * kMarginY);
     for (int i = 0; i < kFeedbackLabels; ++i) {
-        Cell& cell = lblFBM_[static_cast<std::size_t>(i)];
+        Cell& cell = lblFBM_[i];
         cell.label = Named(new QLabel(QString::number(kWidestNumber), this),
                            IndexedName("lblFBM", i), QStringLiteral("Feedback input"));
         cell.label->setTextFormat(Qt::PlainText);
@@ -83,7 +86,7 @@ void DlgZelvarFeedback::BuildGrid(QGridLayout& grid) {
         cell.label->setAutoFillBackground(true);
         // A fixed size: numbers of other lengths move nothing and cost no new layout.
         cell.label->setFixedSize(size);
-        cell.label->setPalette(palettes_[static_cast<std::size_t>(cell.look)]);
+        cell.label->setPalette(PaletteOf(cell.look));
         const int column = i % kFeedbackColumns;
         grid.addWidget(cell.label, i / kFeedbackColumns, column + column / kGroupColumns);
     }
@@ -93,22 +96,20 @@ void DlgZelvarFeedback::BuildGrid(QGridLayout& grid) {
 
 QLayout* DlgZelvarFeedback::BuildChoices() {
     auto* row = new QHBoxLayout;
-    for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
-        const int index = static_cast<int>(i);
-        opFBmod_[i] =
-            Named(new QRadioButton(Text(kLayoutCaptions[i]), this), IndexedName("opFBmod", index),
-                  QStringLiteral("Layout ") + Text(kLayoutCaptions[i]));
-        row->addWidget(opFBmod_[i]);
+    int index = 0;
+    for (const char* caption : kLayoutCaptions) {
+        const QString text = ToQString(caption);
+        auto* button = Named(new QRadioButton(text, this), IndexedName("opFBmod", index),
+                             QStringLiteral("Layout ") + text);
+        opFBmod_->addButton(button, index++);
+        row->addWidget(button);
     }
-    opFBmod_[0]->setChecked(true);
-    for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
-        const int index = static_cast<int>(i);
-        connect(opFBmod_[i], &QRadioButton::toggled, this, [this, index](bool chosen) {
-            if (chosen) {
-                opFBmod_Click(index);
-            }
-        });
-    }
+    opFBmod_->button(0)->setChecked(true);
+    connect(opFBmod_, &QButtonGroup::idToggled, this, [this](int id, bool chosen) {
+        if (chosen) {
+            opFBmod_Click(id);
+        }
+    });
     row->addStretch();
     lblFBbase_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     lblFBbase_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -123,9 +124,8 @@ QLayout* DlgZelvarFeedback::BuildChoices() {
 
 QLayout* DlgZelvarFeedback::BuildLegend() {
     auto* row = new QHBoxLayout;
-    for (std::size_t i = 0; i < kLooks; ++i) {
-        const int index = static_cast<int>(i);
-        QLabel* swatch = FormLabel(kFirstSwatch + index, "");
+    for (int i = 0; i < kLooks; ++i) {
+        QLabel* swatch = FormLabel(kFirstSwatch + i, "");
         swatch->setAccessibleName(QStringLiteral("Colour of the state"));
         swatch->setAutoFillBackground(true);
         swatch->setFrameStyle(QFrame::Box | QFrame::Plain);
@@ -134,7 +134,7 @@ QLayout* DlgZelvarFeedback::BuildLegend() {
         swatch->setFixedSize(side, side);
         swatches_[i] = swatch;
         row->addWidget(swatch);
-        row->addWidget(FormLabel(kFirstLookCaption + index, kLookCaptions[i]));
+        row->addWidget(FormLabel(kFirstLookCaption + i, kLookCaptions[i]));
         row->addSpacing(kGroupGap);
     }
     row->addStretch();
@@ -143,7 +143,8 @@ QLayout* DlgZelvarFeedback::BuildLegend() {
 }
 
 QLabel* DlgZelvarFeedback::FormLabel(int index, const char* caption) {
-    return Named(new QLabel(Text(caption), this), IndexedName("lblFBMform", index), Text(caption));
+    return Named(new QLabel(ToQString(caption), this), IndexedName("lblFBMform", index),
+                 ToQString(caption));
 }
 
 void DlgZelvarFeedback::MakePalettes() {
@@ -156,13 +157,13 @@ void DlgZelvarFeedback::changeEvent(QEvent* event) {
     if (event->type() != QEvent::PaletteChange) {
         return;
     }
-    // Another theme: only the last look takes its colour from there.
+    // Only the last look takes its colour from the theme.
     MakePalettes();
-    const auto last = static_cast<std::size_t>(Look::NoInformation);
-    swatches_[last]->setPalette(palettes_[last]);
+    const QPalette& last = PaletteOf(Look::NoInformation);
+    swatches_.back()->setPalette(last);
     for (const Cell& cell : lblFBM_) {
         if (cell.look == Look::NoInformation) {
-            cell.label->setPalette(palettes_[last]);
+            cell.label->setPalette(last);
         }
     }
 }
@@ -173,17 +174,8 @@ DlgZelvarFeedback::Look DlgZelvarFeedback::LookOf(std::int16_t state) {
                                         : Look::NoInformation;
 }
 
-int DlgZelvarFeedback::Layout() const {
-    for (std::size_t i = 0; i < opFBmod_.size(); ++i) {
-        if (opFBmod_[i]->isChecked()) {
-            return static_cast<int>(i);
-        }
-    }
-    return 0;
-}
-
 void DlgZelvarFeedback::Paint(Cell& cell, int number, Look look) {
-    // Setting a text or a palette costs far more than looking whether it is another one.
+    // Setting a text or a palette costs far more than comparing them.
     if (cell.number == number && cell.look == look) {
         return;
     }
@@ -193,11 +185,11 @@ void DlgZelvarFeedback::Paint(Cell& cell, int number, Look look) {
     }
     if (cell.look != look) {
         cell.look = look;
-        cell.label->setPalette(palettes_[static_cast<std::size_t>(look)]);
+        cell.label->setPalette(PaletteOf(look));
     }
     cell.label->setAccessibleName(QStringLiteral("Input %1, %2")
                                       .arg(number)
-                                      .arg(Text(kLookWords[static_cast<std::size_t>(look)])));
+                                      .arg(ToQString(kLookWords[static_cast<int>(look)])));
 }
 
 void DlgZelvarFeedback::LayOutLabels() {
@@ -205,7 +197,7 @@ void DlgZelvarFeedback::LayOutLabels() {
     const int base = Base();
     for (int i = 0; i < kFeedbackLabels; ++i) {
         const int number = FeedbackNumber(layout, base, i);
-        Paint(lblFBM_[static_cast<std::size_t>(i)], number, LookOf(table_.State(number)));
+        Paint(lblFBM_[i], number, LookOf(table_.State(number)));
     }
 }
 
@@ -214,7 +206,7 @@ bool DlgZelvarFeedback::fbUpdate(int index, std::int16_t state) {
         return false;
     }
     if (const auto label = FeedbackLabelOf(Layout(), Base(), index)) {
-        Paint(lblFBM_[static_cast<std::size_t>(*label)], index, LookOf(state));
+        Paint(lblFBM_[*label], index, LookOf(state));
     }
     return true;
 }
@@ -224,16 +216,14 @@ void DlgZelvarFeedback::Show(const FeedbackReport& report) {
 }
 
 void DlgZelvarFeedback::opFBmod_Click(int index) {
-    UpDownFBbase_->SetMaximum(FeedbackMaximumBase(index));
-    UpDownFBbase_->HoldWithinRange();
+    UpDownFBbase_->setMaximum(FeedbackMaximumBase(index));
     LayOutLabels();
 }
 
 void DlgZelvarFeedback::cmdFBMrefresh_Click() {
-    std::array<int, static_cast<std::size_t>(kFeedbackLabels)> numbers{};
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        numbers[i] = lblFBM_[i].number;
-    }
+    std::array<int, kFeedbackLabels> numbers{};
+    std::transform(lblFBM_.begin(), lblFBM_.end(), numbers.begin(),
+                   [](const Cell& cell) { return cell.number; });
     table_.RequestData(numbers);
     LayOutLabels();
 }

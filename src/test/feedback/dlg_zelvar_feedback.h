@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QButtonGroup>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 
 #include <array>
 #include <cstdint>
@@ -40,9 +40,9 @@ class DlgZelvarFeedback : public SecondaryWindow {
     void changeEvent(QEvent* event) override;
 
   private:
-    /// What a label looks like; states beyond the first two share the last look.
+    /// The looks of a label; states beyond the first two share the last one.
     enum class Look { Inactive, Active, NoInformation };
-    static constexpr std::size_t kLooks = 3;
+    static constexpr int kLooks = 3;
     struct Cell {
         QLabel* label = nullptr;
         int number = -1;
@@ -50,6 +50,7 @@ class DlgZelvarFeedback : public SecondaryWindow {
     };
 
     static Look LookOf(std::int16_t state);
+    const QPalette& PaletteOf(Look look) const { return palettes_[static_cast<int>(look)]; }
     void MakePalettes();
     void BuildGrid(QGridLayout& grid);
     QLayout* BuildChoices();
@@ -59,16 +60,17 @@ class DlgZelvarFeedback : public SecondaryWindow {
     void LayOutLabels();
     void opFBmod_Click(int index);
     void cmdFBMrefresh_Click();
-    int Layout() const;
-    int Base() const { return UpDownFBbase_->Value(); }
+    int Layout() const { return opFBmod_->checkedId(); }
+    int Base() const { return UpDownFBbase_->value(); }
 
     FeedbackTable table_;
     std::array<QPalette, kLooks> palettes_;
-    std::array<Cell, static_cast<std::size_t>(kFeedbackLabels)> lblFBM_;
+    std::array<Cell, kFeedbackLabels> lblFBM_;
     std::array<QLabel*, kLooks> swatches_{};
-    std::array<QRadioButton*, static_cast<std::size_t>(kFeedbackLayouts)> opFBmod_{};
+    /// The ids are the layouts.
+    QButtonGroup* opFBmod_ = new QButtonGroup(this);
     QLabel* lblFBbase_;
-    UpDown* UpDownFBbase_;
+    LabelStepper* UpDownFBbase_;
     QPushButton* cmdFBMrefresh_;
 };
 

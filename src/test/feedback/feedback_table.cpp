@@ -41,14 +41,14 @@ std::optional<int> FeedbackLabelOf(int layout, int base, int input) {
 }
 
 std::int16_t FeedbackTable::State(int index) const {
-    return IsEntry(index) ? states_[static_cast<std::size_t>(index)] : kFeedbackNoInformation;
+    return IsEntry(index) ? states_[index] : kFeedbackNoInformation;
 }
 
 bool FeedbackTable::Update(int index, std::int16_t state) {
     if (!IsEntry(index)) {
         return false;
     }
-    states_[static_cast<std::size_t>(index)] = state;
+    states_[index] = state;
     return true;
 }
 
@@ -67,7 +67,7 @@ int FeedbackTable::fbRequestState() {
         return kNoCycle;
     }
     for (std::int16_t index = requestPointer_; index < kFeedbackInputs; ++index) {
-        std::int16_t& state = states_[static_cast<std::size_t>(index)];
+        std::int16_t& state = states_[index];
         if (state == kFeedbackRequested) {
             state = kFeedbackNoInformation;
             requestPointer_ = index;

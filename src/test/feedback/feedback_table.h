@@ -50,7 +50,7 @@ class FeedbackTable {
     /// @return false, with nothing changed, for an index outside 0..2048
     bool Update(int index, std::int16_t state);
 
-    /// Marks inputs as wanted and begins the cycle anew. Negative numbers are passed over.
+    /// Marks inputs as wanted and starts the cycle again. Negative numbers are passed over.
     /// @return false when a number lies above 2048: the cycle stays as it was, and the numbers
     /// before it are marked
     bool RequestData(std::span<const int> numbers);
@@ -63,7 +63,7 @@ class FeedbackTable {
     int RequestPointer() const { return requestPointer_; }
 
   private:
-    std::array<std::int16_t, static_cast<std::size_t>(kFeedbackEntries)> states_{};
+    std::array<std::int16_t, kFeedbackEntries> states_{};
     std::int16_t requestPointer_ = -1;
 };
 

@@ -3,11 +3,16 @@
 #include "test/locomotives/analog_page.h"
 
 #include <QGridLayout>
+#include <QScopedValueRollback>
 
+#include "controls/arrange.h"
+#include "controls/caption_label.h"
+#include "controls/command_button.h"
 #include "controls/naming.h"
 #include "controls/number_text.h"
 #include "protocol/locomotives.h"
-#include "protocol/reports.h"
+#include "test/locomotives/drive_controls.h"
+#include "test/locomotives/speed_read_out.h"
 
 namespace zelvar {
 
@@ -16,7 +21,7 @@ namespace {
 constexpr int kTopSpeed = 63;
 constexpr int kTopAcceleration = 127;
 constexpr int kTopHfi = 15;
-/// What the read-out shows while the speed of the block is not known.
+/// The read-out while the speed of the block is unknown.
 constexpr const char* kUnknownSpeed = "---";
 /// Pixels between the slider's number and the read-out, then within it beside and around its text.
 constexpr int kDisplayGap = 12;
@@ -24,14 +29,15 @@ constexpr int kDisplayMargin = 6;
 constexpr int kDisplayPadding = 2;
 
 QLabel* Caption(int index, const char* caption, QWidget* parent) {
-    return CaptionLabel(IndexedName("lblTestAnalog", index), Text(caption), parent);
+    return CaptionLabel(IndexedName("lblTestAnalog", index), ToQString(caption), parent);
 }
 
 }  // namespace
 
-AnalogPage::AnalogPage(DriveDesk& desk, QWidget* parent)
+AnalogPage::AnalogPage(const Services& services, const SpinField& block, QWidget* parent)
     : QWidget(parent),
-      desk_(desk),
+      services_(services),
+      block_(block),
       AnalogSpeed_(Named(new SpeedSlider(kTopSpeed, this), "AnalogSpeed", "Analog speed")),
       CheckAnalogDirection_(Named(new QCheckBox(QStringLiteral("Forward"), this),
                                   "CheckAnalogDirection", "Analog locomotive runs forward")),
@@ -51,9 +57,7 @@ AnalogPage::AnalogPage(DriveDesk& desk, QWidget* parent)
       cmdEstopAnalog_(
           EstopButton("cmdEstopAnalog", "Emergency stop of the analog locomotive", this)),
       lblTestAnalogSpeed_(Named(new QLabel(this), "lblTestAnalogSpeed", "Speed of the block")) {
-    desk_.analogSpeed = AnalogSpeed_;
-    ShowUnknownSpeed();
-    Rest();
+    Reset();
     LayOut();
     ConnectControls();
 }
@@ -61,7 +65,7 @@ AnalogPage::AnalogPage(DriveDesk& desk, QWidget* parent)
 void AnalogPage::LayOut() {
     lblTestAnalog_[0]->setBuddy(AnalogSpeed_);
     lblTestAnalogSpeed_->setAlignment(Qt::AlignCenter);
-    // Set apart like a display, lest it be taken for the slider's own number beside it.
+    // Framed like a display, to distinguish it from the slider's own number beside it.
     lblTestAnalogSpeed_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     lblTestAnalogSpeed_->setMargin(kDisplayPadding);
     lblTestAnalogSpeed_->setToolTip(QStringLiteral("Speed of the block"));
@@ -87,11 +91,11 @@ void AnalogPage::LayOut() {
 }
 
 void AnalogPage::ConnectControls() {
-    connect(AnalogSpeed_, &SpeedSlider::Change, this, &AnalogPage::AnalogSpeed_Change);
+    connect(AnalogSpeed_, &SpeedSlider::valueReported, this, &AnalogPage::AnalogSpeed_Change);
     connect(CheckAnalogDirection_, &QCheckBox::toggled, this,
             &AnalogPage::CheckAnalogDirection_Click);
     connect(CheckAnalogLight_, &QCheckBox::toggled, this, &AnalogPage::CheckAnalogLight_Click);
-    connect(CommandSetHFI_, &QPushButton::clicked, this, &AnalogPage::CommandSetHFI_Click);
+    SendOnClick(CommandSetHFI_, services_.link, [this] { return SetHfi(UpDownTestHFI_->value()); });
     connect(cmdEstopAnalog_, &QPushButton::clicked, this, &AnalogPage::cmdEstopAnalog_Click);
 }
 
@@ -101,60 +105,63 @@ void AnalogPage::ShowSpeed(const QString& text) {
 }
 
 void AnalogPage::ShowUnknownSpeed() {
-    ShowSpeed(Text(kUnknownSpeed));
+    ShowSpeed(ToQString(kUnknownSpeed));
 }
 
-void AnalogPage::Rest() {
+void AnalogPage::StopSlider() {
+    const QScopedValueRollback<bool> inhibit(inhibitSpeedEvents_, true);
+    AnalogSpeed_->putValue(0);
+}
+
+void AnalogPage::Reset() {
+    StopSlider();
+    ShowUnknownSpeed();
+    const QScopedValueRollback<bool> inhibit(inhibitSpeedEvents_, true);
     CheckAnalogDirection_->setChecked(true);
     CheckAnalogLight_->setChecked(false);
 }
 
 void AnalogPage::AnalogSpeed_Change() {
-    if (desk_.services.link.CheckPort() && !desk_.inhibitSpeedEvents) {
+    if (!inhibitSpeedEvents_ && services_.link.CheckPort()) {
         SendSpeed();
     }
 }
 
 void AnalogPage::CheckAnalogDirection_Click() {
-    if (desk_.services.link.IsOpen() && !desk_.inhibitSpeedEvents) {
+    if (!inhibitSpeedEvents_ && services_.link.IsOpen()) {
         SendSpeed();
     }
 }
 
 void AnalogPage::CheckAnalogLight_Click() {
-    if (desk_.services.link.IsOpen() && !desk_.inhibitSpeedEvents) {
-        desk_.services.link.Transact(AnalogLight(desk_.Block(), CheckAnalogLight_->isChecked()));
-    }
-}
-
-void AnalogPage::CommandSetHFI_Click() {
-    if (desk_.services.link.CheckPort()) {
-        desk_.services.link.Transact(SetHfi(UpDownTestHFI_->Value()));
+    if (!inhibitSpeedEvents_ && services_.link.IsOpen()) {
+        services_.link.Transact(AnalogLight(block_.value(), CheckAnalogLight_->isChecked()));
     }
 }
 
 void AnalogPage::cmdEstopAnalog_Click() {
-    if (!desk_.services.link.CheckPort()) {
+    if (!services_.link.CheckPort()) {
         return;
     }
-    desk_.ForceSpeedsToZero();
+    StopSlider();
+    Q_EMIT emergencyStop();
     const bool forward = CheckAnalogDirection_->isChecked();
-    desk_.services.link.Transact(AnalogSpeed(desk_.Block(), 0, forward));
-    ShowSpeed(Text(SpeedReadOut(0, forward)));
+    services_.link.Transact(AnalogSpeed(block_.value(), 0, forward));
+    ShowSpeed(ToQString(SpeedReadOut(0, forward)));
 }
 
 void AnalogPage::SendSpeed() {
     const int speed = AnalogSpeed_->value();
     const bool forward = CheckAnalogDirection_->isChecked();
-    // The number itself decides: 0.4 is an acceleration, though it travels as 0.
+    // The number itself decides: 0.4 is an acceleration, although it is sent as 0.
     if (Val(UpDownTestAcceleration_->text().toStdString()) == 0) {
-        desk_.services.link.Transact(AnalogSpeed(desk_.Block(), speed, forward));
-        ShowSpeed(Text(SpeedReadOut(speed, forward)));
+        services_.link.Transact(AnalogSpeed(block_.value(), speed, forward));
+        ShowSpeed(ToQString(SpeedReadOut(speed, forward)));
         return;
     }
-    desk_.services.link.Transact(
-        AnalogSpeedRamp(desk_.Block(), speed, forward, UpDownTestAcceleration_->Value()));
-    // The slider says where the ramp ends, not where the locomotive is.
+    services_.link.Transact(
+        AnalogSpeedRamp(block_.value(), speed, forward, UpDownTestAcceleration_->value()));
+    // The slider shows where the ramp ends, not how fast the locomotive is.
     ShowUnknownSpeed();
 }
 

@@ -3,9 +3,13 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 
-#include "test/locomotives/drive_controls.h"
+#include "controls/speed_slider.h"
+#include "controls/spin_field.h"
+#include "link/services.h"
 
 namespace zelvar {
 
@@ -14,17 +18,24 @@ class AnalogPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// @param desk must outlive the page, which puts its slider there
-    explicit AnalogPage(DriveDesk& desk, QWidget* parent = nullptr);
+    /// @param block the number of the locomotive's block
+    AnalogPage(const Services& services, const SpinField& block, QWidget* parent);
 
     /// @param text a direction mark with a speed, such as ">>12"
     void ShowSpeed(const QString& text);
 
-    /// Shows that nobody knows the speed of the block.
+    /// Shows the block's speed as unknown.
     void ShowUnknownSpeed();
 
-    /// Forward, light off.
-    void Rest();
+    /// Moves the slider to 0 and sends nothing.
+    void StopSlider();
+
+    /// Slider to 0, speed unknown, forward, light off; sends nothing.
+    void Reset();
+
+  Q_SIGNALS:
+    /// An emergency stop is about to be sent.
+    void emergencyStop();
 
   private:
     void LayOut();
@@ -32,11 +43,13 @@ class AnalogPage : public QWidget {
     void AnalogSpeed_Change();
     void CheckAnalogDirection_Click();
     void CheckAnalogLight_Click();
-    void CommandSetHFI_Click();
     void cmdEstopAnalog_Click();
     void SendSpeed();
 
-    DriveDesk& desk_;
+    Services services_;
+    const SpinField& block_;
+    /// While the page itself moves its controls, these send nothing.
+    bool inhibitSpeedEvents_ = false;
     SpeedSlider* AnalogSpeed_;
     QCheckBox* CheckAnalogDirection_;
     QCheckBox* CheckAnalogLight_;

@@ -3,8 +3,12 @@
 #include "test/locomotives/dcc_page.h"
 
 #include <QGridLayout>
+#include <QScopedValueRollback>
 
+#include "controls/arrange.h"
+#include "controls/caption_label.h"
 #include "controls/naming.h"
+#include "test/locomotives/drive_controls.h"
 
 namespace zelvar {
 
@@ -21,25 +25,26 @@ struct GroupRow {
     std::size_t last;
 };
 
-constexpr std::array<GroupRow, static_cast<std::size_t>(kDccFunctionGroups)> kGroupRows{{
+constexpr std::array<GroupRow, kDccFunctionGroups> kGroupRows{{
     {"Set F1..F4 + L", 0, 4},
     {"Set F5..F8    ", 5, 8},
     {"Set F9..F12   ", 9, 12},
     {"Set F13..F20  ", 13, 20},
     {"Set F21..F28  ", 21, 28},
 }};
-/// The longest groups have eight functions.
+/// The largest groups have eight functions.
 constexpr int kFunctionColumns = 8;
 
 QLabel* Caption(int index, const char* caption, QWidget* parent) {
-    return CaptionLabel(IndexedName("lblTestDCC", index), Text(caption), parent);
+    return CaptionLabel(IndexedName("lblTestDCC", index), ToQString(caption), parent);
 }
 
 }  // namespace
 
-DccPage::DccPage(DriveDesk& desk, QWidget* parent)
+DccPage::DccPage(const Services& services, const SpinField& block, QWidget* parent)
     : QWidget(parent),
-      desk_(desk),
+      services_(services),
+      block_(block),
       DCCSpeed_(Named(new SpeedSlider(kDccTopSpeed28, this), "DCCSpeed", "DCC speed")),
       CheckDCCDirection_(Named(new QCheckBox(QStringLiteral("Forward"), this), "CheckDCCDirection",
                                "DCC locomotive runs forward")),
@@ -52,28 +57,26 @@ DccPage::DccPage(DriveDesk& desk, QWidget* parent)
                                   QStringLiteral("DCC decoder"), kFirstDecoder, kLastDecoder, this,
                                   lblTestDCC_[0])),
       cmdEstopDCC_(EstopButton("cmdEstopDCC", "Emergency stop of the DCC locomotive", this)) {
-    desk_.dccSpeed = DCCSpeed_;
-    RestDirection();
     BuildFunctions();
+    Reset();
     LayOut();
     ConnectControls();
 }
 
 void DccPage::BuildFunctions() {
-    for (std::size_t i = 0; i < kDccFunctionCount; ++i) {
-        const int number = static_cast<int>(i);
-        const QString caption =
-            number == 0 ? QStringLiteral("L") : QStringLiteral("F%1").arg(number);
-        Check_Pattern_[i] =
-            Named(new QCheckBox(caption, this), IndexedName("Check_Pattern", number),
-                  number == 0 ? QStringLiteral("DCC light")
-                              : QStringLiteral("DCC function %1").arg(number));
+    int number = 0;
+    for (QCheckBox*& box : functionBoxes_) {
+        const bool isLight = number == 0;
+        box = Named(
+            new QCheckBox(isLight ? QStringLiteral("L") : QStringLiteral("F%1").arg(number), this),
+            IndexedName("Check_Pattern", number),
+            isLight ? QStringLiteral("DCC light") : QStringLiteral("DCC function %1").arg(number));
+        ++number;
     }
     for (std::size_t i = 0; i < kGroupRows.size(); ++i) {
-        const QString caption = Text(kGroupRows[i].caption);
-        Command1_[i] =
-            Named(new QPushButton(caption, this), IndexedName("Command1", static_cast<int>(i)),
-                  QStringLiteral("DCC: ") + caption.trimmed());
+        const QString caption = ToQString(kGroupRows[i].caption);
+        sendButtons_[i] = Named(new QPushButton(caption, this), IndexedName("Command1", i),
+                                QStringLiteral("DCC: ") + caption.trimmed());
     }
 }
 
@@ -84,10 +87,10 @@ QLayout* DccPage::LayOutFunctions() {
         const int row = static_cast<int>(i);
         const GroupRow& group = kGroupRows[i];
         for (std::size_t function = group.first; function <= group.last; ++function) {
-            grid->addWidget(Check_Pattern_[function], row,
+            grid->addWidget(functionBoxes_[function], row,
                             static_cast<int>(function - group.first));
         }
-        grid->addWidget(Command1_[i], row, kFunctionColumns);
+        grid->addWidget(sendButtons_[i], row, kFunctionColumns);
     }
     for (int column = 0; column < kFunctionColumns; ++column) {
         grid->setColumnStretch(column, 1);
@@ -109,42 +112,46 @@ void DccPage::LayOut() {
     layout->setRowStretch(4, 1);
     layout->addWidget(cmdEstopDCC_, 5, 0, 1, 3);
     layout->setColumnStretch(1, 1);
-    for (std::size_t i = 1; i < Check_Pattern_.size(); ++i) {
-        SetTabOrder({Check_Pattern_[i - 1], Check_Pattern_[i]});
+    for (std::size_t i = 1; i < functionBoxes_.size(); ++i) {
+        SetTabOrder({functionBoxes_[i - 1], functionBoxes_[i]});
     }
     SetTabOrder({UpDownDecoder_, CheckDCCForceLong_, DCCSpeed_, CheckDCCDirection_, CheckDCC126_,
-                 Check_Pattern_[0]});
+                 functionBoxes_[0]});
     for (std::size_t i = 0; i < kGroupRows.size(); ++i) {
-        SetTabOrder({Check_Pattern_[kGroupRows[i].last], Command1_[i],
+        SetTabOrder({functionBoxes_[kGroupRows[i].last], sendButtons_[i],
                      i + 1 < kGroupRows.size()
-                         ? static_cast<QWidget*>(Check_Pattern_[kGroupRows[i + 1].first])
+                         ? static_cast<QWidget*>(functionBoxes_[kGroupRows[i + 1].first])
                          : cmdEstopDCC_});
     }
 }
 
 void DccPage::ConnectControls() {
-    connect(DCCSpeed_, &SpeedSlider::Change, this, &DccPage::DCCSpeed_Change);
+    connect(DCCSpeed_, &SpeedSlider::valueReported, this, &DccPage::DCCSpeed_Change);
     connect(CheckDCCDirection_, &QCheckBox::toggled, this, &DccPage::CheckDCCDirection_Click);
     connect(CheckDCC126_, &QCheckBox::toggled, this, &DccPage::CheckDCC126_Click);
     connect(cmdEstopDCC_, &QPushButton::clicked, this, &DccPage::cmdEstopDCC_Click);
-    for (std::size_t i = 0; i < Command1_.size(); ++i) {
-        connect(Command1_[i], &QPushButton::clicked, this,
+    for (std::size_t i = 0; i < sendButtons_.size(); ++i) {
+        connect(sendButtons_[i], &QPushButton::clicked, this,
                 [this, i] { Command1_Click(static_cast<int>(i)); });
     }
 }
 
-void DccPage::RestDirection() {
-    CheckDCCDirection_->setChecked(true);
+void DccPage::StopSlider() {
+    const QScopedValueRollback<bool> inhibit(inhibitSpeedEvents_, true);
+    DCCSpeed_->putValue(0);
 }
 
-void DccPage::ClearFunctions() {
-    for (QCheckBox* box : Check_Pattern_) {
+void DccPage::Reset() {
+    StopSlider();
+    const QScopedValueRollback<bool> inhibit(inhibitSpeedEvents_, true);
+    CheckDCCDirection_->setChecked(true);
+    for (QCheckBox* box : functionBoxes_) {
         box->setChecked(false);
     }
 }
 
 DccAddress DccPage::Address() const {
-    return {UpDownDecoder_->Value(), CheckDCCForceLong_->isChecked()};
+    return {UpDownDecoder_->value(), CheckDCCForceLong_->isChecked()};
 }
 
 DccSteps DccPage::Steps() const {
@@ -152,9 +159,9 @@ DccSteps DccPage::Steps() const {
 }
 
 void DccPage::DCCSpeed_Change() {
-    if (desk_.services.link.CheckPort() && !desk_.inhibitSpeedEvents) {
-        desk_.services.link.Transact(DccSpeed(Steps(), desk_.Block(), DCCSpeed_->value(),
-                                              CheckDCCDirection_->isChecked(), Address()));
+    if (!inhibitSpeedEvents_ && services_.link.CheckPort()) {
+        services_.link.Transact(DccSpeed(Steps(), block_.value(), DCCSpeed_->value(),
+                                         CheckDCCDirection_->isChecked(), Address()));
     }
 }
 
@@ -163,30 +170,31 @@ void DccPage::CheckDCCDirection_Click() {
 }
 
 void DccPage::CheckDCC126_Click() {
-    // A slider that stood elsewhere sends its 0, already in the new step mode.
-    DCCSpeed_->Put(0);
+    // A slider that was not at 0 sends its 0, already in the new step mode.
+    DCCSpeed_->putValue(0);
     DCCSpeed_->setMaximum(CheckDCC126_->isChecked() ? kDccTopSpeed126 : kDccTopSpeed28);
 }
 
 void DccPage::cmdEstopDCC_Click() {
-    if (!desk_.services.link.CheckPort()) {
+    if (!services_.link.CheckPort()) {
         return;
     }
-    desk_.ForceSpeedsToZero();
-    desk_.services.link.Transact(
-        DccEstop(Steps(), desk_.Block(), CheckDCCDirection_->isChecked(), Address()));
+    StopSlider();
+    Q_EMIT emergencyStop();
+    services_.link.Transact(
+        DccEstop(Steps(), block_.value(), CheckDCCDirection_->isChecked(), Address()));
 }
 
 void DccPage::Command1_Click(int index) {
-    if (!desk_.services.link.CheckPort()) {
+    if (!services_.link.CheckPort()) {
         return;
     }
     DccFunctionSet functions;
-    for (std::size_t i = 0; i < kDccFunctionCount; ++i) {
-        functions[i] = Check_Pattern_[i]->isChecked();
+    for (std::size_t i = 0; i < functionBoxes_.size(); ++i) {
+        functions[i] = functionBoxes_[i]->isChecked();
     }
-    if (const auto command = DccFunctions(index, desk_.Block(), functions, Address())) {
-        desk_.services.link.Transact(*command);
+    if (const auto command = DccFunctions(index, block_.value(), functions, Address())) {
+        services_.link.Transact(*command);
     }
 }
 

@@ -3,12 +3,16 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 
 #include <array>
 
+#include "controls/speed_slider.h"
+#include "controls/spin_field.h"
+#include "link/services.h"
 #include "protocol/locomotives.h"
-#include "test/locomotives/drive_controls.h"
 
 namespace zelvar {
 
@@ -17,14 +21,18 @@ class DccPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// @param desk must outlive the page, which puts its slider there
-    explicit DccPage(DriveDesk& desk, QWidget* parent = nullptr);
+    /// @param block the number of the locomotive's block
+    DccPage(const Services& services, const SpinField& block, QWidget* parent);
 
-    /// Forward.
-    void RestDirection();
+    /// Moves the slider to 0 and sends nothing.
+    void StopSlider();
 
-    /// Clears the light and all functions; they go out with the next press of their buttons.
-    void ClearFunctions();
+    /// Slider to 0, forward, light and all functions off; sends nothing.
+    void Reset();
+
+  Q_SIGNALS:
+    /// An emergency stop is about to be sent.
+    void emergencyStop();
 
   private:
     void BuildFunctions();
@@ -39,7 +47,10 @@ class DccPage : public QWidget {
     DccAddress Address() const;
     DccSteps Steps() const;
 
-    DriveDesk& desk_;
+    Services services_;
+    const SpinField& block_;
+    /// While the page itself moves its controls, these send nothing.
+    bool inhibitSpeedEvents_ = false;
     SpeedSlider* DCCSpeed_;
     QCheckBox* CheckDCCDirection_;
     QCheckBox* CheckDCC126_;
@@ -47,8 +58,10 @@ class DccPage : public QWidget {
     QLabel* lblTestDCC_[2];
     SpinField* UpDownDecoder_;
     QPushButton* cmdEstopDCC_;
-    std::array<QPushButton*, static_cast<std::size_t>(kDccFunctionGroups)> Command1_{};
-    std::array<QCheckBox*, kDccFunctionCount> Check_Pattern_{};
+    /// `Command1`, one for each group of functions.
+    std::array<QPushButton*, kDccFunctionGroups> sendButtons_{};
+    /// `Check_Pattern`, one for each function.
+    std::array<QCheckBox*, kDccFunctionCount> functionBoxes_{};
 };
 
 }  // namespace zelvar

@@ -4,7 +4,11 @@
 
 #include <QGridLayout>
 
+#include "controls/arrange.h"
+#include "controls/caption_label.h"
+#include "controls/command_button.h"
 #include "controls/naming.h"
+#include "test/locomotives/drive_controls.h"
 
 namespace zelvar {
 
@@ -18,14 +22,14 @@ constexpr std::array<const char*, kMccFunctionCount> kFunctionCaptions{
 constexpr int kFunctionColumns = 4;
 
 QLabel* Caption(int index, const char* caption, QWidget* parent) {
-    return CaptionLabel(IndexedName("lblTestMCC", index), Text(caption), parent);
+    return CaptionLabel(IndexedName("lblTestMCC", index), ToQString(caption), parent);
 }
 
 }  // namespace
 
-MccPage::MccPage(DriveDesk& desk, QWidget* parent)
+MccPage::MccPage(const Services& services, QWidget* parent)
     : QWidget(parent),
-      desk_(desk),
+      services_(services),
       MCCspeed_(Named(new SpeedSlider(kMccTopSpeed15, this), "MCCspeed", "MCC speed")),
       CheckMCC30_(Named(new QCheckBox(QStringLiteral("30 Steps"), this), "CheckMCC30",
                         "Drive with 30 speed steps")),
@@ -48,10 +52,10 @@ MccPage::MccPage(DriveDesk& desk, QWidget* parent)
 
 void MccPage::BuildFunctions() {
     for (std::size_t i = 0; i < kMccFunctionCount; ++i) {
-        const QString caption = Text(kFunctionCaptions[i]);
-        chkTestMCCfunction_[i] = Named(new QCheckBox(caption, this),
-                                       IndexedName("chkTestMCCfunction", static_cast<int>(i)),
-                                       QStringLiteral("MCC function ") + caption);
+        const QString caption = ToQString(kFunctionCaptions[i]);
+        chkTestMCCfunction_[i] =
+            Named(new QCheckBox(caption, this), IndexedName("chkTestMCCfunction", i),
+                  QStringLiteral("MCC function ") + caption);
     }
 }
 
@@ -87,50 +91,46 @@ void MccPage::LayOut() {
 }
 
 void MccPage::ConnectControls() {
-    connect(MCCspeed_, &SpeedSlider::Change, this, &MccPage::MCCspeed_Change);
+    connect(MCCspeed_, &SpeedSlider::valueReported, this, &MccPage::MCCspeed_Change);
     connect(CheckMCC30_, &QCheckBox::toggled, this, &MccPage::CheckMCC30_Click);
-    connect(cmdTestMCCfunction_, &QPushButton::clicked, this, &MccPage::cmdTestMCCfunction_Click);
+    SendOnClick(cmdTestMCCfunction_, services_.link, [this] { return Functions(); });
     connect(cmdEstopMCC_, &QPushButton::clicked, this, &MccPage::cmdEstopMCC_Click);
 }
 
 void MccPage::MCCspeed_Change() {
-    if (!desk_.services.link.CheckPort() || desk_.inhibitSpeedEvents) {
+    if (!services_.link.CheckPort()) {
         return;
     }
-    // The slider's own maximum tells the step mode, not the box.
+    // The slider's own maximum decides the step mode, not the box.
     const int code = MccSpeedCode(MCCspeed_->value(), MCCspeed_->maximum());
-    desk_.services.link.Transact(
-        MccSpeed(UpDownMCCdecoder_->Value(), code, UpDownTestMCCacceleration_->Value()));
+    services_.link.Transact(
+        MccSpeed(UpDownMCCdecoder_->value(), code, UpDownTestMCCacceleration_->value()));
 }
 
 void MccPage::CheckMCC30_Click() {
-    // A slider that stood elsewhere sends its 0 in the old step mode; speed 0 in the new one
-    // follows.
-    MCCspeed_->Put(0);
+    // A slider that was not at 0 sends its 0 in the old step mode; speed 0 in the new one follows.
+    MCCspeed_->putValue(0);
     MCCspeed_->setMaximum(CheckMCC30_->isChecked() ? kMccTopSpeed30 : kMccTopSpeed15);
-    if (desk_.services.link.IsOpen()) {
+    if (services_.link.IsOpen()) {
         MCCspeed_Change();
     }
 }
 
 void MccPage::cmdEstopMCC_Click() {
-    if (!desk_.services.link.CheckPort()) {
+    if (!services_.link.CheckPort()) {
         return;
     }
-    // Meant: a slider that stood elsewhere sends speed 0 first.
-    MCCspeed_->Put(0);
-    desk_.services.link.Transact(MccEstop(UpDownMCCdecoder_->Value()));
+    // A slider that was not at 0 sends speed 0 first. This is intentional.
+    MCCspeed_->putValue(0);
+    services_.link.Transact(MccEstop(UpDownMCCdecoder_->value()));
 }
 
-void MccPage::cmdTestMCCfunction_Click() {
-    if (!desk_.services.link.CheckPort()) {
-        return;
-    }
+Command MccPage::Functions() const {
     MccFunctionSet functions;
-    for (std::size_t i = 0; i < kMccFunctionCount; ++i) {
+    for (std::size_t i = 0; i < chkTestMCCfunction_.size(); ++i) {
         functions[i] = chkTestMCCfunction_[i]->isChecked();
     }
-    desk_.services.link.Transact(MccFunctions(UpDownMCCdecoder_->Value(), functions));
+    return MccFunctions(UpDownMCCdecoder_->value(), functions);
 }
 
 }  // namespace zelvar

@@ -3,12 +3,16 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 
 #include <array>
 
+#include "controls/speed_slider.h"
+#include "controls/spin_field.h"
+#include "link/services.h"
 #include "protocol/locomotives.h"
-#include "test/locomotives/drive_controls.h"
 
 namespace zelvar {
 
@@ -17,8 +21,7 @@ class MccPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// @param desk must outlive the page
-    explicit MccPage(DriveDesk& desk, QWidget* parent = nullptr);
+    MccPage(const Services& services, QWidget* parent);
 
   private:
     void BuildFunctions();
@@ -27,10 +30,10 @@ class MccPage : public QWidget {
     void ConnectControls();
     void MCCspeed_Change();
     void CheckMCC30_Click();
-    void cmdTestMCCfunction_Click();
     void cmdEstopMCC_Click();
+    Command Functions() const;
 
-    DriveDesk& desk_;
+    Services services_;
     SpeedSlider* MCCspeed_;
     QCheckBox* CheckMCC30_;
     QLabel* lblTestMCC_[3];

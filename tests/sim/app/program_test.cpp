@@ -102,7 +102,7 @@ class ProgramTest : public testing::Test {
         return std::filesystem::is_symlink(std::filesystem::symlink_status(link_));
     }
 
-    const e2e::TempFolder temporary_;
+    e2e::TempFolder temporary_;
     const std::filesystem::path folder_ = temporary_.Path(".");
     const std::filesystem::path link_ = temporary_.Path("line");
     std::unique_ptr<ChildProcess> process_;

@@ -90,7 +90,7 @@ class TerminalTest : public testing::Test {
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    const e2e::TempFolder folder_;
+    e2e::TempFolder folder_;
     std::optional<e2e::PseudoTerminal> terminal_;
     std::optional<e2e::ChildProcess> process_;
     std::string screen_;

@@ -25,7 +25,7 @@ Explained Explain(const std::string& text) {
     return result;
 }
 
-/// The places of data bytes that a command does not use, as the program's log leaves them blank.
+/// The places of data bytes that a command does not use, as the program's log leaves them empty.
 std::string Unused(int places) {
     return std::string(static_cast<std::size_t>(places) * 3, ' ');
 }

@@ -68,7 +68,7 @@ TEST_P(TractionMemory, EraseRestoresTheFactorySettingsOfBothParts) {
 TEST_P(TractionMemory, ReportsItsClockState) {
     const UnitCase& unit = GetParam();
     unit_.state().layout.At(LineAddress(unit.line)).clock = 4;
-    const int expected = unit.line == 8 ? 8 : 4;  // a QLRX-s tells its address instead
+    const int expected = unit.line == 8 ? 8 : 4;  // a QLRX-s reports its address instead
     EXPECT_EQ(Get({0, unit.address, 8 + unit.second, 15})[4], expected);
 }
 

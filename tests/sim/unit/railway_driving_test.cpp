@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 //
-// How trains follow what they are told, and where the track leads them.
+// How trains follow their commands, and where the track leads them.
 #include "sim/railway_fixture.h"
 
 namespace zelvar::sim {
@@ -297,7 +297,7 @@ TEST_F(Detectors, ThatWereSetByHandHoldUntilATrainChangesThem) {
     EXPECT_EQ(Listed("feedback"), "");
     Wait(milliseconds(3000));
     EXPECT_EQ(TrackReports(), (std::vector<Payload>{FeedbackReport(12, true)}))
-        << "the other one tells nothing new when it is left";
+        << "the other one reports nothing new when it is left";
 }
 
 TEST(RailwayChanges, AreNoneAtTheStart) {

@@ -125,7 +125,7 @@ TEST_F(Power, AfterAStopASlowerSpeedIsTakenAtOnce) {
     EXPECT_EQ(Part("train.red", "speed"), "4.0");
     Drive(1, 14);
     Wait(kOneStep);
-    EXPECT_EQ(Part("train.red", "speed"), "14.0") << "it had what it was told";
+    EXPECT_EQ(Part("train.red", "speed"), "14.0") << "it had the speed it was set to";
 }
 
 TEST_F(Power, EverythingStandsInFaultAndResumesAfterTheReset) {
@@ -188,7 +188,7 @@ TEST_F(Overcurrent, AfterTheResetTheTrainsCanBeDrivenApart) {
     PollAll();
     Ask({1, 0});
     Wait(seconds(5));
-    EXPECT_EQ(Listed("fault"), "0") << "the same pair is not reported anew";
+    EXPECT_EQ(Listed("fault"), "0") << "the same pair is not reported again";
     EXPECT_EQ(Listed("overcurrent"), "2");
     Drive(2, 10, false);
     Drive(1, 10, false);

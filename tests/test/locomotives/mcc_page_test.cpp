@@ -123,32 +123,5 @@ TEST_F(MccPageTest, FunctionsSendOnlyThroughTheirButton) {
     }
 }
 
-/// The page by itself, its flag in the hands of the test.
-class MccPageAlone : public LinkFixture {
-  protected:
-    DriveDesk desk{{link, messageBox, progress, clock}};
-    MccPage page{desk};
-    QSlider& slider = FindBelow<QSlider>(page, "MCCspeed");
-    QCheckBox& steps = FindBelow<QCheckBox>(page, "CheckMCC30");
-};
-
-TEST_F(MccPageAlone, SendsNothingWhileSpeedEventsAreInhibited) {
-    desk.inhibitSpeedEvents = true;
-    slider.setValue(9);
-    steps.setChecked(true);
-    EXPECT_EQ(port.SentValues(), Sent{});
-    EXPECT_EQ(slider.maximum(), 30);
-    desk.inhibitSpeedEvents = false;
-    slider.setValue(1);
-    EXPECT_EQ(port.SentValues(), (Sent{{6, 0, 0, 1, 0}}));
-}
-
-TEST_F(MccPageAlone, TellsOfAClosedPortAlsoWhileSpeedEventsAreInhibited) {
-    port.open = false;
-    desk.inhibitSpeedEvents = true;
-    slider.setValue(9);
-    EXPECT_EQ(messageBox.shown, (std::vector<ShownBox>{Exclamation("Please select Comm-Port")}));
-}
-
 }  // namespace
 }  // namespace zelvar::testing
