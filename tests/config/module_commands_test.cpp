@@ -123,7 +123,7 @@ TEST_F(ModuleCommandsTest, AfterAFailureOfTheCentralUnitNoClosingTransactionFoll
     EXPECT_EQ(port.SentValues(), (Frames{{}, {1, 6, 0, 2}}));
 }
 
-TEST_F(ModuleCommandsTest, AfterTheDeviceVanishedNothingMoreIsSentOrTold) {
+TEST_F(ModuleCommandsTest, AfterTheDeviceVanishedNothingMoreIsSentOrShown) {
     cboVD.data = kAllVDxx;
     port.responder = [this](const SentFrame& frame) {
         if (frame.values.size() == 5) {
@@ -131,7 +131,6 @@ TEST_F(ModuleCommandsTest, AfterTheDeviceVanishedNothingMoreIsSentOrTold) {
         }
         return EmptyReply();
     };
-    Send(kVDSet);
     Send(kVDSet);
     EXPECT_EQ(port.sent.size(), 2U);
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
