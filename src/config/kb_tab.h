@@ -31,7 +31,7 @@ class KBTab : public QWidget {
   public:
     KBTab(const Services& services, QWidget* parent = nullptr);
 
-    /// Names the unit that was found and shows what it supports.
+    /// Shows the type of the unit that was found, and the controls that it supports.
     void ShowUnit(const CentralUnit& unit);
 
     /// Shows the unit's configuration switches, in green.
