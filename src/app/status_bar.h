@@ -30,7 +30,7 @@ class StatusBar : public QStatusBar, public Progress {
     void OfferCancel() override;
     bool IsCancelled() override;
 
-    /// Lets Cancel react to what the user did while the program was waiting, if it is offered.
+    /// Lets Cancel, if it is offered, react to input that came while the program was waiting.
     void PumpCancel();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

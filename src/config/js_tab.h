@@ -26,7 +26,7 @@ class JSTab : public QWidget {
   public:
     JSTab(const Services& services, QWidget* parent = nullptr);
 
-    /// Fills `cboJS` again and selects what the list says.
+    /// Fills `cboJS` again and selects the entry that the list names.
     void Fill(const SelectionList& list);
 
   private:

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 
+#include "config/transparent_text.h"
 #include "controls/arrange.h"
 #include "controls/command_button.h"
 #include "controls/lost_focus.h"

@@ -9,7 +9,6 @@
 #include <QWidget>
 
 #include <array>
-#include <string_view>
 
 #include "config/kb_config_view.h"
 #include "config/module_commands.h"
@@ -19,11 +18,6 @@
 
 namespace zelvar {
 
-/// What the user reads when the unit has stopped answering in transparent mode.
-inline constexpr std::string_view kTransparentText =
-    "Your KB-E/KB-G is put in Transparent Mode\r\n"
-    "Reboot your KB-E/KB-G to restart normal operation";
-
 /// The "KB-x" tab: the central unit.
 class KBTab : public QWidget {
     Q_OBJECT
@@ -31,7 +25,7 @@ class KBTab : public QWidget {
   public:
     KBTab(const Services& services, QWidget* parent = nullptr);
 
-    /// Names the unit that was found and shows what it supports.
+    /// Shows the type of the unit that was found, and the controls that it supports.
     void ShowUnit(const CentralUnit& unit);
 
     /// Shows the unit's configuration switches, in green.

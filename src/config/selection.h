@@ -8,10 +8,11 @@
 
 namespace zelvar {
 
-/// Fills a module selection list again and selects what the list says, which reports a choice.
+/// Fills a module selection list again and selects the entry that the list names, which reports a
+/// choice.
 void FillSelection(DropDownList& control, const SelectionList& list);
 
-/// What a module selection list holds at present.
+/// The present content of a module selection list.
 ModuleSelection SelectionOf(const DropDownList& control);
 
 }  // namespace zelvar

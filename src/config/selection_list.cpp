@@ -30,10 +30,10 @@ std::string Str(int number) {
     return " " + std::to_string(number);
 }
 
-/// The groups stand before the modules; the first module is selected, else the last group.
+/// The groups come before the modules; the first module is selected. No group is listed
+/// without a module of it.
 void SelectFirstModule(SelectionList& list, std::size_t groups) {
-    const std::size_t selected = list.entries.size() > groups ? groups : groups - 1;
-    list.selected = list.entries.empty() ? -1 : static_cast<int>(selected);
+    list.selected = list.entries.empty() ? -1 : static_cast<int>(groups);
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ class VDSettingPanel : public QFrame {
     void SetButtonWidth(int width);
 
     /// Shows the frame and its controls if they are for one of these types of modules.
-    /// @param always shows the frame in any case, but not what is in it
+    /// @param always shows the frame in any case, but not its controls
     void ShowFor(VDTypes types, bool always);
     void ShowVDGetButtons(VDGetButtons buttons);
 
@@ -43,7 +43,7 @@ class VDSettingPanel : public QFrame {
     /// Shows a reported value in green. @return false when it does not belong here
     bool ShowReply(const VDReply& reply);
 
-    /// Gives all controls the colours of the system back.
+    /// Restores the system colours of all controls.
     void RestoreColours();
 
   Q_SIGNALS:

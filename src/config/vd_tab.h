@@ -20,7 +20,7 @@
 namespace zelvar {
 
 /// The "VDxx / QLRX-s" tab: the settings of the traction modules. The frames of the settings are
-/// built from the rows of `VDSettings`; in the names of their handlers `Setting` stands for the
+/// built from the rows of `VDSettings`; in the names of their handlers `Setting` means the
 /// row's own name, so that `cmdSetting_Click` is the Click of `cmdHFI`, `cmdAL` and so on.
 class VDTab : public QWidget {
     Q_OBJECT
@@ -28,7 +28,7 @@ class VDTab : public QWidget {
   public:
     VDTab(const Services& services, const ModuleRegistry& registry, QWidget* parent = nullptr);
 
-    /// Fills `cboVD` again and selects what the list says.
+    /// Fills `cboVD` again and selects the entry that the list names.
     void Fill(const SelectionList& list);
 
     /// Shows a traction module's configuration reply, if the form shows that module.

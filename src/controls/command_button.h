@@ -14,8 +14,8 @@ namespace zelvar {
 QPushButton* MakeCommandButton(const QString& caption, const QString& name,
                                const QString& accessibleName, QWidget* parent);
 
-/// Lets a click send one command, if the port is open. @param command makes it of what the form
-/// shows at that time
+/// Lets a click send one command, if the port is open. @param command makes it at that time, of the
+/// values in the form
 void SendOnClick(QPushButton* button, Link& link, std::function<Command()> command);
 
 }  // namespace zelvar

@@ -99,7 +99,7 @@ double Val(std::string_view text) {
 }
 
 int ValToInt(std::string_view text, int minimum, int maximum) {
-    // Clamped first, so that what is rounded always fits an int; the limits are whole.
+    // Clamped first, so that the rounded value always fits an int; the limits are whole.
     const double clamped =
         std::clamp(Val(text), static_cast<double>(minimum), static_cast<double>(maximum));
     const double floor = std::floor(clamped);

@@ -8,7 +8,8 @@ namespace zelvar {
 
 /// Reads the number at the beginning of a text: spaces are skipped, then sign, digits, decimal
 /// point and digits, and exponent, as far as they go. Anything else ends the number; no number is
-/// 0. Locale plays no part. @return finite; what is too large becomes the largest double.
+/// 0. Independent of the locale.
+/// @return finite; a number that is too large becomes the largest double.
 double Val(std::string_view text);
 
 /// The number of a text as an integer: `Val`, rounded to the nearest, a half to the even

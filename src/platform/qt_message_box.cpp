@@ -61,8 +61,7 @@ BoxAnswer QtMessageBox::Ask(const std::string& text, BoxIcon icon, BoxButtons bu
         beforeShow_();
     }
     QWidget* active = QApplication::activeWindow();
-    // When the program ends while the box is open, the box goes with the window that it stands
-    // before.
+    // When the program ends while the box is open, its parent window deletes it.
     const QPointer<QMessageBox> box = new QMessageBox(active != nullptr ? active : parent_.data());
     box->setWindowTitle(QString::fromLatin1(kApplicationTitle));
     box->setTextFormat(Qt::PlainText);

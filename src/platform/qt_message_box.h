@@ -14,7 +14,7 @@ namespace zelvar {
 
 class QtMessageBox : public MessageBox {
   public:
-    /// @param parent the window that boxes stand before when none is active
+    /// @param parent the window in front of which boxes appear when none is active
     void SetParent(QWidget* parent) { parent_ = parent; }
 
     /// @param beforeShow runs before each box, while no box is open yet

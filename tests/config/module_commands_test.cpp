@@ -123,7 +123,7 @@ TEST_F(ModuleCommandsTest, AfterAFailureOfTheCentralUnitNoClosingTransactionFoll
     EXPECT_EQ(port.SentValues(), (Frames{{}, {1, 6, 0, 2}}));
 }
 
-TEST_F(ModuleCommandsTest, AfterTheDeviceVanishedNothingMoreIsSentOrTold) {
+TEST_F(ModuleCommandsTest, ADeviceThatVanishesEndsTheCommandWithOneMessage) {
     cboVD.data = kAllVDxx;
     port.responder = [this](const SentFrame& frame) {
         if (frame.values.size() == 5) {
@@ -132,9 +132,11 @@ TEST_F(ModuleCommandsTest, AfterTheDeviceVanishedNothingMoreIsSentOrTold) {
         return EmptyReply();
     };
     Send(kVDSet);
-    Send(kVDSet);
     EXPECT_EQ(port.sent.size(), 2U);
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
+    Send(kVDSet);
+    EXPECT_EQ(port.sent.size(), 2U);
+    EXPECT_EQ(messageBox.shown.back(), Exclamation("Please select Comm-Port"));
 }
 
 class FailureInGroup : public ModuleCommandsTest, public ::testing::WithParamInterface<int> {};

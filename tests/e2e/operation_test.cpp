@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <csignal>
 
 #include "harness/journey.h"
 
@@ -117,6 +118,16 @@ TEST_F(Operation, ABaudChangeGoesOnPolling) {
     EXPECT_EQ(unit->Value("line-baud"), "19200");
     EXPECT_TRUE(Polls());
     EXPECT_EQ(program->BoxesShown().size(), 0U);
+}
+
+/// SIGINT and SIGHUP are handled alike.
+TEST_F(Operation, ASignalEndsTheProgramWhileABoxIsOpenOverTheStatusWindow) {
+    StartAndPoll();
+    RequestStatus();
+    unit->Do("silent on");
+    EXPECT_EQ(program->AwaitBox(), NoResponseBox());
+    kill(program->Process().Id(), SIGTERM);
+    EXPECT_EQ(program->Process().WaitForExit(), 0) << program->Process().Describe();
 }
 
 }  // namespace

@@ -256,7 +256,8 @@ TEST_F(QtSerialPortTest, AnExchangeOverAHungUpLineFailsAtOnceWithOneBox) {
     EXPECT_FALSE(link.Transact(kEmptyTransaction));
     puller.join();
     EXPECT_LT(watch.elapsed(), 1500) << "it waited for the whole reply limit";
-    EXPECT_FALSE(link.CheckPort());
+    EXPECT_FALSE(link.IsOpen());
+    EXPECT_FALSE(link.Transact(kEmptyTransaction));
     EXPECT_EQ(messageBox.shown, std::vector{Exclamation("No response from Zelvar")});
 }
 

@@ -10,14 +10,14 @@ namespace {
 class ReportTwin : public TwinLink {
   protected:
     ReportTwin() {
-        link.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& reply) {
-            feedback.push_back(ReadFeedbackReport(reply));
+        link.Handlers().SetHandler(ReplyKind::Feedback, [this](const Reply& received) {
+            feedback.push_back(ReadFeedbackReport(received));
         });
-        link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& reply) {
-            overcurrents.push_back(ReadOvercurrentReport(reply));
+        link.Handlers().SetHandler(ReplyKind::Overcurrent, [this](const Reply& received) {
+            overcurrents.push_back(ReadOvercurrentReport(received));
         });
-        link.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& reply) {
-            speeds.push_back(ReadBlockSpeedReport(reply));
+        link.Handlers().SetHandler(ReplyKind::BlockSpeed, [this](const Reply& received) {
+            speeds.push_back(ReadBlockSpeedReport(received));
         });
     }
 

@@ -28,15 +28,17 @@ std::string Text(std::string_view text) {
     return std::string(text);
 }
 
-/// The code of a line in the registry, by what the new view says of it.
-int CodeOf(const DescribedLayout& layout, int line) {
+/// The type of a line in the registry, by what the new view shows of it.
+VDType RegisteredType(const DescribedLayout& layout, int line) {
     const std::string state = layout.TractionState(line);
     if (state == "--" || state == "Error") {
         return VDType::Absent;
     }
-    const std::map<std::string, int> codes{
-        {"?", VDType::Unknown}, {"VD-F", VDType::VdF}, {"QLRX-s", kQlrxS}, {"VD60", kVd60}};
-    return codes.at(layout.TypeOf(line));
+    const std::map<std::string, VDType> types{{"?", VDType::Unknown},
+                                              {"VD-F", VDType::VdF},
+                                              {"QLRX-s", VDType::QlrxS},
+                                              {"VD60", VDType::Vd60}};
+    return types.at(layout.TypeOf(line));
 }
 
 TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
@@ -51,7 +53,7 @@ TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
             const int line = static_cast<int>(i);
             EXPECT_EQ(ModuleStateText(status.vd[i].state), layout.TractionState(line)) << line;
             EXPECT_EQ(VersionText(status.vd[i]), layout.TractionVersion(line)) << line;
-            EXPECT_EQ(registry.vdTypes[i], CodeOf(layout, line)) << line;
+            EXPECT_EQ(registry.vdTypes[i], RegisteredType(layout, line)) << line;
         }
         for (std::size_t i = 0; i < status.vdTypes.size(); ++i) {
             EXPECT_EQ(VDTypeText(status.vdTypes[i]), layout.TypeOf(static_cast<int>(i))) << i;
@@ -60,7 +62,7 @@ TEST_F(StatusTwin, TheNewViewShowsTheUnitsLayout) {
             const int position = static_cast<int>(i);
             EXPECT_EQ(ModuleStateText(status.js[i].state), layout.PointsState(position)) << i;
             EXPECT_EQ(JsVersionText(status.js[i]), layout.PointsVersion(position)) << i;
-            EXPECT_EQ(registry.jsPresent[i] == true, layout.points.count(position) == 1);
+            EXPECT_EQ(registry.jsPresent[i], layout.points.count(position) == 1);
         }
         for (std::size_t i = 0; i < status.yr.size(); ++i) {
             const int number = static_cast<int>(i);
@@ -86,7 +88,7 @@ TEST_F(StatusTwin, TheClassicViewShowsChannel0OfTheUnitsLayout) {
         for (int position = 0; position < kClassicJsModules; ++position) {
             const auto i = static_cast<std::size_t>(position);
             EXPECT_EQ(ModuleStateText(status.js[i].state), layout.ClassicPointsState(position));
-            EXPECT_EQ(registry.jsPresent[i] == true, layout.points.count(position) == 1);
+            EXPECT_EQ(registry.jsPresent[i], layout.points.count(position) == 1);
         }
     }
 }

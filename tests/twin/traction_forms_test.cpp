@@ -67,12 +67,11 @@ VDTypes ReadableFor(const VDSetting& setting) {
 }
 
 FormSetting NumbersOf(const VDSetting& setting, int option) {
-    FormSetting form{setting.frame + std::to_string(option),
-                     setting.button,
-                     {},
-                     {},
-                     setting.shownFor,
-                     ReadableFor(setting)};
+    FormSetting form;
+    form.name = setting.frame + std::to_string(option);
+    form.button = setting.button;
+    form.setFor = setting.shownFor;
+    form.getFor = ReadableFor(setting);
     const VDNumbers& numbers = setting.numbers;
     for (const VDField& field : numbers.fields) {
         form.fields.push_back({MemberName(numbers.field, field.index), field.parameter + option,
@@ -102,15 +101,13 @@ std::vector<FormSetting> OptionSettings() {
     std::vector<FormSetting> all;
     for (const VDSetting& setting : VDSettings()) {
         if (setting.options.parameter) {
-            FormSetting form{setting.frame,
-                             setting.button,
-                             {},
-                             {},
-                             setting.shownFor,
-                             ReadableFor(setting),
-                             setting.options.name,
-                             *setting.options.parameter,
-                             {}};
+            FormSetting form;
+            form.name = setting.frame;
+            form.button = setting.button;
+            form.setFor = setting.shownFor;
+            form.getFor = ReadableFor(setting);
+            form.options = setting.options.name;
+            form.parameter = *setting.options.parameter;
             for (const VDOption& option : setting.options.options) {
                 form.values.push_back(option.value);
             }

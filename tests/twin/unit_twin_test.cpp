@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
+#include "config/transparent_text.h"
 #include "protocol/unit_settings.h"
 #include "twin/twin_link.h"
 

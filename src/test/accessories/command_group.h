@@ -36,7 +36,7 @@ class CommandGroup : public QGroupBox {
 
     Field AddField(const CommandField& row);
 
-    /// @param command makes the command of what the group shows when the button is clicked
+    /// @param command makes the command when the button is clicked
     QPushButton* AddButton(const QString& name, const QString& caption,
                            const QString& accessibleName, std::function<Command()> command);
 

@@ -181,13 +181,12 @@ TEST_F(ReadLayoutFileTest, ReadsALayout) {
 }
 
 TEST_F(ReadLayoutFileTest, ListsEveryProblemWithFileAndLine) {
-    Write("[unit]\ntype = \"KB-E\"\nversion = 1.02\nprotocol = \"3.11 B\"\nspeed = 9600\n");
+    Write("[unit]\ntype = \"KB-E\"\nversion = 1.02\nprotocol = \"3.11 B\"\ndip-switches = 5\n");
     EXPECT_EQ(Message(path_),
               path_ +
                   ":3: version: expected a version like \"1.02\" or \"1.02 C\" in quotation marks, "
                   "at most \"9.85 G\" and at most 85 after the point, found 1.02\n" +
-                  path_ +
-                  ":5: unknown key \"speed\": expected type, version, protocol or dip-switches");
+                  path_ + ":5: dip-switches: expected a list of 4 words, found 5");
 }
 
 TEST_F(ReadLayoutFileTest, SaysWhenThereIsNone) {

@@ -43,4 +43,16 @@ inline std::vector<std::string> ProblemsOf(const std::string& text) {
     return problems;
 }
 
+/// The same without the list of keys that follows an unknown one, so that a new key needs no change
+/// here.
+inline std::vector<std::string> ProblemsWithoutKeys(const std::string& text) {
+    std::vector<std::string> problems = ProblemsOf(text);
+    for (std::string& problem : problems) {
+        const std::size_t key = problem.find("unknown key");
+        problem =
+            problem.substr(0, key == std::string::npos ? key : problem.find(": expected", key));
+    }
+    return problems;
+}
+
 }  // namespace zelvar::sim
