@@ -20,7 +20,7 @@ class UnitImage::Comparison : private sim::StateView {
   private:
     using Place = std::vector<Entry>::const_iterator;
 
-    /// Whatever is left out is gone.
+    /// Items that are left out are gone.
     void SkipTo(Place place) {
         std::for_each(next_, place,
                       [this](const Entry& entry) { changes[entry.name.Text()] = kGone; });
