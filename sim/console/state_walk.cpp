@@ -105,6 +105,9 @@ void WalkUnit(StateView& view, const UnitState& state) {
     Single(view, kKept, {"device-mode", "permanent"}, permanent.deviceMode);
     Single(view, kKept, {"options"}, state.memories.options, "options", &OptionsName);
     Single(view, kDump, {"answer-delay"}, state.answerDelay);
+    if (!view.IsOneOf(kDump | kTable)) {
+        return;
+    }
     const auto set = [&view](std::string_view name, const std::string& numbers) {
         view.Item(kDump, "Unit", {name}, {Dump({}, numbers)});
     };
@@ -324,7 +327,7 @@ void WalkTraction(StateView& view, const UnitState& state, int line) {
     };
     walk("active", memory.active);
     walk("permanent", memory.permanent);
-    if (present) {
+    if (present && view.IsOneOf(kDump | kTable)) {
         view.Item(kDump, "Settings changed", {"traction", "clock", line},
                   {Dump({}, state.layout.At(address).clock)});
         const TractionSettings described = DescribedTractionSettings(state.layout, line);
@@ -360,7 +363,7 @@ void WalkPoints(StateView& view, const UnitState& state, int position) {
     };
     walk("active", memory.active);
     walk("permanent", memory.permanent);
-    if (present) {
+    if (present && view.IsOneOf(kTable)) {
         const PointSettings factory = FactoryPointSettings();
         Changed<std::uint8_t>(view, address, "default time", factory.defaultTime,
                               memory.active.defaultTime, memory.permanent.defaultTime,
@@ -393,7 +396,7 @@ void WalkState(const UnitState& state, StateView& view) {
     WalkUnit(view, state);
     WalkTime(view, state);
     WalkFrames(view, state.frames);
-    for (int address = 0; address < kModuleAddresses; ++address) {
+    for (int address = 0; address < kModuleAddresses && view.IsOneOf(kTable); ++address) {
         WalkModule(view, state, address);
     }
     WalkDrive(view, state);

@@ -45,6 +45,9 @@ class StateView {
   public:
     virtual ~StateView() = default;
 
+    /// Whether this is one of the views: to make texts for those only that use them.
+    bool IsOneOf(unsigned views) const { return (view_ & views) != 0; }
+
     /// Begins an item for these views: a line of `dump`, a row of the table with this heading.
     void Begin(unsigned views, std::string_view table, const StateName& name) {
         open_ = views & view_;

@@ -19,7 +19,7 @@ struct Reply {
     bool operator==(const Reply&) const = default;
 };
 
-/// The central unit with the layout behind it: one correct command frame in, at most one reply out.
+/// The central unit and its layout: one correct command frame in, at most one reply out.
 class CentralUnit {
   public:
     /// @param seed of the small differences between engines; 0: none

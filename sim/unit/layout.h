@@ -15,13 +15,17 @@ namespace zelvar::sim {
 
 /// One place for a module.
 struct ModuleSlot {
+    ModuleSlot() = default;
+    ModuleSlot(std::uint8_t statusByte, int decimalVersion)
+        : status(statusByte), version(decimalVersion) {}
+
+    bool Present() const { return IsPresent(status); }
+
     std::uint8_t status = kAbsentStatus;
     int version = 0;         // see sim/protocol/version.h
     std::uint8_t clock = 0;  // of traction units, see kClockWords
     /// Of traction units, as they come to the layout.
     TractionSettings settings = FactoryValues();
-
-    bool Present() const { return IsPresent(status); }
 };
 
 /// A described layout: the central unit and every place for a module, by its address.

@@ -24,7 +24,7 @@ inline const Layout& MixedLayout() {
     return layout;
 }
 
-/// The mixed modules behind a KB-F whose protocol is 3.10, too old to report modules singly.
+/// The mixed modules of a KB-F whose protocol is 3.10, too old to report modules singly.
 inline const Layout& OldUnitLayout() {
     static const Layout layout = LayoutOf(ZELVAR_TEST_LAYOUTS "/old-unit.toml");
     return layout;

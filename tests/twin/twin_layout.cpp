@@ -9,7 +9,7 @@ sim::Layout EveryKind() {
     sim::Layout layout = sim::EmptyLayout();
     const auto put = [&](int address, sim::TractionType type) {
         layout.At(address) = {sim::StatusByte(static_cast<int>(type), sim::ModuleState::kOk),
-                              kVersion, 0, 0};
+                              kVersion};
     };
     for (const int line : {0, 3, 31}) {
         put(32 + line, sim::TractionType::kVdF);

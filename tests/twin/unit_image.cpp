@@ -3,49 +3,61 @@
 #include "twin/unit_image.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace zelvar::twin {
 
+/// Walks over the state of now, beside the image of before.
+class UnitImage::Comparison : private sim::StateView {
+  public:
+    Comparison(const UnitImage& before, const sim::UnitState& now)
+        : StateView(sim::kImage), before_(before), next_(before.entries_.begin()) {
+        sim::WalkState(now, *this);
+        SkipTo(before_.entries_.end());
+    }
+    Changes changes;
+
+  private:
+    using Place = std::vector<Entry>::const_iterator;
+
+    /// Items that are left out are gone.
+    void SkipTo(Place place) {
+        std::for_each(next_, place,
+                      [this](const Entry& entry) { changes[entry.name.Text()] = kGone; });
+        next_ = place;
+    }
+    void Open(std::string_view, const sim::StateName& name) override {
+        const Place end = before_.entries_.end();
+        const Place same =
+            std::find_if(next_, end, [&](const Entry& entry) { return entry.name == name; });
+        now_ = name;
+        number_.reset();
+        if (same != end) {
+            SkipTo(same);
+            number_ = same->start;
+            ++next_;
+        }
+    }
+    void Take(const sim::StateValue& value) override {
+        const int number = static_cast<int>(value.number);
+        if (!number_ || before_.numbers_[(*number_)++] != number) {
+            const std::string name = value.name.Text();
+            changes[now_.Text() + (name.empty() ? "" : ".") + name] = number;
+        }
+    }
+
+    const UnitImage& before_;
+    Place next_;
+    sim::StateName now_;
+    std::optional<std::size_t> number_;  // none: the item is new
+};
+
 UnitImage::UnitImage(const sim::UnitState& state) : StateView(sim::kImage) {
-    constexpr std::size_t kUsualEntries = 7000;
-    entries_.reserve(kUsualEntries);
     sim::WalkState(state, *this);
 }
 
-void UnitImage::Take(const sim::StateValue& value) {
-    entries_.push_back({item_, value.name, static_cast<int>(value.number)});
-}
-
-bool UnitImage::Entry::SameName(const Entry& other) const {
-    // Numbers first: they differ more often than the words before them.
-    return item.first == other.item.first && item.second == other.item.second &&
-           value == other.value && item == other.item;
-}
-
-std::string UnitImage::Entry::Name() const {
-    const std::string name = value.Text();
-    return item.Text() + (name.empty() ? "" : ".") + name;
-}
-
 Changes UnitImage::ChangesTo(const sim::UnitState& state) const {
-    const UnitImage now(state);
-    Changes changes;
-    auto before = entries_.begin();
-    for (const Entry& entry : now.entries_) {
-        const auto same = std::find_if(before, entries_.end(),
-                                       [&](const Entry& old) { return old.SameName(entry); });
-        if (same == entries_.end()) {
-            changes[entry.Name()] = entry.number;
-            continue;
-        }
-        std::for_each(before, same, [&](const Entry& old) { changes[old.Name()] = kGone; });
-        if (same->number != entry.number) {
-            changes[entry.Name()] = entry.number;
-        }
-        before = same + 1;
-    }
-    std::for_each(before, entries_.end(), [&](const Entry& old) { changes[old.Name()] = kGone; });
-    return changes;
+    return Comparison(*this, state).changes;
 }
 
 }  // namespace zelvar::twin

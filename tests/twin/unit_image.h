@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
@@ -17,7 +18,7 @@ namespace zelvar::twin {
 /// on.
 using Changes = std::map<std::string, int>;
 
-/// The value of something that is not there any more.
+/// The value of something that is not there any more, by its name alone: "link.3.4", "mcc.7".
 inline constexpr int kGone = -1000;
 
 /// The unit's state at one moment.
@@ -29,20 +30,22 @@ class UnitImage : private sim::StateView {
     Changes ChangesTo(const sim::UnitState& state) const;
 
   private:
-    struct Entry {
-        sim::StateName item;
-        sim::StateName value;
-        int number;
+    class Comparison;
 
-        bool SameName(const Entry& other) const;
-        std::string Name() const;
+    struct Entry {
+        sim::StateName name;
+        std::size_t start;  // of its numbers
     };
 
-    void Open(std::string_view, const sim::StateName& name) override { item_ = name; }
-    void Take(const sim::StateValue& value) override;
+    void Open(std::string_view, const sim::StateName& name) override {
+        entries_.push_back({name, numbers_.size()});
+    }
+    void Take(const sim::StateValue& value) override {
+        numbers_.push_back(static_cast<int>(value.number));
+    }
 
-    sim::StateName item_;
     std::vector<Entry> entries_;
+    std::vector<int> numbers_;
 };
 
 }  // namespace zelvar::twin

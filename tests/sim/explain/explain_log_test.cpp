@@ -45,7 +45,7 @@ struct LogCase {
 
 class LogLine : public testing::TestWithParam<LogCase> {};
 
-TEST_P(LogLine, IsKeptWithItsMeaningBehindIt) {
+TEST_P(LogLine, IsKeptWithItsMeaningAfterIt) {
     const Explained explained = Explain(GetParam().line + "\r\n");
     ASSERT_EQ(explained.lines.size(), 1U);
     EXPECT_EQ(explained.lines[0], Padded(GetParam().frames) + GetParam().meaning);
@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
         LogCase{"SmallLetters", ">> 0b a2 85 cc 82" + Unused(4) + "  << 08 f8",
                 ">> 0b a2 85 cc 82" + Unused(4) + "  << 08 f8",
                 "analog speed: block 5, speed 12 forward -> acknowledged"},
-        LogCase{"NothingBehindTheSign", ">> 08 F8" + Unused(7) + "  << ",
+        LogCase{"NothingAfterTheSign", ">> 08 F8" + Unused(7) + "  << ",
                 ">> 08 F8" + Unused(7) + "  <<", "poll -> no answer"},
         LogCase{"CutOffReply", ">> 08 F8" + Unused(7) + "  << 0B A2",
                 ">> 08 F8" + Unused(7) + "  << 0B A2", "poll -> incomplete: 2 of 5 bytes"}),

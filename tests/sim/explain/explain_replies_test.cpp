@@ -223,7 +223,7 @@ INSTANTIATE_TEST_SUITE_P(
                    {0xFF, 0x08, 0xF8},
                    "1 bytes without a header; poll",
                    "1 bytes without a header; acknowledged"},
-        BrokenCase{"StrayBehind",
+        BrokenCase{"StrayAfter",
                    {0x08, 0xF8, 0xF8},
                    "poll; bytes behind the frame: 1",
                    "acknowledged; bytes behind the frame: 1"}),

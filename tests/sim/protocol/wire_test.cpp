@@ -94,7 +94,7 @@ TEST(FrameParserTest, IgnoresBytesBeforeTheFirstHeader) {
     EXPECT_EQ(PushAll(parser, {0x81, 0xFF, 0x80, 0x08, 0xF8}), Outcome::kFrame);
 }
 
-TEST(FrameParserTest, IgnoresBytesBehindAFrame) {
+TEST(FrameParserTest, IgnoresBytesAfterAFrame) {
     FrameParser parser;
     EXPECT_EQ(PushAll(parser, {0x08, 0xF8, 0xF8}), Outcome::kNothing);
     EXPECT_EQ(PushAll(parser, {0x08, 0xF8}), Outcome::kFrame);

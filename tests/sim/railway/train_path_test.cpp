@@ -43,7 +43,7 @@ TEST(TrackEnds, APointSetAgainstATrainLetsItPass) {
     EXPECT_EQ(Beyond(LoopPlan(), kSiding, true, {{6, false}}), (SectionUnderTrain{kEast, true}));
 }
 
-TEST(TrackEnds, NothingIsBehindADeadEnd) {
+TEST(TrackEnds, NothingIsBeyondADeadEnd) {
     EXPECT_EQ(Beyond(LoopPlan(), kStub, true, {}), std::nullopt);
     EXPECT_EQ(Beyond(LoopPlan(), kStub, false, {}), std::nullopt);
 }

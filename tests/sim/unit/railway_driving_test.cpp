@@ -239,7 +239,7 @@ TEST_F(Mcc, RunsByHalfSteps) {
     EXPECT_EQ(Where("bus"), "west 81.0");
 }
 
-TEST_F(Mcc, GathersSpeedAsItWasToldByTheCommand) {
+TEST_F(Mcc, GathersSpeedByTheAccelerationOfTheCommand) {
     Build({MccTrain("bus", 5, kWest)});
     Ask({6, 0, 5, 31, 7});  // a half step each 140 ms
     Wait(milliseconds(1400));

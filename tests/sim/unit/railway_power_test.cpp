@@ -102,7 +102,7 @@ TEST_F(Power, EverythingStandsWhileAStopIsRequestedAndResumesByItsMass) {
     ExpectSpeeds("20.0", "20.0", "3.0");
 }
 
-TEST_F(Power, WhatIsToldWhileStoppedHoldsAfterwards) {
+TEST_F(Power, WhatIsCommandedWhileStoppedHoldsAfterwards) {
     BuildRunning();
     Send({}, kHeaderStopBit);
     Send({34, 1, 64 + 5}, kHeaderStopBit);
@@ -142,7 +142,7 @@ TEST_F(Power, EverythingStandsInFaultAndResumesAfterTheReset) {
     ExpectSpeeds("5.0", "10.0", "0.5");
 }
 
-TEST_F(Power, HoldIsToldOnly) {
+TEST_F(Power, HoldIsOnlyReported) {
     BuildRunning();
     unit_.state().hold = true;
     Wait(milliseconds(500));
@@ -161,7 +161,7 @@ TEST_F(Power, AfterARebootEverythingStandsWhereItIs) {
 
 class Overcurrent : public RailwayFixture {
   protected:
-    /// Red runs up to blue, which stands in the block behind the joint.
+    /// Red runs up to blue, which stands in the block after the joint.
     void Meet() {
         Build({AnalogTrain("red", kWest, 90), AnalogTrain("blue", kNorth, 80)});
         Drive(1, 10);
@@ -209,7 +209,7 @@ TEST_F(Overcurrent, ItsEndDoesNotResetTheFault) {
     EXPECT_EQ(Listed("fault"), "1");
 }
 
-TEST_F(Overcurrent, ANewPairIsReportedAnew) {
+TEST_F(Overcurrent, ANewPairIsReportedAgain) {
     Meet();
     unit_.state().railway.Place(1, kEast, 50, {});
     Ask({1, 0});
@@ -241,7 +241,7 @@ TEST_F(Overcurrent, OneTrainInTwoSectionsOfABlockIsNone) {
     EXPECT_EQ(Listed("fault"), "0");
 }
 
-TEST_F(Overcurrent, AfterARebootAPairIsReportedAnew) {
+TEST_F(Overcurrent, AfterARebootAPairIsReportedAgain) {
     Meet();
     PollAll();
     unit_.Reboot(now_);

@@ -34,7 +34,7 @@ TEST(ReportQueueTest, ANewerValueTakesThePlaceOfTheOlder) {
     EXPECT_EQ(queue.NextForPoll(), BlockSpeedReport(5, 11, false));
 }
 
-TEST(ReportQueueTest, DropsTheOldestWhenNobodyPolls) {
+TEST(ReportQueueTest, DropsTheOldestWithoutPolls) {
     ReportQueue queue;
     for (std::size_t count = 0; count <= ReportQueue::kMaxPending; ++count) {
         queue.Push({static_cast<int>(count % 100)});

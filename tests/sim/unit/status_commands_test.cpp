@@ -16,7 +16,7 @@ TEST_F(StatusCommands, UnitTypeAndVersion) {
     EXPECT_EQ(Ask({1, 10}), (Payload{1, 10, 2, 1 << 3, 2 << 3}));
 }
 
-TEST_F(StatusCommands, TheOldUnitTellsItsOldProtocol) {
+TEST_F(StatusCommands, TheOldUnitReportsItsOldProtocol) {
     unit_ = CentralUnit(OldUnitLayout());
     EXPECT_EQ(Ask({1, 2}), (Payload{1, 2, 3 << 3 | 1, 0}));
     EXPECT_EQ(Ask({1, 10})[2], 1);
