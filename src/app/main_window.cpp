@@ -70,7 +70,6 @@ void MainWindow::BuildFrame() {
     tabs_->addTab(jsTab_, QStringLiteral("JS70"));
     tabs_->addTab(kbTab_, QStringLiteral("KB-x"));
     tabs_->addTab(testTab_, QStringLiteral("TEST"));
-    resize(sizeHint());
 }
 
 void MainWindow::ConnectControls() {
@@ -206,8 +205,7 @@ void MainWindow::cmdStatus_MouseDown(bool classic) {
     }
     const std::optional<SystemStatus> status =
         StatusRequest(link_, *statusBar_, platform_.clock, registry_, *this).Run(classic);
-    // The program may have ended meanwhile; nothing must come into view again.
-    if (!status || !isVisible()) {
+    if (!status) {
         return;
     }
     if (status->classic) {

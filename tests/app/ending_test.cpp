@@ -125,6 +125,13 @@ TEST_F(Ending, InTheMiddleOfAStatusRequestShowsNoViewAndAsksNoFurtherModule) {
     ExpectNothingIsLeft();
 }
 
+TEST_F(Ending, AtTheEndOfAStatusRequestShowsNoView) {
+    // The transaction that closes the request is the empty one.
+    unit.silent = {{}};
+    RunUntilBox([this] { Click("cmdStatus"); }, [](QWidget&) { QCoreApplication::quit(); });
+    ExpectNothingIsLeft();
+}
+
 TEST_F(Ending, OverAQuestionCountsAsNo) {
     Click("cmdStatus");
     Activate("dlgZelvarStatus44");

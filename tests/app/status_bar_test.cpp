@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "platform/qt_timer.h"
 #include "support/window_fixture.h"
 
 namespace zelvar::testing {
@@ -88,6 +89,22 @@ TEST_F(StatusBarTest, WithoutAnOfferNothingIsPumpedAndNothingCancelled) {
     EXPECT_FALSE(bar.IsCancelled());
     EXPECT_FALSE(eventRan);
     bar.End();
+}
+
+TEST_F(StatusBarTest, NoTickRunsWhileCancelIsPumped) {
+    QtTimer timer(0);
+    int ticks = 0;
+    timer.SetHandler([&] { ++ticks; });
+    timer.SetEnabled(true);
+    bar.Begin("Asking the central unit", 4);
+    bar.OfferCancel();
+    bool eventRan = false;
+    QTimer::singleShot(0, &bar, [&] { eventRan = true; });
+    EXPECT_FALSE(bar.IsCancelled());
+    EXPECT_TRUE(eventRan);
+    EXPECT_EQ(ticks, 0);
+    bar.End();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
 }
 
 TEST_F(StatusBarTest, AnOldCancelDoesNotCountForTheNextWork) {
