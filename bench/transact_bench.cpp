@@ -47,10 +47,14 @@ class NoView : public zelvar::LinkView {
   public:
     bool IsStopTicked() const override { return false; }
     void ShowSystemState(zelvar::SystemState /*state*/) override {}
-    void AppendMessageLog(const std::string& text) override { logged_ += text.size(); }
+    void FrameSent(const zelvar::FrameBytes& frame) override { seen_ += frame.size(); }
+    void ReplyReceived(const zelvar::FrameBytes& /*frame*/, const zelvar::Reply& reply) override {
+        seen_ += static_cast<std::size_t>(reply.Count());
+    }
+    void NoReply() override {}
 
   private:
-    std::size_t logged_ = 0;
+    std::size_t seen_ = 0;
 };
 
 /// Speed of block 5, which is how most commands look: three data bytes.

@@ -46,7 +46,8 @@ TEST_F(PortChoice, EachEntryTellsItsDeviceAndTheListWhatToDo) {
     auto& list = Find<QComboBox>("cboPort");
     const auto description = [&list] { return list.itemData(1, Qt::ToolTipRole).toString(); };
     EXPECT_TRUE(description().startsWith(QStringLiteral("/dev/port2")));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return description() == QStringLiteral("/dev/port2 (Adapter)"); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return description() == QStringLiteral("/dev/port2 (Adapter)"); }));
     EXPECT_FALSE(list.toolTip().startsWith(QStringLiteral("No serial port")));
     port.openable = {};
     Click("cmdRefresh");

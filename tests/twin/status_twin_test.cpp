@@ -82,7 +82,7 @@ TEST_F(StatusTwin, TheClassicViewShowsChannel0OfTheUnitsLayout) {
         EXPECT_EQ(status.dip, layout.dipOn);
         for (int line = 0; line < kClassicVDLines; ++line) {
             const auto i = static_cast<std::size_t>(line);
-            EXPECT_EQ(VDTypeText(status.vdTypes[i]), layout.ClassicType(line)) << line;
+            EXPECT_EQ(ClassicVDTypeText(status.vdTypes[i]), layout.ClassicType(line)) << line;
             EXPECT_EQ(ModuleStateText(status.vd[i].state), layout.ClassicState(line)) << line;
         }
         for (int position = 0; position < kClassicJsModules; ++position) {
