@@ -389,7 +389,7 @@ std::string StateName::Text() const {
             text.append(text.empty() ? "" : ".").append(std::to_string(number));
         }
     }
-    return text.append(text.empty() || part.empty() ? "" : ".").append(part);
+    return text.append(part.empty() ? "" : ".").append(part);
 }
 
 void WalkState(const UnitState& state, StateView& view) {

@@ -79,7 +79,6 @@ struct FunctionGroup {
     int decoderAt;
 };
 
-constexpr Field kFunctionBlock = Whole(1);  // not split, unlike the block of a speed
 constexpr Field kFourFunctions = Part(2, 0x0F);
 constexpr Field kEightFunctions = Wide(2, 1);
 // The light, function 0, has its bit after those of functions 1 to 4.
@@ -100,7 +99,7 @@ int FunctionsOf(int bits) {
 template <const FunctionGroup& group>
 Payload DccFunctions(UnitState& state, const Payload& command) {
     DccLocomotive& locomotive = state.drive.Dcc(DecoderAt(command, group.decoderAt));
-    locomotive.block = kFunctionBlock.In(command);
+    locomotive.block = kBlock.In(command);
     const int functions = FunctionsOf<group>(group.bits.In(command));
     for (int number = 0; number < group.count; ++number) {
         locomotive.functions.set(group.first + number, (functions >> number & 1) != 0);
@@ -198,27 +197,27 @@ constexpr CommandRow kDriveCommands[] = {
     {"dcc-f0-f4",
      {Is(40), Any(), Bits(0x60, 0), Any(), MayFollow()},
      {"DCC functions F0..F4: block {}, decoder {}, on: {}",
-      {kFunctionBlock, &DecoderName<3>, {kF0ToF4.bits, &FunctionsName<kF0ToF4>}}},
+      {kBlock, &DecoderName<3>, {kF0ToF4.bits, &FunctionsName<kF0ToF4>}}},
      &DccFunctions<kF0ToF4>},
     {"dcc-f5-f8",
      {Is(40), Any(), Bits(0x70, 48), Any(), MayFollow()},
      {"DCC functions F5..F8: block {}, decoder {}, on: {}",
-      {kFunctionBlock, &DecoderName<3>, {kF5ToF8.bits, &FunctionsName<kF5ToF8>}}},
+      {kBlock, &DecoderName<3>, {kF5ToF8.bits, &FunctionsName<kF5ToF8>}}},
      &DccFunctions<kF5ToF8>},
     {"dcc-f9-f12",
      {Is(40), Any(), Bits(0x70, 32), Any(), MayFollow()},
      {"DCC functions F9..F12: block {}, decoder {}, on: {}",
-      {kFunctionBlock, &DecoderName<3>, {kF9ToF12.bits, &FunctionsName<kF9ToF12>}}},
+      {kBlock, &DecoderName<3>, {kF9ToF12.bits, &FunctionsName<kF9ToF12>}}},
      &DccFunctions<kF9ToF12>},
     {"dcc-f13-f20",
      {Is(44), Any(), IsBut(1, 4), Any(), Any(), MayFollow()},
      {"DCC functions F13..F20: block {}, decoder {}, on: {}",
-      {kFunctionBlock, &DecoderName<4>, {kF13ToF20.bits, &FunctionsName<kF13ToF20>}}},
+      {kBlock, &DecoderName<4>, {kF13ToF20.bits, &FunctionsName<kF13ToF20>}}},
      &DccFunctions<kF13ToF20>},
     {"dcc-f21-f28",
      {Is(44), Any(), IsBut(1, 6), Any(), Any(), MayFollow()},
      {"DCC functions F21..F28: block {}, decoder {}, on: {}",
-      {kFunctionBlock, &DecoderName<4>, {kF21ToF28.bits, &FunctionsName<kF21ToF28>}}},
+      {kBlock, &DecoderName<4>, {kF21ToF28.bits, &FunctionsName<kF21ToF28>}}},
      &DccFunctions<kF21ToF28>},
     {"mcc-speed",
      {Is(6), IsBut(0x1F, 0), Any(), IsBut(0x1F, 0), IsBut(7, 0)},

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "sim/protocol/names.h"
 #include "sim/unit_fixture.h"
 
 namespace zelvar::sim {
@@ -13,19 +14,23 @@ using Rows = std::vector<std::vector<std::string>>;
 
 class StateTable : public UnitFixture {
   protected:
-    Rows RowsOf(std::string_view heading) {
+    TableSection SectionOf(std::string_view heading) {
         for (const TableSection& section : StateSections(unit_.state())) {
             if (section.heading == heading) {
-                return section.rows;
+                return section;
             }
         }
         ADD_FAILURE() << "no section " << heading;
         return {};
     }
+    Rows RowsOf(std::string_view heading) { return SectionOf(heading).rows; }
+    std::string ColumnsOf(std::string_view heading) { return Joined(SectionOf(heading).columns); }
 };
 
 TEST_F(StateTable, ListsTheModulesThatAreThere) {
     unit_.state().muted.set(64);
+    EXPECT_EQ(ColumnsOf("Modules"),
+              "address, module, type, state, version, master/slave, clock, answers");
     const Rows modules = RowsOf("Modules");
     const Rows expected{
         {"36", "traction module 4", "VD60", "OK", "2.01 D", "slave", "good", ""},
@@ -53,6 +58,12 @@ TEST_F(StateTable, ShowsWhatMovesAndWhatWasSet) {
     unit_.state().overcurrent.set(9);
     unit_.state().feedback.set(200);
     unit_.state().feedback.set(7);
+    EXPECT_EQ(ColumnsOf("Blocks"), "block, speed, going to, direction, light, overcurrent");
+    EXPECT_EQ(ColumnsOf("Links"), "blocks, direction");
+    EXPECT_EQ(ColumnsOf("Locomotives"), "decoder, speed, direction, block, functions");
+    EXPECT_EQ(ColumnsOf("Points"), "point, position");
+    EXPECT_EQ(ColumnsOf("Signals"), "module, pin, aspect");
+    EXPECT_EQ(ColumnsOf("Outputs"), "output, instruction, parameter");
     EXPECT_EQ(RowsOf("Blocks"), (Rows{{"5", "12", "", "forward", "off", ""},
                                       {"6", "12", "", "reverse", "off", ""},
                                       {"9", "0", "", "forward", "off", "yes"}}));
@@ -88,6 +99,7 @@ TEST_F(StateTable, ShowsTheStateOfTheUnit) {
 }
 
 TEST_F(StateTable, ShowsTheSettingsThatWereChangedOnly) {
+    EXPECT_EQ(ColumnsOf("Settings changed"), "module, setting, active, permanent");
     EXPECT_EQ(RowsOf("Settings changed"), Rows());
     Send({0, 32, 8, 1, 5});
     Send({0, 32, 8, 75, 2});

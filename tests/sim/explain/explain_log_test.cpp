@@ -26,8 +26,8 @@ Explained Explain(const std::string& text) {
 }
 
 /// The places of data bytes that a command does not use, as the program's log leaves them empty.
-std::string Unused(int places) {
-    return std::string(static_cast<std::size_t>(places) * 3, ' ');
+std::string Unused(std::size_t places) {
+    return std::string(places * 3, ' ');
 }
 
 std::string Padded(std::string frames) {

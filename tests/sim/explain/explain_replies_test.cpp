@@ -52,6 +52,10 @@ INSTANTIATE_TEST_SUITE_P(
                   {1, 11, 36},
                   {1, 11, 37, 0, 0, 0},
                   "traction module 5: absent (not what was asked for)"},
+        ReplyCase{"ModuleOfAShorterCommand",
+                  {1, 11},
+                  {1, 11, 0, 0, 0, 0},
+                  "second unit of traction module 0: absent (not what was asked for)"},
         ReplyCase{"LateModule", {}, {1, 11, 37, 0, 0, 0}, "traction module 5: absent"},
         ReplyCase{"DipSwitches", {1, 3, 0}, {1, 3, 5}, "DIP switches: off on off on"},
         ReplyCase{"Present",
@@ -175,6 +179,17 @@ TEST(ExplainerTest, LearnsFromAStatusWhatAnAnswerMeans) {
         explainer.Command(EncodeFrame({}));
         EXPECT_EQ(explainer.Reply(EncodeFrame({0, 37, 10, 15, 4})), answer);
     }
+}
+
+TEST(ExplainerTest, LearnsNothingFromOtherRepliesAndBrokenOnes) {
+    constexpr int kPresentQlrxS = 10;
+    Explainer explainer;
+    explainer.Reply(EncodeFrame({1, 2, 37, kPresentQlrxS}));
+    Bytes broken = EncodeFrame({1, 11, 37, kPresentQlrxS, 0, 0});
+    broken.back() ^= 1;
+    explainer.Reply(broken);
+    EXPECT_EQ(explainer.Command(EncodeFrame({0, 37, 8, 15})),
+              "ask for the active clock state (in a QLRX-s: module address) of traction module 5");
 }
 
 TEST(ExplainerTest, ShowsTheBitsOfTheHeader) {

@@ -87,6 +87,12 @@ TEST_F(ModuleMemory, ASecondUnitHasAMemoryOfItsOwn) {
     EXPECT_EQ(Get({0, 51, 24, 9}), (Payload{0, 51, 26, 9, 32}));
 }
 
+TEST_F(ModuleMemory, StartsWithTheModulesOwnAddress) {
+    EXPECT_EQ(Get({0, 40, 8, kPermanent + 15})[4], 8);
+    EXPECT_EQ(Get({0, 51, 8, kPermanent + 15})[4], 3);
+    EXPECT_EQ(Get({0, 51, 24, kPermanent + 15})[4], 3);
+}
+
 TEST_F(ModuleMemory, StartsWithOneMasterAndGoodClocks) {
     EXPECT_EQ(Get({0, 32, 8, 11})[4], 1);
     EXPECT_EQ(Get({0, 33, 8, 11})[4], 2);
