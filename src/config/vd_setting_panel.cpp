@@ -16,7 +16,6 @@
 #include "controls/lost_focus.h"
 #include "controls/naming.h"
 #include "controls/palette.h"
-#include "controls/twips.h"
 
 namespace zelvar {
 

@@ -9,9 +9,9 @@
 
 #include <algorithm>
 
+#include "controls/arrange.h"
 #include "controls/fixed_pitch_font.h"
 #include "controls/naming.h"
-#include "controls/twips.h"
 
 namespace zelvar {
 

@@ -6,9 +6,9 @@
 
 #include <cstddef>
 
+#include "controls/arrange.h"
 #include "controls/caption_label.h"
 #include "controls/naming.h"
-#include "controls/twips.h"
 
 namespace zelvar {
 
