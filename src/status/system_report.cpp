@@ -41,7 +41,7 @@ std::string_view SystemStateName(int state) {
     if (state < 0 || state >= static_cast<int>(kSystemStates.size())) {
         return "?";
     }
-    return kSystemStates[static_cast<std::size_t>(state)];
+    return kSystemStates[state];
 }
 
 std::string VersionText(const ModuleLine& line) {
