@@ -14,7 +14,6 @@
 #include "config/js_report.h"
 #include "config/selection.h"
 #include "controls/arrange.h"
-#include "controls/caption_label.h"
 #include "controls/command_button.h"
 #include "controls/fixed_pitch_font.h"
 #include "controls/naming.h"

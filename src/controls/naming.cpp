@@ -12,4 +12,10 @@ QString IndexedName(std::string_view name, qsizetype index) {
     return QStringLiteral("%1(%2)").arg(ToQString(name)).arg(index);
 }
 
+QLabel* CaptionLabel(const QString& name, const QString& caption, QWidget* parent, QWidget* buddy) {
+    auto* label = Named(new QLabel(caption, parent), name, caption);
+    label->setBuddy(buddy);
+    return label;
+}
+
 }  // namespace zelvar

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLabel>
 #include <QString>
 #include <QWidget>
 
@@ -28,5 +29,9 @@ template <typename Control>
 Control* Named(Control* control, const char* name, const char* accessibleName) {
     return Named(control, ToQString(name), ToQString(accessibleName));
 }
+
+/// A label whose caption is its accessible name, too. @param buddy the control that it names
+QLabel* CaptionLabel(const QString& name, const QString& caption, QWidget* parent,
+                     QWidget* buddy = nullptr);
 
 }  // namespace zelvar

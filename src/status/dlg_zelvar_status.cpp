@@ -10,7 +10,6 @@
 
 #include <cstddef>
 
-#include "controls/caption_label.h"
 #include "controls/naming.h"
 
 namespace zelvar {

@@ -7,7 +7,6 @@
 #include <cstddef>
 
 #include "controls/arrange.h"
-#include "controls/caption_label.h"
 #include "controls/naming.h"
 
 namespace zelvar {

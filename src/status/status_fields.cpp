@@ -4,7 +4,6 @@
 
 #include <QGridLayout>
 
-#include "controls/caption_label.h"
 #include "controls/naming.h"
 #include "protocol/version.h"
 #include "status/system_report.h"

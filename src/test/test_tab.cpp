@@ -7,7 +7,6 @@
 #include <QVBoxLayout>
 
 #include "controls/arrange.h"
-#include "controls/caption_label.h"
 #include "controls/naming.h"
 #include "controls/number_text.h"
 #include "controls/system_state_label.h"

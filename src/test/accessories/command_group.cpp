@@ -6,7 +6,6 @@
 
 #include <utility>
 
-#include "controls/caption_label.h"
 #include "controls/command_button.h"
 #include "controls/naming.h"
 

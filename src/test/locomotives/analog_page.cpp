@@ -6,7 +6,6 @@
 #include <QScopedValueRollback>
 
 #include "controls/arrange.h"
-#include "controls/caption_label.h"
 #include "controls/command_button.h"
 #include "controls/naming.h"
 #include "controls/number_text.h"

@@ -5,7 +5,6 @@
 #include <QGridLayout>
 
 #include "controls/arrange.h"
-#include "controls/caption_label.h"
 #include "controls/command_button.h"
 #include "controls/naming.h"
 #include "test/locomotives/drive_controls.h"
