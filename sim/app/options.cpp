@@ -85,7 +85,7 @@ void Describe(CLI::App& app, Options& options) {
                    "Simulated seconds per second, 0..100: trains run N\ntimes as fast; at 0 they "
                    "stop; default: 1")
         ->type_name("N")
-        ->transform(WholeNumber(0, kMostTimeFactor));
+        ->transform(WholeNumber(0, kMaxTimeFactor));
     app.add_option("--seed", options.seed,
                    "Makes engines differ a little, otherwise for each N;\nat 0 (default) they run "
                    "as described")

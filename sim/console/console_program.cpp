@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "sim/console/console.h"
-#include "sim/console/state_listing.h"
+#include "sim/console/state_dump.h"
 #include "sim/console/state_table.h"
 
 namespace zelvar::sim {
@@ -52,7 +52,7 @@ TableSection ArmedFaultsTable(const ConsoleContext& context) {
 }
 
 ConsoleResult State(ConsoleContext& context, const Values&) {
-    std::vector<TableSection> sections = StateSections(context.unit.state());
+    std::vector<TableSection> sections = StateTables(context.unit.state());
     const TableSection faults = ArmedFaultsTable(context);
     sections.push_back(LineTable(context, faults.rows.size()));
     sections.push_back(faults);
@@ -60,7 +60,7 @@ ConsoleResult State(ConsoleContext& context, const Values&) {
 }
 
 ConsoleResult Dump(ConsoleContext& context, const Values&) {
-    return {StateListing(context.unit.state()) + "silent=" + (context.faults.silent() ? "1" : "0") +
+    return {StateDump(context.unit.state()) + "silent=" + (context.faults.silent() ? "1" : "0") +
                 "\nline-baud=" + std::to_string(context.lineBaud) + "\nok",
             ConsoleAction::kNone};
 }

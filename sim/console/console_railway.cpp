@@ -15,7 +15,7 @@ namespace {
 using std::chrono::milliseconds;
 
 // As long as one step catches up with, so that nothing of a run is dropped.
-constexpr int kMaxRunMs = static_cast<int>(milliseconds(kMostCatchUp) / milliseconds(1));
+constexpr int kMaxRunMs = static_cast<int>(milliseconds(kMaxCatchUp) / milliseconds(1));
 constexpr int kMaxPosition = 10'000;  // centimetres: no section is longer
 constexpr Word kPositions[] = {{"straight", 0}, {"thrown", 1}};
 
@@ -86,7 +86,7 @@ constexpr ConsoleCommand kCommands[] = {
      "Moves point D.",
      "point 1 thrown"},
     {"time-factor",
-     {Number("N", 0, kMostTimeFactor)},
+     {Number("N", 0, kMaxTimeFactor)},
      &TimeFactor,
      "Lets N simulated seconds pass in each second; 0 stops simulated time.",
      "time-factor 5"},

@@ -84,7 +84,7 @@ std::string RenderRow(const Row& row, const std::vector<std::size_t>& widths) {
 
 }  // namespace
 
-std::vector<TableSection> StateSections(const UnitState& state) {
+std::vector<TableSection> StateTables(const UnitState& state) {
     Tables tables;
     WalkState(state, tables);
     return tables.sections;

@@ -20,7 +20,7 @@ struct TableSection {
 };
 
 /// The state as tables. Those of things that are not there have no rows.
-std::vector<TableSection> StateSections(const UnitState& state);
+std::vector<TableSection> StateTables(const UnitState& state);
 
 /// The sections that have rows, with aligned columns and an empty line after each.
 std::string RenderSections(std::span<const TableSection> sections);

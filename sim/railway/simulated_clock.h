@@ -9,7 +9,7 @@ namespace zelvar::sim {
 
 /// Simulated seconds in one second of the caller's clock; 0: simulated time stands still.
 inline constexpr int kUsualTimeFactor = 1;
-inline constexpr int kMostTimeFactor = 100;
+inline constexpr int kMaxTimeFactor = 100;
 
 /// Simulated time by a clock that is handed in; 0 when it is first asked.
 class SimulatedClock {
@@ -27,7 +27,7 @@ class SimulatedClock {
         }
         return simulated_;
     }
-    /// Goes on from `simulated` at `now`, with the factor 0 to `kMostTimeFactor`.
+    /// Goes on from `simulated` at `now`, with the factor 0 to `kMaxTimeFactor`.
     void GoOn(std::chrono::nanoseconds now, std::chrono::nanoseconds simulated, int factor) {
         asked_ = now;
         simulated_ = simulated;

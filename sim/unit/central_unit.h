@@ -41,10 +41,10 @@ class CentralUnit {
 
     /// Lets time pass up to `now` of the caller's clock; `Handle` and `Reboot` do so by themselves.
     void Advance(Time now);
-    /// Simulated seconds in each second from `now` on, 0 to `kMostTimeFactor`.
+    /// Simulated seconds in each second from `now` on, 0 to `kMaxTimeFactor`.
     void SetTimeFactor(int factor, Time now);
     int timeFactor() const { return state_.clock.factor(); }
-    /// Lets `span` of simulated time pass at once, up to `kMostCatchUp`, whatever the time factor.
+    /// Lets `span` of simulated time pass at once, up to `kMaxCatchUp`, whatever the time factor.
     void Run(Time span, Time now);
     /// Off and on again: the permanent settings become active, transparent mode ends, and so do
     /// fault, hold, overcurrents and waiting reports. Two trains that still share a block are an

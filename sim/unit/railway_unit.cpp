@@ -52,7 +52,7 @@ void ReportTrack(UnitState& state) {
 Time RunRailway(UnitState& state, Time until) {
     ReportTrack(state);
     if (Powered(state) && !state.railway.Resting(state.drive)) {
-        until = std::min<Time>(until, state.now + kMostCatchUp);
+        until = std::min<Time>(until, state.now + kMaxCatchUp);
         const Time past = state.now % kRailwayStep;
         for (Time step = state.now - past + kRailwayStep; step <= until && Powered(state);
              step += kRailwayStep) {

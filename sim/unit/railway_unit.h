@@ -9,7 +9,7 @@
 namespace zelvar::sim {
 
 /// The most simulated time that one call catches up with while trains run: 60,000 steps.
-inline constexpr std::chrono::minutes kMostCatchUp{10};
+inline constexpr std::chrono::minutes kMaxCatchUp{10};
 
 /// Whether the unit feeds the track.
 bool Powered(const UnitState& state);

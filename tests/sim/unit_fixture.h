@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/console/state_listing.h"
+#include "sim/console/state_dump.h"
 #include "sim/test_layouts.h"
 #include "sim/unit/central_unit.h"
 
@@ -57,7 +57,7 @@ class UnitFixture : public testing::Test {
     /// What the listing says of `name`; "none" when it does not mention it.
     std::string Listed(const std::string& name) {
         unit_.Advance(now_);
-        std::istringstream lines(StateListing(unit_.state()));
+        std::istringstream lines(StateDump(unit_.state()));
         for (std::string line; std::getline(lines, line);) {
             if (line.starts_with(name + "=")) {
                 return line.substr(name.size() + 1);

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <sstream>
 
-#include "sim/console/state_listing.h"
+#include "sim/console/state_dump.h"
 
 namespace zelvar::twin {
 
@@ -83,7 +83,7 @@ void TwinPort::Pass(std::chrono::milliseconds time) {
 
 std::string TwinPort::Listed(const std::string& name) {
     unit_->Advance(Now());
-    std::istringstream lines(sim::StateListing(unit_->state()));
+    std::istringstream lines(sim::StateDump(unit_->state()));
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with(name + "=")) {
             return line.substr(name.size() + 1);

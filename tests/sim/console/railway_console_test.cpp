@@ -172,8 +172,8 @@ TEST_F(RailwayConsole, StateShowsTrainsAndTrackAsTables) {
 
 TEST_F(RailwayConsole, AnEmptyTableListsNoTrains) {
     unit_ = CentralUnit(EmptyLayout());
-    EXPECT_EQ(StateListing(unit_.state()).find("train."), std::string::npos);
-    EXPECT_EQ(StateListing(unit_.state()).find("section."), std::string::npos);
+    EXPECT_EQ(StateDump(unit_.state()).find("train."), std::string::npos);
+    EXPECT_EQ(StateDump(unit_.state()).find("section."), std::string::npos);
     EXPECT_EQ(Answer("state").find("Trains"), std::string::npos);
     EXPECT_EQ(Answer("state").find("Simulated time"), std::string::npos);
     EXPECT_EQ(Answer("place red west"), "error unknown train red: the layout has none");

@@ -15,7 +15,7 @@ using Rows = std::vector<std::vector<std::string>>;
 class StateTable : public UnitFixture {
   protected:
     TableSection SectionOf(std::string_view heading) {
-        for (const TableSection& section : StateSections(unit_.state())) {
+        for (const TableSection& section : StateTables(unit_.state())) {
             if (section.heading == heading) {
                 return section;
             }

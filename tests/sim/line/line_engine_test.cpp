@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <string>
 
-#include "sim/console/state_listing.h"
+#include "sim/console/state_dump.h"
 #include "sim/test_layouts.h"
 
 namespace zelvar::sim {
@@ -84,14 +84,14 @@ TEST_F(LineEngineTest, BrokenFramesGetNoReplyAndAreCounted) {
     engine_.Receive(Bytes{0x08, 0xF9}, milliseconds(0));
     engine_.Receive(Bytes{0x18, 0xE8}, milliseconds(0));
     EXPECT_EQ(engine_.NextDue(), std::nullopt);
-    EXPECT_NE(StateListing(unit_.state()).find("broken-frames=2\n"), std::string::npos);
+    EXPECT_NE(StateDump(unit_.state()).find("broken-frames=2\n"), std::string::npos);
 }
 
 TEST_F(LineEngineTest, SilentUnitStillCarriesOut) {
     faults_.SetSilent(true);
     engine_.Receive(Bytes{0x0B, 0xA2, 0x85, 0xCC, 0x82}, milliseconds(0));
     EXPECT_EQ(engine_.NextDue(), std::nullopt);
-    EXPECT_NE(StateListing(unit_.state()).find("block.5=speed:12"), std::string::npos);
+    EXPECT_NE(StateDump(unit_.state()).find("block.5=speed:12"), std::string::npos);
 }
 
 TEST_F(LineEngineTest, TracesFramesAsTheyWere) {

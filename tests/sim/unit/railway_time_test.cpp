@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "sim/console/console.h"
-#include "sim/console/state_listing.h"
+#include "sim/console/state_dump.h"
 #include "sim/railway_fixture.h"
 #include "sim/unit/railway_unit.h"
 
@@ -52,7 +52,7 @@ std::string RunWith(milliseconds rhythm, std::uint32_t seed, int factor = 1,
     }
     askUntil(seconds(30));
     unit.Advance(wall(seconds(30)));
-    return StateListing(unit.state());
+    return StateDump(unit.state());
 }
 
 TEST(SameRun, WhateverTheTimesOfTheCallsBetween) {
@@ -130,7 +130,7 @@ TEST_F(TimeFactor, MakesTrainsAndRampsFaster) {
 
 TEST_F(TimeFactor, OfAHundredIsTheMost) {
     Build({AnalogTrain("red", kWest, 20)});
-    Set(kMostTimeFactor);
+    Set(kMaxTimeFactor);
     DriveLoop(30);
     Wait(milliseconds(100));
     EXPECT_EQ(Where("red"), "west 20.0");
@@ -175,9 +175,9 @@ using LongAbsence = RailwayFixture;
 TEST_F(LongAbsence, IsCaughtUpToALimitWhileTrainsRun) {
     Build({AnalogTrain("red", kStub)});
     Drive(9, 40);
-    Wait(kMostCatchUp);
+    Wait(kMaxCatchUp);
     EXPECT_EQ(Listed("simulated-ms"), "600000");
-    Wait(kMostCatchUp + milliseconds(1));
+    Wait(kMaxCatchUp + milliseconds(1));
     EXPECT_EQ(Listed("simulated-ms"), "1200000") << "the rest is dropped";
     Wait(seconds(1));
     EXPECT_EQ(Listed("simulated-ms"), "1201000");

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZelvarConfig authors
 // SPDX-License-Identifier: MIT
-#include "sim/console/state_listing.h"
+#include "sim/console/state_dump.h"
 
 #include <utility>
 
@@ -10,9 +10,9 @@ namespace zelvar::sim {
 
 namespace {
 
-class Listing : public StateView {
+class Dump : public StateView {
   public:
-    Listing() : StateView(kDump) {}
+    Dump() : StateView(kDump) {}
     std::string Text() { return std::move(text_); }
 
   private:
@@ -39,10 +39,10 @@ class Listing : public StateView {
 
 }  // namespace
 
-std::string StateListing(const UnitState& state) {
-    Listing listing;
-    WalkState(state, listing);
-    return listing.Text() + '\n';
+std::string StateDump(const UnitState& state) {
+    Dump dump;
+    WalkState(state, dump);
+    return dump.Text() + '\n';
 }
 
 }  // namespace zelvar::sim

@@ -9,6 +9,6 @@
 namespace zelvar::sim {
 
 /// The state for programs: lines "name=value", each ended by a line feed.
-std::string StateListing(const UnitState& state);
+std::string StateDump(const UnitState& state);
 
 }  // namespace zelvar::sim
