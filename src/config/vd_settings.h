@@ -24,7 +24,7 @@ enum class Clamped { OnClick, OnChange };
 
 /// A text field with its spin control.
 struct VDField {
-    /// 1..15
+    /// 1..63
     int parameter = 0;
     const char* accessibleName = "";
     int index = kNoIndex;
@@ -117,7 +117,7 @@ std::optional<ModuleCommand> VDCommandOf(const VDSetting& setting, std::size_t n
 /// @param module the line 0..63 that is chosen; for a group or none there is no reply
 /// @param permanent which settings the form shows
 /// @return nothing unless the reply is from that module and of these settings; the parameter is
-/// 1..15 then
+/// 1..63 then
 std::optional<VDReply> ReadVDConfigReply(const Reply& reply, std::optional<int> module,
                                          bool permanent);
 

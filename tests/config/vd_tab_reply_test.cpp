@@ -90,7 +90,7 @@ TEST_F(VDTabReply, AValueThatTheSettingDoesNotHaveChangesNothing) {
     Click("optPWMM(8)");
     Click("optOCD(1)");
     for (const auto& [parameter, value] :
-         {std::pair{9, 6}, {9, 0}, {10, 3}, {11, 3}, {12, 2}, {0, 1}, {16, 1}}) {
+         {std::pair{9, 6}, {9, 0}, {10, 3}, {11, 3}, {12, 2}, {0, 1}, {63, 1}}) {
         Report(parameter, value);
     }
     EXPECT_TRUE(IsChosen("optPWMM(8)"));

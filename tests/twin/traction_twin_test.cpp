@@ -161,8 +161,8 @@ TEST_F(TractionTwin, EraseBringsOneModuleBackInBothMemories) {
             memory.permanent.fill(98);
         }
         const Changes changes = EffectOf(CommandForVD(kVDErase, line));
-        EXPECT_EQ(changes.size(), 2U * 15U);
-        for (int parameter = 1; parameter <= 15; ++parameter) {
+        EXPECT_EQ(changes.size(), 2U * (sim::kTractionParameters - 1));
+        for (int parameter = 1; parameter < sim::kTractionParameters; ++parameter) {
             for (const bool permanent : {false, true}) {
                 EXPECT_EQ(changes.at(ParameterName(line, permanent, parameter)),
                           factory[static_cast<std::size_t>(parameter)]);

@@ -24,18 +24,26 @@ struct UnitCase {
     int second;   // the bit of a second unit
 };
 
+std::vector<int> TractionParameters() {
+    std::vector<int> parameters;
+    for (const TractionSetting& setting : kTractionSettings) {
+        parameters.push_back(setting.parameter);
+    }
+    return parameters;
+}
+
 class TractionMemory : public ModuleMemory, public testing::WithParamInterface<UnitCase> {};
 
 TEST_P(TractionMemory, KeepsEveryParameterInBothPartsApart) {
     const UnitCase& unit = GetParam();
-    for (int parameter = 1; parameter < kTractionParameters; ++parameter) {
+    for (const int parameter : TractionParameters()) {
         for (const int permanent : {0, kPermanent}) {
             const int value = parameter * 3 + (permanent != 0 ? 60 : 0);
             EXPECT_EQ(Ask({0, unit.address, 8 + unit.second, permanent + parameter, value}),
                       Payload{});
         }
     }
-    for (int parameter = 1; parameter < kTractionParameters; ++parameter) {
+    for (const int parameter : TractionParameters()) {
         for (const int permanent : {0, kPermanent}) {
             const bool clock = parameter == 15 && permanent == 0 && unit.line != 8;
             const int value = clock ? 0 : parameter * 3 + (permanent != 0 ? 60 : 0);
@@ -109,12 +117,12 @@ TEST_F(ModuleMemory, AnAbsentModuleAnswersNothingAndKeepsNothing) {
 }
 
 TEST_F(ModuleMemory, ParametersThatDoNotExistAreNeitherSetNorAnswered) {
-    for (const int parameter : {0, 16, 63, kPermanent + 16}) {
+    for (const int parameter : {0, kTractionParameters, 63, kPermanent + kTractionParameters}) {
         EXPECT_EQ(Get({0, 32, 8, parameter}), Payload{}) << parameter;
     }
     const auto before = unit_.state().memories.traction[0].active;
     Ask({0, 32, 8, 0, 5});
-    Ask({0, 32, 8, 16, 5});
+    Ask({0, 32, 8, kTractionParameters, 5});
     EXPECT_EQ(unit_.state().memories.traction[0].active, before);
 }
 
