@@ -26,7 +26,7 @@ class Reply {
     }
 
     /// The Hold bit (1) and the Fault bit (2).
-    int StateBits() const { return frame_[0] >> 4 & 3; }
+    int StateBits() const { return (frame_[0] & (kHeaderFault | kHeaderHold)) / kHeaderHold; }
     bool IsFault() const { return (frame_[0] & kHeaderFault) != 0; }
 
     /// Whether the header carries the mark that every header should carry. The status request and

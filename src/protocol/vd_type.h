@@ -28,12 +28,6 @@ class VDTypes {
         }
     }
 
-    constexpr VDTypes With(VDType type) const {
-        VDTypes types = *this;
-        types.bits_ |= BitOf(type);
-        return types;
-    }
-
     constexpr bool Contains(VDType type) const { return (bits_ & BitOf(type)) != 0; }
     constexpr bool Intersects(VDTypes other) const { return (bits_ & other.bits_) != 0; }
     bool operator==(const VDTypes&) const = default;

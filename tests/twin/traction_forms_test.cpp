@@ -57,13 +57,12 @@ std::string MemberName(const char* name, int index) {
 
 /// The modules that give a setting back: a QLRX-s gives none. The mode of a VD60 can only be read.
 VDTypes ReadableFor(const VDSetting& setting) {
-    VDTypes types;
-    for (const VDType type : {VDType::VdF, VDType::Vd60}) {
-        if (setting.shownFor.Contains(type) || setting.buttonsOutside) {
-            types = types.With(type);
-        }
-    }
-    return types;
+    const bool byVdF = setting.buttonsOutside || setting.shownFor.Contains(VDType::VdF);
+    const bool byVd60 = setting.buttonsOutside || setting.shownFor.Contains(VDType::Vd60);
+    return byVdF && byVd60 ? VDTypes{VDType::VdF, VDType::Vd60}
+           : byVdF         ? VDTypes{VDType::VdF}
+           : byVd60        ? VDTypes{VDType::Vd60}
+                           : VDTypes{};
 }
 
 FormSetting NumbersOf(const VDSetting& setting, int option) {
